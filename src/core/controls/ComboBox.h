@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "controls/ItemList.h"
+
+namespace tressel {
+
+/// A text with a list of choices below it.
+class ComboBox : public ItemList {
+public:
+    enum class Kind {
+        Editable, ///< the user may type any text
+        List, ///< one of the entries, nothing else
+    };
+
+    ComboBox(Form &form, const QString &name, Kind kind = Kind::Editable);
+
+    Kind BoxKind() const { return kind; }
+
+    /// The text of the box. For a List that of the selected entry.
+    const QString &Text() const { return text; }
+    /// Raises Change when the text differs, and selects nothing. In a List it selects the entry of that
+    /// text instead, as SetListIndex does, and fails with 380 without one.
+    void SetText(const QString &newText);
+
+    Event<> Change;
+
+    // For faces.
+    void UserEdits(const QString &newText);
+
+protected:
+    void OnSelected() override;
+
+private:
+    Kind kind;
+    QString text;
+};
+
+} // namespace tressel

@@ -1,0 +1,186 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "controls/Form.h"
+
+#include "controls/Control.h"
+
+#include <utility>
+
+namespace tressel {
+
+Form::Form(QString formName)
+    : name(std::move(formName))
+{
+}
+
+Form::~Form() = default;
+
+void Form::SetCaption(const QString &text)
+{
+    if (caption == text)
+        return;
+    caption = text;
+    NoteFormChanged();
+}
+
+void Form::Move(int newLeft, int newTop)
+{
+    if (left == newLeft && top == newTop)
+        return;
+    left = newLeft;
+    top = newTop;
+    NoteFormChanged();
+}
+
+void Form::SetSize(int newWidth, int newHeight)
+{
+    if (width == newWidth && height == newHeight)
+        return;
+    width = newWidth;
+    height = newHeight;
+    NoteFormChanged();
+    Resize.Raise();
+}
+
+void Form::SetState(WindowState newState)
+{
+    if (state == newState)
+        return;
+    state = newState;
+    NoteFormChanged();
+}
+
+void Form::Show()
+{
+    EnsureLoaded();
+    visible = true;
+    NoteFormChanged();
+    Activate.Raise();
+}
+
+void Form::Hide()
+{
+    if (!visible)
+        return;
+    visible = false;
+    NoteFormChanged();
+}
+
+void Form::EnsureLoaded()
+{
+    if (loaded)
+        return;
+    loaded = true;
+    Load.Raise();
+}
+
+void Form::Unload()
+{
+    if (!loaded)
+        return;
+    bool refused = false;
+    QueryUnload.Raise(refused);
+    if (!refused)
+        Unloading.Raise(refused);
+    if (refused)
+        return;
+    Hide();
+    loaded = false;
+}
+
+void Form::Dispatch(const std::function<void()> &handler)
+{
+    // Counted by hand: an end of the process in a test unwinds through here as an exception of its own.
+    struct Depth {
+        explicit Depth(int &count) : count(count) { ++count; }
+        ~Depth() { --count; }
+        int &count;
+    };
+    {
+        const Depth entered(depth);
+        try {
+            handler();
+        } catch (const Failure &failure) {
+            if (!fatal)
+                throw;
+            fatal(failure);
+        }
+    }
+    if (depth == 0 && afterEvent)
+        afterEvent();
+}
+
+void Form::SetChangeListener(std::function<void()> listener)
+{
+    changeListener = std::move(listener);
+    listenerTold = false;
+    if (formChanged || !changed.isEmpty())
+        TellListener();
+}
+
+QList<Control *> Form::TakeChanged()
+{
+    listenerTold = false;
+    const QList<Control *> taken = std::exchange(changed, {});
+    for (Control *control : taken)
+        control->noted = false;
+    return taken;
+}
+
+bool Form::TakeFormChanged()
+{
+    listenerTold = false;
+    return std::exchange(formChanged, false);
+}
+
+void Form::TakeGeometry(int newLeft, int newTop, int newWidth, int newHeight, WindowState newState)
+{
+    left = newLeft;
+    top = newTop;
+    state = newState;
+    if (width == newWidth && height == newHeight)
+        return;
+    width = newWidth;
+    height = newHeight;
+    Dispatch([this] { Resize.Raise(); });
+}
+
+void Form::Register(Control &control)
+{
+    Q_ASSERT_X(!byName.contains(control.Name()), "Form::Register", qPrintable(control.Name()));
+    controls.append(&control);
+    byName.insert(control.Name(), &control);
+}
+
+void Form::Forget(Control &control)
+{
+    controls.removeOne(&control);
+    changed.removeOne(&control);
+    byName.remove(control.Name());
+}
+
+void Form::NoteChanged(Control &control)
+{
+    if (control.noted)
+        return;
+    control.noted = true;
+    changed.append(&control);
+    TellListener();
+}
+
+void Form::NoteFormChanged()
+{
+    formChanged = true;
+    TellListener();
+}
+
+void Form::TellListener()
+{
+    if (listenerTold || !changeListener)
+        return;
+    listenerTold = true;
+    changeListener();
+}
+
+} // namespace tressel

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "controls/Label.h"
+
+#include <utility>
+
+namespace tressel {
+
+Label::Label(Form &form, const QString &name, QString text)
+    : Control(form, name)
+    , caption(std::move(text))
+{
+}
+
+void Label::SetCaption(const QString &text)
+{
+    if (caption == text)
+        return;
+    caption = text;
+    NoteChanged();
+    Change.Raise();
+}
+
+void Label::UserClicks()
+{
+    UserAct([this] { Click.Raise(); });
+}
+
+} // namespace tressel

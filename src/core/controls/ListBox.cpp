@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "controls/ListBox.h"
+
+namespace tressel {
+
+void ListBox::UserActivates(int index)
+{
+    if (index < 0 || index >= ListCount())
+        return;
+    if (ListIndex() != index)
+        UserSelects(index);
+    UserAct([this] { DoubleClick.Raise(); });
+}
+
+} // namespace tressel

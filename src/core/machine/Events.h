@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+namespace tressel {
+
+/// The event loop as a long run sees it.
+class Events {
+public:
+    virtual ~Events() = default;
+
+    /// Lets pending events run: a click or a key may be served before this returns. May return at once
+    /// where it was called a moment ago, so it can be called for every name of a run.
+    virtual void LetEventsRun() = 0;
+    /// Shows the busy pointer, or the default one again. Calls don't nest.
+    virtual void SetBusyPointer(bool busy) = 0;
+};
+
+/// The busy pointer for as long as this object lives.
+class BusyPointer {
+public:
+    explicit BusyPointer(Events &events)
+        : events(events)
+    {
+        events.SetBusyPointer(true);
+    }
+    ~BusyPointer() { events.SetBusyPointer(false); }
+    BusyPointer(const BusyPointer &) = delete;
+    BusyPointer &operator=(const BusyPointer &) = delete;
+
+private:
+    Events &events;
+};
+
+} // namespace tressel

@@ -1,0 +1,137 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "base/Failure.h"
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QList>
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+namespace tressel {
+
+enum class EntryKind {
+    File,
+    Folder,
+    Link, ///< a symbolic link, whatever it points to
+    Other, ///< a device, pipe or socket
+};
+
+/// One entry of a folder, as a listing delivers it.
+struct FolderEntry {
+    QString name;
+    EntryKind kind = EntryKind::File;
+    bool hidden = false;
+};
+
+/// What is known of one path.
+struct FileStatus {
+    EntryKind kind = EntryKind::File;
+    qint64 length = 0; ///< bytes
+    bool readOnly = false;
+    bool hidden = false;
+    QDateTime modified;
+};
+
+enum class Links {
+    Follow, ///< speak of what a link points to
+    Keep, ///< speak of the link itself
+};
+
+/// What to open a file for. None of them ever makes a folder.
+enum class OpenFor {
+    Reading, ///< the file must exist
+    Writing, ///< made or emptied
+    Appending, ///< made if it isn't there
+    Changing, ///< read and write in place; the file must exist
+    Creating, ///< must not exist; fails with 58 if it does
+};
+
+enum class Sharing {
+    Shared,
+    Exclusive, ///< fails with 70 at once if another holds the file exclusively
+};
+
+/// An open file. Closed by its destructor; Close reports what a destructor can't.
+class OpenFile {
+public:
+    virtual ~OpenFile() = default;
+
+    /// Up to `maximum` bytes from the present position; empty at the end of the file.
+    virtual QByteArray Read(qint64 maximum) = 0;
+    /// Writes all of the bytes at the present position. Fails with 61 on a full disc.
+    virtual void Write(const QByteArray &bytes) = 0;
+    virtual qint64 Position() const = 0;
+    virtual void Seek(qint64 position) = 0;
+    virtual qint64 Length() const = 0;
+    /// Has the system write everything down to the medium.
+    virtual void Flush() = 0;
+    virtual void Close() = 0;
+};
+
+/// A folder open for reading, for walks that must not hold a whole listing in memory.
+class FolderReader {
+public:
+    virtual ~FolderReader() = default;
+    /// The next entry in the order of the file system, nothing at the end. Never "." or "..".
+    virtual std::optional<FolderEntry> Next() = 0;
+};
+
+/// A volume that a person would recognise as a drive.
+struct Volume {
+    QString root; ///< path of its root, with the separator at its end
+    QString label; ///< may be empty
+};
+
+/// The disc, in single steps: anything of several steps is a function over this interface.
+///
+/// Paths are text in the form of the platform; on a platform whose names are bytes, a byte that is no
+/// UTF-8 travels as the lone surrogate U+DC80 + (byte - 0x80) and comes back as the same byte.
+/// Failures: 53 a file is missing and its folder is there, 76 a folder of the path is missing, 75 a
+/// folder that exists is made, one that isn't empty is removed, a folder is opened as a file, or the
+/// system refuses access; 5 a path that can't be a path; 52 an empty name; 58 a target exists; 61 a
+/// full disc; 57 a device error; 70 a file held by another; 71 a medium that isn't there.
+class FileSystem {
+public:
+    virtual ~FileSystem() = default;
+
+    /// The character between the levels of a path.
+    virtual QChar Separator() const = 0;
+
+    /// Nothing if the path can't be reached for whatever reason.
+    virtual std::optional<FileStatus> Status(const QString &path, Links links) = 0;
+
+    /// All entries of a folder but "." and "..", sorted by name without regard to case.
+    virtual QList<FolderEntry> List(const QString &folder) = 0;
+    /// The same one by one, in the order of the file system.
+    virtual std::unique_ptr<FolderReader> Read(const QString &folder) = 0;
+
+    /// Makes one folder, whose parent must exist. Reports its failure instead of throwing it, since
+    /// most callers try levels that exist.
+    [[nodiscard]] virtual std::optional<Failure> TryMakeFolder(const QString &path) = 0;
+    /// Removes one empty folder; never follows a link.
+    [[nodiscard]] virtual std::optional<Failure> TryRemoveFolder(const QString &path) = 0;
+    /// Removes one file or link; never a folder.
+    virtual void RemoveFile(const QString &path) = 0;
+    /// Gives a file, link or folder another path on the same volume. Never overwrites: 58 if the target exists.
+    virtual void Rename(const QString &from, const QString &to) = 0;
+
+    virtual std::unique_ptr<OpenFile> Open(const QString &path, OpenFor purpose, Sharing sharing = Sharing::Shared) = 0;
+
+    /// Takes the write protection off a file, or puts it on.
+    virtual void SetReadOnly(const QString &path, bool readOnly) = 0;
+
+    /// The mounted volumes, the system's root first.
+    virtual QList<Volume> Volumes() = 0;
+    /// The label of the volume that holds the path; empty if it has none. Fails with 71 if there is no such volume.
+    virtual QString VolumeLabel(const QString &path) = 0;
+    /// Bytes that can still be written to the volume that holds the path.
+    virtual qint64 FreeSpace(const QString &path) = 0;
+};
+
+} // namespace tressel

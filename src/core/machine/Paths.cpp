@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "machine/Paths.h"
+
+#include "machine/FileSystem.h"
+
+namespace tressel {
+
+QString WithSeparator(const FileSystem &files, const QString &path)
+{
+    return path.endsWith(files.Separator()) ? path : path + files.Separator();
+}
+
+QString JoinPath(const FileSystem &files, const QString &folder, const QString &name)
+{
+    return WithSeparator(files, folder) + name;
+}
+
+QString EntryToPath(const FileSystem &files, const QString &entry)
+{
+    QString path = entry;
+    return path.replace(u'\\', files.Separator());
+}
+
+bool FolderExists(FileSystem &files, const QString &path)
+{
+    const auto status = files.Status(path, Links::Follow);
+    return status && status->kind == EntryKind::Folder;
+}
+
+bool FileExists(FileSystem &files, const QString &path)
+{
+    const auto status = files.Status(path, Links::Follow);
+    return status && status->kind != EntryKind::Folder;
+}
+
+QString FileNameOf(const FileSystem &files, const QString &path)
+{
+    return path.mid(path.lastIndexOf(files.Separator()) + 1);
+}
+
+QString FolderOf(FileSystem &files, const QString &path)
+{
+    const qsizetype last = path.lastIndexOf(files.Separator());
+    if (last < 0)
+        return {};
+    const QString root = DriveOf(files, path);
+    return last < root.size() ? path.left(last + 1) : path.left(last);
+}
+
+QString DriveOf(FileSystem &files, const QString &path)
+{
+    const QString whole = WithSeparator(files, path);
+    const Qt::CaseSensitivity sensitivity = files.Separator() == u'\\' ? Qt::CaseInsensitive : Qt::CaseSensitive;
+    QString best;
+    const QList<Volume> volumes = files.Volumes();
+    for (const Volume &volume : volumes) {
+        if (whole.startsWith(volume.root, sensitivity) && volume.root.size() > best.size())
+            best = volume.root;
+    }
+    return best.isEmpty() && !volumes.isEmpty() ? volumes.first().root : best;
+}
+
+} // namespace tressel

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+namespace tressel {
+
+class FileSystem;
+
+/// The path with the separator at its end; a path that has one stays as it is, an empty one becomes the separator.
+QString WithSeparator(const FileSystem &files, const QString &path);
+
+/// The folder and the name put together with exactly one separator between them.
+QString JoinPath(const FileSystem &files, const QString &folder, const QString &name);
+
+/// A name that a user wrote, with "\" for a level, in the form of the platform.
+QString EntryToPath(const FileSystem &files, const QString &entry);
+
+/// True if something is there and it is a folder; a link to a folder counts as one.
+bool FolderExists(FileSystem &files, const QString &path);
+
+/// True if something is there and it isn't a folder; a link to a file counts as one.
+bool FileExists(FileSystem &files, const QString &path);
+
+/// What stands behind the last separator; the whole path without one.
+QString FileNameOf(const FileSystem &files, const QString &path);
+
+/// What stands before the last separator, the root with its separator; empty without one.
+QString FolderOf(FileSystem &files, const QString &path);
+
+/// The root of the volume that the path is on: the longest root of a volume that it starts with. On a
+/// platform with drive letters "C:\". The first volume's root if none fits.
+QString DriveOf(FileSystem &files, const QString &path);
+
+} // namespace tressel

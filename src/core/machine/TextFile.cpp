@@ -1,0 +1,4 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "machine/TextFile.h"
