@@ -87,6 +87,7 @@ void Form::Unload()
         return;
     Hide();
     loaded = false;
+    Unloaded.Raise();
 }
 
 void Form::Dispatch(const std::function<void()> &handler)

@@ -67,6 +67,7 @@ public:
     Event<> Load;
     Event<bool &> QueryUnload; ///< set the argument to refuse
     Event<bool &> Unloading; ///< set the argument to refuse
+    Event<> Unloaded; ///< the form has gone from the screen
     Event<> Resize;
     Event<> Activate;
 

@@ -123,6 +123,10 @@ public:
 
     virtual std::unique_ptr<OpenFile> Open(const QString &path, OpenFor purpose, Sharing sharing = Sharing::Shared) = 0;
 
+    /// Puts other contents in place of a file's, or makes the file: after a failure the old contents
+    /// stand whole. A link is followed, and the file keeps its rights.
+    virtual void ReplaceContents(const QString &path, const QByteArray &bytes) = 0;
+
     /// Takes the write protection off a file, or puts it on.
     virtual void SetReadOnly(const QString &path, bool readOnly) = 0;
 

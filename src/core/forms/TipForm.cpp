@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "forms/TipForm.h"
+
+#include "machine/Paths.h"
+#include "machine/Program.h"
+#include "machine/TextFile.h"
+#include "settings/Settings.h"
+
+#include <utility>
+
+namespace tressel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Shown all at once where the file is missing.
+const QString builtInTips
+    = u"1. If you will create a folder from filename Check for Ext for remove extension ex (.txt)\n"
+      "2. If you will create from ex January, February or Peter, Joe... Unceck for Ext\n"
+      "3. You must Remove hook (UnChecked) with ''Remove Ext'' see red Arrow below...\n"
+      "4. If this is checked shows Wrong format and cut 4 last letter ex: (.txt) dot and txt = 4\n"_s;
+
+} // namespace
+
+TipForm::TipForm(FileSystem &fileSystem, const Program &runningProgram, Settings &settings,
+                 std::function<void(int)> tipsSwitched, std::function<void()> unloaded)
+    : Form(u"frmTip"_s)
+    , Label1(*this, u"Label1"_s, u"Did you know..."_s)
+    , lblTipText(*this, u"lblTipText"_s)
+    , cmdNextTip(*this, u"cmdNextTip"_s, u"Next"_s)
+    , cmdAbout(*this, u"cmdAbout"_s, u"About"_s)
+    , cmdOK(*this, u"cmdOK"_s, u"OK"_s)
+    , chkLoadTipsAtStartup(*this, u"chkLoadTipsAtStartup"_s, u"&Show Tips at Startup"_s)
+    , files(fileSystem)
+    , program(runningProgram)
+{
+    SetCaption(u"Tip of the Day"_s);
+    // The window that it opens isn't there yet.
+    cmdAbout.SetEnabled(false);
+    Load.Handle([this] { LoadForm(); });
+    Unloaded.Handle(std::move(unloaded));
+    cmdNextTip.Click.Handle([this] { NextTip(); });
+    cmdOK.Click.Handle([this] { Unload(); });
+    chkLoadTipsAtStartup.Click.Handle([this, &settings, tipsSwitched = std::move(tipsSwitched)] {
+        settings.Write(keys::ShowTips, QString::number(chkLoadTipsAtStartup.Value()));
+        tipsSwitched(chkLoadTipsAtStartup.Value());
+    });
+}
+
+void TipForm::LoadForm()
+{
+    if (LoadTips(JoinPath(files, program.Folder(), u"TIPOFDAY.TXT"_s))) {
+        cmdNextTip.SetEnabled(true);
+        NextTip();
+    } else {
+        cmdNextTip.SetEnabled(false);
+        lblTipText.SetCaption(builtInTips);
+    }
+}
+
+bool TipForm::LoadTips(const QString &path)
+{
+    if (!FileExists(files, path))
+        return false;
+    LineReader reader(files, path);
+    while (const auto line = reader.Next())
+        tips += *line;
+    reader.Close();
+    return true;
+}
+
+void TipForm::DisplayCurrentTip()
+{
+    if (!tips.isEmpty())
+        lblTipText.SetCaption(tips.at(currentTip - 1));
+}
+
+void TipForm::NextTip()
+{
+    ++currentTip;
+    if (currentTip > tips.size())
+        currentTip = 1;
+    DisplayCurrentTip();
+}
+
+} // namespace tressel

@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "tools/folders/BrowsePage.h"
+
+#include "base/Steps.h"
+#include "language/Session.h"
+#include "tools/folders/FolderListFile.h"
+#include "tools/folders/FolderTree.h"
+
+namespace tressel {
+
+using namespace Qt::StringLiterals;
+
+BrowsePage::BrowsePage(WorkArea &workArea, FileSystem &files, FolderTree &folderTree, FolderListFile &textFile,
+                       Session &shared)
+    : page(workArea.form, u"FrameXPMenu(0)"_s)
+    , DrvList(workArea.form, u"DrvList"_s, files)
+    , DirList(workArea.form, u"DirList"_s, files)
+    , FileList(workArea.form, u"FileList"_s, files)
+    , area(workArea)
+    , tree(folderTree)
+    , listFile(textFile)
+    , session(shared)
+{
+    DrvList.SetToolTip(u" List of drivelist "_s);
+    DirList.SetToolTip(u" List of dirlist "_s);
+    FileList.SetToolTip(u" List of filelist "_s);
+
+    DrvList.Click.Handle([this] { DrvList_Click(); });
+    DirList.Click.Handle([this] { DirList_Click(); });
+    DirList.Change.Handle([this] { DirList_Change(); });
+    FileList.DoubleClick.Handle([this] { FileList_DoubleClick(); });
+}
+
+void BrowsePage::LoadAllNames()
+{
+    area.LstItem.Clear();
+    session.RunNumber = 1;
+    // Kept: the names come in as they stand, also where "Remove Ext" is checked.
+    for (const QString &name : FileList.Items())
+        area.LstItem.AddItem(name);
+    tree.RefreshFolderTree();
+    area.lblStatusLine.SetCaption(u"Finished"_s);
+    listFile.SaveList();
+}
+
+void BrowsePage::DrvList_Click()
+{
+    // A drive without a medium is left again.
+    Steps steps([this](const Failure &) { DrvList.SetDrive(DirList.Path()); });
+    steps.Do([&] { DirList.SetPath(DrvList.Drive()); });
+}
+
+void BrowsePage::DirList_Click()
+{
+    Steps steps;
+    steps.Do([&] { FileList.SetPath(DirList.SelectedPath()); });
+}
+
+void BrowsePage::DirList_Change()
+{
+    Steps steps;
+    steps.Do([&] { FileList.SetPath(DirList.Path()); });
+}
+
+void BrowsePage::FileList_DoubleClick()
+{
+    const QString name = FileList.FileName();
+    area.LstItem.AddItem(name);
+    tree.RefreshFolderTree();
+    area.lblStatusLine.SetCaption(u"File ''"_s + name + u"'' added to list"_s);
+    session.ListFromReport = false;
+    session.ListFromTextFile = false;
+    session.ListFromFileList = true;
+    // Out to the file and back: the loader is what takes an extension off the name. Kept: before a list
+    // file was chosen both fail, and the list stays empty.
+    listFile.SaveList();
+    listFile.LoadList();
+}
+
+} // namespace tressel

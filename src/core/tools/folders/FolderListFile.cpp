@@ -1,0 +1,150 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "tools/folders/FolderListFile.h"
+
+#include "base/Text.h"
+#include "base/Version.h"
+#include "language/Session.h"
+#include "machine/Dialogs.h"
+#include "machine/Events.h"
+#include "machine/TextFile.h"
+#include "settings/Settings.h"
+#include "tools/folders/FolderTree.h"
+
+namespace tressel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The automatic reload takes a file of this many bytes and no larger one.
+constexpr qint64 largestAtStart = 32000;
+
+/// "Tressel v5.1450": the minor version stays out.
+QString TitleWithVersion()
+{
+    return ApplicationTitle + u" v"_s + QString::number(MajorVersion) + u'.' + QString::number(Revision);
+}
+
+QString TailOfPath(const QString &path)
+{
+    return Right(path, 70);
+}
+
+} // namespace
+
+FolderListFile::FolderListFile(WorkArea &workArea, FolderTree &folderTree, FileSystem &fileSystem,
+                               Events &eventLoop, Dialogs &boxes, Settings &stored, Session &shared)
+    : area(workArea)
+    , tree(folderTree)
+    , files(fileSystem)
+    , events(eventLoop)
+    , dialogs(boxes)
+    , settings(stored)
+    , session(shared)
+{
+}
+
+void FolderListFile::StartList()
+{
+    Loading([this] {
+        BeginList();
+        if (files.Open(session.ListFile, OpenFor::Reading)->Length() <= largestAtStart)
+            ReadList();
+    });
+}
+
+void FolderListFile::LoadList()
+{
+    Loading([this] {
+        BeginList();
+        ReadList();
+    });
+}
+
+void FolderListFile::LoadReportList()
+{
+    Loading([this] {
+        area.lblStatusLine.SetCaption(u"Read list Wait..."_s);
+        area.LstItem.Clear();
+        session.ReportFile = settings.ReadText(keys::ReportFile);
+        LineReader reader(files, session.ReportFile, NameBytes::Raw);
+        ReadLines(reader);
+        tree.FillFolderTree();
+        // Kept: the caption quotes the list file, not the report that was read.
+        TellLoaded();
+        area.lblStatusLine.SetCaption(u"Finished"_s);
+    });
+}
+
+void FolderListFile::SaveList()
+{
+    try {
+        QString text;
+        for (const QString &entry : area.LstItem.Items())
+            text += entry + u"\r\n"_s;
+        try {
+            files.ReplaceContents(session.ListFile, EncodeText(text));
+        } catch (const Failure &failure) {
+            const bool passedOver = failure.number == FailureNumber::FileNotFound
+                || failure.number == FailureNumber::PathNotFound;
+            // Without a file the first entry can't be written; a list without entries gets to the end.
+            if (!passedOver || area.LstItem.ListCount() > 0)
+                throw;
+        }
+        area.form.SetCaption(TitleWithVersion() + u" - saved to ... "_s + TailOfPath(session.ListFile));
+    } catch (const Failure &) {
+        // Whatever it was, the list is still in the window and nobody is told.
+    }
+}
+
+void FolderListFile::BeginList()
+{
+    events.SetBusyPointer(true);
+    area.lblStatusLine.SetCaption(u"Read list Wait..."_s);
+    area.LstItem.Clear();
+}
+
+void FolderListFile::ReadList()
+{
+    LineReader reader(files, session.ListFile);
+    ReadLines(reader);
+    tree.RefreshFolderTree();
+    TellLoaded();
+    area.lblStatusLine.SetCaption(u"Finished"_s);
+    events.SetBusyPointer(false);
+}
+
+void FolderListFile::ReadLines(LineReader &reader)
+{
+    while (const auto line = reader.Next()) {
+        events.LetEventsRun();
+        if (line->isEmpty() || line->startsWith(u';'))
+            continue;
+        // Only an extension of exactly three letters goes. A shorter line fails and ends the load.
+        const bool withoutExtension = area.chkExtension.IsChecked() && HasThreeLetterExtension(*line);
+        area.LstItem.AddItem(withoutExtension ? WithoutLast(*line, 4) : *line);
+    }
+    reader.Close();
+}
+
+void FolderListFile::TellLoaded()
+{
+    area.form.SetCaption(TitleWithVersion() + u" - Files load from ... "_s + TailOfPath(session.ListFile));
+}
+
+void FolderListFile::Loading(const std::function<void()> &steps)
+{
+    try {
+        steps();
+    } catch (const Failure &failure) {
+        // Kept: the box names the list file also where the report was to be read.
+        if (failure.number == FailureNumber::PathNotFound) {
+            dialogs.Show(
+                {u"Files "_s + session.ListFile + u" not found."_s, ApplicationTitle, BoxIcon::Exclamation});
+        }
+    }
+}
+
+} // namespace tressel

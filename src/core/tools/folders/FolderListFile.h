@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "base/Failure.h"
+#include "tools/WorkArea.h"
+
+#include <functional>
+
+namespace tressel {
+
+class Dialogs;
+class Events;
+class FileSystem;
+class FolderTree;
+class LineReader;
+class Settings;
+struct Session;
+
+/// The list's text file: one folder name a line, lines that start with ";" and empty ones passed over.
+///
+/// All four share a way with failures: a file that isn't there ends a routine without a word, a folder
+/// that isn't there is told in a box by the loaders, and anything else ends it without a word too. What
+/// was read so far, the status text and the pointer stay as they were at that moment.
+class FolderListFile {
+public:
+    FolderListFile(WorkArea &area, FolderTree &tree, FileSystem &files, Events &events, Dialogs &dialogs,
+                   Settings &settings, Session &session);
+
+    /// Loads session.ListFile at start-up, unless it has more than 32000 bytes.
+    void StartList();
+    /// Loads session.ListFile, whatever its size.
+    void LoadList();
+    /// Loads the latest report, whose path the settings hold.
+    void LoadReportList();
+    /// Writes the list to session.ListFile, in place of what was there. A failure leaves the old file whole.
+    void SaveList();
+
+private:
+    void BeginList();
+    void ReadList();
+    void ReadLines(LineReader &reader);
+    void TellLoaded();
+    void Loading(const std::function<void()> &steps);
+
+    WorkArea &area;
+    FolderTree &tree;
+    FileSystem &files;
+    Events &events;
+    Dialogs &dialogs;
+    Settings &settings;
+    Session &session;
+};
+
+} // namespace tressel

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "tools/WorkArea.h"
+
+namespace tressel {
+
+class Events;
+struct Session;
+
+/// Shows the folder list as a tree: a root and one child for each entry. The tree is thrown away and
+/// built anew each time; it makes no folder. A step that fails is ignored and the next one runs.
+class FolderTree {
+public:
+    FolderTree(WorkArea &area, Events &events, Session &session);
+
+    /// The planned folders, with the busy pointer and words in the status line.
+    void RefreshFolderTree();
+    /// The planned folders, and nothing else.
+    void FillFolderTree();
+    /// The list after a run. The count is that of the list, whatever the run made.
+    void ShowCreatedTree();
+
+private:
+    void Rebuild(const QString &rootText, int childImage);
+    QString CountText() const;
+
+    WorkArea &area;
+    Events &events;
+    Session &session;
+};
+
+} // namespace tressel
