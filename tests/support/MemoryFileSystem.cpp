@@ -312,6 +312,24 @@ std::unique_ptr<OpenFile> MemoryFileSystem::Open(const QString &path, OpenFor pu
     });
 }
 
+void MemoryFileSystem::ReplaceContents(const QString &path, const QByteArray &bytes)
+{
+    Ask(Operation::ReplaceContents, path, QString::number(bytes.size()), [&] {
+        Place place = Find(path, Links::Follow);
+        if (place.node && (place.node->kind != EntryKind::File || place.node->readOnly))
+            throw Failure(FailureNumber::PathFileAccessError);
+        // Old and new stand side by side for a moment.
+        if (bytes.size() > DriveFor(path).freeSpace)
+            throw Failure(FailureNumber::DiskFull);
+        Obey(Operation::ReplaceContents, place);
+        if (!place.node)
+            place.node = Add(place, EntryKind::File);
+        TakeRoom(*place.node, bytes.size() - place.node->bytes.size());
+        place.node->bytes = bytes;
+        place.node->modified = clock.Now();
+    });
+}
+
 void MemoryFileSystem::SetReadOnly(const QString &path, bool readOnly)
 {
     Ask(Operation::SetReadOnly, path, readOnly ? u"on"_s : u"off"_s, [&] {

@@ -63,6 +63,7 @@ public:
     void Rename(const QString &from, const QString &to) override;
     std::unique_ptr<OpenFile> Open(const QString &path, OpenFor purpose,
                                    Sharing sharing = Sharing::Shared) override;
+    void ReplaceContents(const QString &path, const QByteArray &bytes) override;
     void SetReadOnly(const QString &path, bool readOnly) override;
     QList<Volume> Volumes() override;
     QString VolumeLabel(const QString &path) override;

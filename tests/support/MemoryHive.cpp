@@ -7,33 +7,10 @@ namespace tressel {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QString WithoutEndSeparators(QString key)
-{
-    while (key.endsWith(u'\\'))
-        key.chop(1);
-    return key;
-}
-
-QString Folded(const QString &key)
-{
-    return WithoutEndSeparators(key).toCaseFolded();
-}
-
-} // namespace
-
 bool MemoryHive::HasKey(Root root, const QString &key)
 {
     journal.Note(u"HasKey"_s, key);
-    const QString wanted = Folded(key);
-    // A key is there as soon as something below it is.
-    const Keys &keys = In(root);
-    const auto next = keys.lowerBound(wanted);
-    if (next != keys.end() && next.key() == wanted)
-        return true;
-    const auto below = keys.lowerBound(wanted + u'\\');
-    return below != keys.end() && below.key().startsWith(wanted + u'\\');
+    return hive.HasKey(root, key);
 }
 
 std::optional<HiveValue> MemoryHive::Read(Root root, const QString &key, const QString &name)
@@ -45,10 +22,7 @@ std::optional<HiveValue> MemoryHive::Read(Root root, const QString &key, const Q
 bool MemoryHive::Write(Root root, const QString &key, const QString &name, const HiveValue &value)
 {
     journal.Note(u"WriteSetting"_s, key + u'\\' + name, ValueText(value));
-    if (root == Root::Machine || !canWrite)
-        return false;
-    Put(root, key, name, value);
-    return true;
+    return canWrite && hive.Write(root, key, name, value);
 }
 
 void MemoryHive::Flush()
@@ -58,39 +32,26 @@ void MemoryHive::Flush()
 
 void MemoryHive::Put(Root root, const QString &key, const QString &name, const HiveValue &value)
 {
-    Keys &keys = root == Root::User ? user : machine;
-    Key &place = keys[Folded(key)];
-    if (place.path.isNull())
-        place.path = WithoutEndSeparators(key);
-    const QString folded = name.toCaseFolded();
-    if (const auto known = place.values.find(folded); known != place.values.end())
-        known->value = value;
-    else
-        place.values.insert(folded, {name, value});
+    hive.Tree(root).Write(key, name, value);
 }
 
-std::optional<HiveValue> MemoryHive::Get(Root root, const QString &key, const QString &name) const
+std::optional<HiveValue> MemoryHive::Get(Root root, const QString &key, const QString &name)
 {
-    const Keys &keys = In(root);
-    const auto place = keys.find(Folded(key));
-    if (place == keys.end())
-        return {};
-    const auto value = place->values.find(name.toCaseFolded());
-    return value == place->values.end() ? std::nullopt : std::optional(value->value);
+    return hive.Tree(root).Read(key, name);
 }
 
-QString MemoryHive::Text(const QString &key, const QString &name) const
+QString MemoryHive::Text(const QString &key, const QString &name)
 {
     const std::optional<HiveValue> value = Get(Root::User, key, name);
     return value ? ValueText(*value) : QString();
 }
 
-QStringList MemoryHive::Dump() const
+QStringList MemoryHive::Dump()
 {
     QStringList lines;
-    for (const Key &key : user) {
-        for (const Value &value : key.values)
-            lines += key.path + u'\\' + value.name + u'=' + ValueText(value.value);
+    for (const auto &[key, values] : hive.Tree(Root::User).AllKeys()) {
+        for (const auto &[name, value] : values)
+            lines += key + u'\\' + name + u'=' + ValueText(value);
     }
     return lines;
 }

@@ -3,10 +3,10 @@
 
 #pragma once
 
-#include "machine/SettingsHive.h"
+#include "settings/HiveTree.h"
 #include "support/Journal.h"
 
-#include <QMap>
+#include <QStringList>
 
 namespace tressel {
 
@@ -30,30 +30,17 @@ public:
     /// Puts a value there without a word in the journal, below the machine's root too.
     void Put(Root root, const QString &key, const QString &name, const HiveValue &value);
     /// What is there, without a word in the journal.
-    std::optional<HiveValue> Get(Root root, const QString &key, const QString &name) const;
+    std::optional<HiveValue> Get(Root root, const QString &key, const QString &name);
     /// The same as text below the user's root: a number in decimal, null if nothing is there.
-    QString Text(const QString &key, const QString &name) const;
+    QString Text(const QString &key, const QString &name);
     /// All values below the user's root, as "key\name=value", sorted.
-    QStringList Dump() const;
+    QStringList Dump();
 
     bool canWrite = true; ///< false: each Write fails
 
 private:
-    struct Value {
-        QString name; ///< as it was first written
-        HiveValue value;
-    };
-    struct Key {
-        QString path; ///< as it was first written
-        QMap<QString, Value> values; ///< by the name in lower case
-    };
-    using Keys = QMap<QString, Key>; ///< by the path in lower case
-
-    const Keys &In(Root root) const { return root == Root::User ? user : machine; }
-
     Journal &journal;
-    Keys user;
-    Keys machine;
+    MemorySettingsHive hive;
 };
 
 /// A value as text: a string as it is, a number in decimal, other kinds as "kind:hex".

@@ -36,6 +36,8 @@ QString OperationName(Operation operation)
         return u"FlushFile"_s;
     case Operation::CloseFile:
         return u"CloseFile"_s;
+    case Operation::ReplaceContents:
+        return u"ReplaceContents"_s;
     case Operation::SetReadOnly:
         return u"SetReadOnly"_s;
     case Operation::VolumeLabel:

@@ -22,6 +22,7 @@ enum class Operation {
     WriteBytes, ///< the detail is how many
     FlushFile,
     CloseFile,
+    ReplaceContents, ///< the detail is how many bytes
     SetReadOnly,
     VolumeLabel,
     FreeSpace,

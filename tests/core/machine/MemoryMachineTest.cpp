@@ -19,10 +19,10 @@ TEST(MemoryFileSystem, PathsTolerateCaseDoubledAndClosingSeparators)
 {
     MemoryMachine machine;
     machine.files.PutFolder(u"C:\\Work\\Sub"_s);
-    for (const QString &path : {u"c:\\work\\sub"_s, u"C:\\Work\\\\Sub"_s, u"C:\\Work\\Sub\\"_s,
-                                u"Work\\Sub"_s, u"\\Work\\Sub"_s, u"C:\\Work\\.\\x\\..\\Sub"_s})
-        EXPECT_EQ(FolderExists(machine.files, path), !path.contains(u'x')) << qPrintable(path);
-    EXPECT_TRUE(FolderExists(machine.files, u"C:\\Work\\Sub\\..\\sub"_s));
+    const QStringList spellings{u"c:\\work\\sub"_s, u"C:\\Work\\\\Sub"_s, u"C:\\Work\\Sub\\"_s,
+                                u"Work\\Sub"_s,     u"\\Work\\Sub"_s,     u"C:\\Work\\.\\Sub\\..\\sub"_s};
+    for (const QString &path : spellings)
+        EXPECT_TRUE(FolderExists(machine.files, path)) << qPrintable(path);
     EXPECT_EQ(machine.files.Tree(u"C:\\"_s), (QStringList{u"Tressel\\"_s, u"Work\\"_s, u"Work\\Sub\\"_s}));
 }
 
