@@ -7,13 +7,17 @@
 #include "settings/HiveText.h"
 #include "settings/KeyPaths.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QSaveFile>
 #include <QStandardPaths>
+#include <QThread>
 
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
 #include <unistd.h>
 
 namespace tressel {
@@ -24,7 +28,8 @@ namespace {
 
 /// A store of all settings has some ten thousand bytes.
 constexpr qint64 LargestFile = 16 * 1024 * 1024;
-constexpr int LockMilliseconds = 500;
+constexpr int LockMilliseconds = 300;
+constexpr int LockPauseMilliseconds = 5;
 constexpr int MostSetAside = 100;
 
 bool IsFactsKey(const QString &key)
@@ -52,6 +57,41 @@ bool MakeFile(const QString &path, const QByteArray &bytes)
     file.remove();
     return false;
 }
+
+/// The lock of a folder, for as long as it lives. The system takes it off however a process ends; a lock
+/// file whose maker was killed before it wrote its number into it would hold up all others.
+class FolderLock {
+public:
+    explicit FolderLock(const QString &folder)
+        : handle(::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+    {
+    }
+    FolderLock(const FolderLock &) = delete;
+    FolderLock &operator=(const FolderLock &) = delete;
+    ~FolderLock()
+    {
+        if (handle >= 0)
+            ::close(handle);
+    }
+
+    /// False if another has the lock and keeps it. A file system that knows no such locks is used
+    /// without: there two instances that write in the same moment can lose a value.
+    bool Take() const
+    {
+        const QDeadlineTimer deadline(LockMilliseconds);
+        while (::flock(handle, LOCK_EX | LOCK_NB) != 0) {
+            if (errno != EWOULDBLOCK && errno != EINTR)
+                return handle >= 0;
+            if (deadline.hasExpired())
+                return false;
+            QThread::msleep(LockPauseMilliseconds);
+        }
+        return true;
+    }
+
+private:
+    int handle;
+};
 
 } // namespace
 
@@ -116,8 +156,8 @@ void FileHive::Flush()
 {
     if (changes.IsEmpty() || !QDir().mkpath(folder))
         return;
-    QLockFile lock(folder + u"/settings.lock"_s);
-    if (!lock.tryLock(LockMilliseconds))
+    const FolderLock lock(folder);
+    if (!lock.Take())
         return;
     FileContent content = ReadFile();
     if (content.state == FileState::Unreadable)
