@@ -82,7 +82,8 @@ struct KeyEntry {
     KeyDefault byDefault;
     KeyMoment read;
     KeyMoment written;
-    std::optional<KeyDefault> laterDefault{}; ///< of the later reader, where that has one of its own
+    /// Of the later reader, where it has one of its own. Kept: the two differ.
+    std::optional<KeyDefault> laterDefault{};
     int first = 0; ///< numbered keys: their numbers, from first ...
     int last = -1; ///< ... to last
     std::optional<int> number{}; ///< set in what At gives

@@ -4,6 +4,7 @@
 #include "settings/OlderKey.h"
 
 #include "base/Text.h"
+#include "machine/TextFile.h"
 #include "settings/KeyPaths.h"
 
 namespace tressel {
@@ -20,12 +21,12 @@ QString Fetched(const QByteArray &bytes)
 {
     if (bytes.size() > BufferBytes)
         return {};
-    return UpToNul(u""_s + QString::fromUtf8(bytes));
+    return UpToNul(u""_s + DecodeText(bytes, NameBytes::Raw));
 }
 
 QString Fetched(const QString &text)
 {
-    if (text.toUtf8().size() > BufferBytes)
+    if (EncodeText(text, NameBytes::Raw).size() > BufferBytes)
         return {};
     return UpToNul(u""_s + text);
 }
@@ -47,6 +48,7 @@ QString LegacyGetValue(SettingsHive &hive, const QString &name)
 
 bool LegacySetValue(SettingsHive &hive, const QString &name, const QString &value)
 {
+    // Kept: an empty text can't be stored, it becomes a blank.
     return hive.Write(SettingsHive::Root::User, OlderKeyPath.toString(), name,
                       value.isEmpty() ? u" "_s : value);
 }

@@ -4,13 +4,11 @@
 #include "settings/Settings.h"
 
 #include "base/Failure.h"
-#include "machine/Program.h"
-#include "settings/HiveTree.h"
+#include "support/MemoryMachine.h"
 #include "support/Text.h"
 
 #include <QList>
 
-#include <cstdlib>
 #include <gtest/gtest.h>
 #include <set>
 
@@ -21,20 +19,11 @@ namespace {
 
 constexpr auto User = SettingsHive::Root::User;
 
-class StillProgram : public Program {
-public:
-    QString Folder() const override { return u"/opt/tressel"_s; }
-    QString WritableFolder() const override { return u"/home/me/.local/share/tressel"_s; }
-    QString ExecutableName() const override { return u"tressel"_s; }
-    QString CommandLine() const override { return {}; }
-    [[noreturn]] void End(int status) override { std::exit(status); }
-};
-
 class SettingsTest : public testing::Test {
 protected:
-    MemorySettingsHive hive;
-    StillProgram program;
-    Settings settings{hive, program, u'/'};
+    MemoryMachine computer;
+    MemoryHive &hive = computer.hive;
+    Settings settings{computer.machine};
 };
 
 struct Row {
@@ -108,17 +97,17 @@ const Row Rows[] = {
     {Main, u"TitleCapUnderline"_s, Text, u"0"_s},
     {Main, u"TitleCapTextCol"_s, Text, u"0"_s},
     {Main, u"TitleCapSize"_s, Text, u"10"_s},
-    {Main, u"FilePath"_s, Text, u"/opt/tressel"_s},
+    {Main, u"FilePath"_s, Text, u"C:\\Tressel"_s},
     {Main, u"FileExt"_s, Text, u"1"_s},
     {Main, u"ButtonBar"_s, Text, u"0"_s},
     {Main, u"LastFile"_s, Text, u""_s},
     {Main, u"LastPath"_s, Text, u""_s},
-    {Main, u"LastDBPath"_s, Text, u"/opt/tressel"_s},
-    {Main, u"OpenTXTPath"_s, Text, u"/opt/tressel"_s},
-    {Main, u"OpenDBPath"_s, Text, u"/opt/tressel"_s},
+    {Main, u"LastDBPath"_s, Text, u"C:\\Tressel"_s},
+    {Main, u"OpenTXTPath"_s, Text, u"C:\\Tressel"_s},
+    {Main, u"OpenDBPath"_s, Text, u"C:\\Tressel"_s},
     {Main, u"Separate"_s, Text, u""_s},
-    {Main, u"SearchPath"_s, Text, u"/opt/tressel"_s},
-    {Main, u"DatabaseFile"_s, Text, u"/opt/tressel/data.mdb"_s},
+    {Main, u"SearchPath"_s, Text, u"C:\\Tressel"_s},
+    {Main, u"DatabaseFile"_s, Text, u"C:\\Tressel\\data.mdb"_s},
     {Main, u"SQLString"_s, Text, u"0"_s},
     {Main, u"Table"_s, Text, u"0"_s},
     {Main, u"OnlyListFilename"_s, Number, 0},
@@ -242,7 +231,7 @@ TEST_F(SettingsTest, WhatIsWrittenIsReadAndHasTheKindOfItsRow)
 TEST_F(SettingsTest, EachPlaceHasItsKeyInTheHive)
 {
     const auto has = [this](const QString &key, const QString &name) {
-        return hive.Read(User, key, name).has_value();
+        return hive.Get(User, key, name).has_value();
     };
     settings.Write(keys::FilePath, u"/x"_s);
     EXPECT_TRUE(has(u"Software\\Halven Software\\Tressel\\Main"_s, u"FilePath"_s));
@@ -255,8 +244,8 @@ TEST_F(SettingsTest, EachPlaceHasItsKeyInTheHive)
 
 TEST_F(SettingsTest, TheSystemsFactsAreReadFromTheMachinesRootAndNotWritten)
 {
-    hive.Tree(SettingsHive::Root::Machine)
-        .Write(u"Software\\Microsoft\\Windows NT\\CurrentVersion"_s, u"RegisteredOwner"_s, u"Ann"_s);
+    hive.Put(SettingsHive::Root::Machine, u"Software\\Microsoft\\Windows NT\\CurrentVersion"_s,
+             u"RegisteredOwner"_s, u"Ann"_s);
     settings.Write(keys::RegisteredOwner, u"Bob"_s);
     EXPECT_EQ(settings.ReadText(keys::RegisteredOwner), u"Ann"_s);
 }
@@ -273,10 +262,10 @@ TEST_F(SettingsTest, TheTwoReadersOfTheWindowsSizeKeepTheirDefaults)
 TEST_F(SettingsTest, NumberedKeysGoByTheirNumber)
 {
     settings.Write(keys::Color.At(11), 255);
-    EXPECT_EQ(hive.Read(User, u"Software\\Halven Software\\Tressel\\Main"_s, u"Color11"_s),
+    EXPECT_EQ(hive.Get(User, u"Software\\Halven Software\\Tressel\\Main"_s, u"Color11"_s),
               HiveValue(u"255"_s));
     settings.Write(keys::RecentPath.At(4), u"/a"_s);
-    EXPECT_EQ(hive.Read(User, u"Software\\Halven Software\\Tressel\\Main"_s, u"RecentPath 4"_s),
+    EXPECT_EQ(hive.Get(User, u"Software\\Halven Software\\Tressel\\Main"_s, u"RecentPath 4"_s),
               HiveValue(u"/a"_s));
     EXPECT_THROW(keys::Chk.At(0), Failure);
     EXPECT_THROW(keys::Chk.At(8), Failure);
