@@ -24,7 +24,7 @@ void DriveList::SetDrive(const QString &path)
     const QString wanted = DriveOf(files, path);
     for (int index = 0; index < volumes.size(); ++index) {
         if (volumes.at(index).root == wanted && index != ListIndex()) {
-            SetListIndex(index);
+            Select(index);
             return;
         }
     }
@@ -43,7 +43,7 @@ void DriveList::Refresh()
     }
     SetItems(rows);
     if (!rows.isEmpty())
-        SetListIndex(index);
+        Select(index);
 }
 
 void DriveList::OnSelected()

@@ -16,7 +16,7 @@ public:
 
     /// The root of the drive it stands on, with the separator at its end.
     QString Drive() const;
-    /// Moves to the volume that holds the path and raises Change if that is another one.
+    /// Moves to the volume that holds the path and raises Change, but no Click, if that is another one.
     void SetDrive(const QString &path);
     /// Lists the volumes anew; keeps the drive if it is still there.
     void Refresh();

@@ -48,10 +48,15 @@ void ItemList::SetListIndex(int index)
 {
     if (index < -1 || index >= ListCount())
         throw Failure(FailureNumber::InvalidPropertyValue);
+    Select(index);
+    Click.Raise();
+}
+
+void ItemList::Select(int index)
+{
     listIndex = index;
     NoteChanged();
     OnSelected();
-    Click.Raise();
 }
 
 void ItemList::UserSelects(int index)

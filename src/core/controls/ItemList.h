@@ -38,8 +38,10 @@ public:
     void UserSelects(int index);
 
 protected:
+    /// Selects an entry, or none for -1, and raises no Click.
+    void Select(int index);
     /// Called when another entry was selected, before Click is raised.
-    virtual void OnSelected() {}
+    virtual void OnSelected() { }
 
 private:
     QStringList items;

@@ -1,0 +1,436 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "support/StartedProgram.h"
+#include "support/Text.h"
+
+#include <gtest/gtest.h>
+
+using namespace tressel;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString listPath = u"C:\\Lists\\names.txt"_s;
+const QString waiting = u"Read list Wait..."_s;
+
+class FolderListFile_ : public testing::Test, protected StartedProgram {
+protected:
+    const QStringList &Entries() { return Area().LstItem.Items(); }
+
+    void Load(const QByteArray &contents, const QString &path = listPath)
+    {
+        machine.files.PutFile(path, contents);
+        machine.dialogs.ExpectOpenFile(path);
+        Form().textLists.btnGBLoadFile.UserClicks();
+    }
+    bool HasFlags(bool report, bool textFile, bool fileList)
+    {
+        const Session &session = application.session;
+        return session.ListFromReport == report && session.ListFromTextFile == textFile
+            && session.ListFromFileList == fileList;
+    }
+};
+
+TEST_F(FolderListFile_, CommentsAndEmptyLinesAreSkipped)
+{
+    Start();
+    Load("; a comment\r\n\r\none\n  \ntwo;\r;last");
+    EXPECT_EQ(Entries(), (QStringList{u"one"_s, u"  "_s, u"two;"_s}));
+    EXPECT_EQ(Status(), u"Finished"_s);
+    EXPECT_FALSE(machine.events.IsBusy());
+}
+
+TEST_F(FolderListFile_, FileOfCommentsGivesTheRootAlone)
+{
+    Start();
+    Load("; nothing\r\n\r\n; here\r\n");
+    EXPECT_TRUE(Entries().isEmpty());
+    EXPECT_EQ(Area().TVList.Nodes().size(), 1);
+    EXPECT_EQ(Area().TVList.Nodes().at(0).text, u"Create 0 Main Folders"_s);
+}
+
+TEST_F(FolderListFile_, RemoveExtTakesExtensionsOfThreeLetters)
+{
+    Start();
+    Area().chkExtension.SetChecked(true);
+    Load("report.txt\narchive.tar.gz\nabcd\na.bc\n.txt\n");
+    EXPECT_EQ(Entries(), (QStringList{u"report"_s, u"archive.tar.gz"_s, u"abcd"_s, u"a.bc"_s, u""_s}));
+}
+
+TEST_F(FolderListFile_, ShortLineWithRemoveExtEndsTheLoadWhereItStands)
+{
+    Start();
+    Area().chkExtension.SetChecked(true);
+    Load("one.txt\nabc\ntwo.txt\n");
+    EXPECT_EQ(Entries(), QStringList{u"one"_s});
+    EXPECT_EQ(Status(), waiting);
+    EXPECT_TRUE(machine.events.IsBusy());
+    // The flags are set all the same.
+    EXPECT_TRUE(HasFlags(false, true, false));
+}
+
+TEST_F(FolderListFile_, LoadTellsWhereFrom)
+{
+    Start();
+    Load("x\n");
+    EXPECT_EQ(Form().Caption(), u"Tressel v5.1450 - Files load from ... C:\\Lists\\names.txt"_s);
+    const QString deep = u"C:\\"_s + QString(60, u'd') + u"\\"_s + QString(20, u'f') + u".txt"_s;
+    Load("y\n", deep);
+    EXPECT_EQ(Form().Caption(), u"Tressel v5.1450 - Files load from ... "_s + deep.right(70));
+}
+
+TEST_F(FolderListFile_, LoadDialogIsAskedAsTold)
+{
+    machine.files.PutFolder(u"C:\\Docs"_s);
+    application.settings.Write(keys::OpenTXTPath, u"C:\\Docs"_s);
+    Start();
+    Load("x\n");
+    const FileDialogRequest &request = machine.dialogs.FileRequests().first();
+    EXPECT_EQ(request.title, u"Open file"_s);
+    EXPECT_EQ(request.folder, u"C:\\Docs"_s);
+    EXPECT_EQ(request.filter, u"All Files (*.*)|*.*|TXT Files (*.txt)|*.txt|DOC Files (*.doc)|*.doc|"_s);
+    EXPECT_EQ(request.filterIndex, 4);
+    EXPECT_EQ(request.defaultExtension, u".txt"_s);
+    EXPECT_EQ(request.fileName, u"*.txt"_s);
+    EXPECT_EQ(Form().textLists.OpenTXTPath, u"C:\\Lists"_s);
+}
+
+TEST_F(FolderListFile_, CancelChangesNothing)
+{
+    Start();
+    Load("x\n");
+    application.session.ListFromTextFile = false;
+    machine.dialogs.ExpectOpenFile(std::nullopt);
+    Form().textLists.btnGBLoadFile.UserClicks();
+    EXPECT_EQ(Entries(), QStringList{u"x"_s});
+    EXPECT_EQ(application.session.ListFile, listPath);
+    EXPECT_FALSE(application.session.ListFromTextFile);
+}
+
+TEST_F(FolderListFile_, MissingFileClearsTheListInSilence)
+{
+    Start();
+    Load("x\n");
+    machine.dialogs.ExpectOpenFile(u"C:\\Lists\\gone.txt"_s);
+    Form().textLists.btnGBLoadFile.UserClicks();
+    EXPECT_TRUE(Entries().isEmpty());
+    EXPECT_EQ(Status(), waiting);
+}
+
+TEST_F(FolderListFile_, MissingFolderIsToldInABox)
+{
+    Start();
+    machine.dialogs.ExpectOpenFile(u"C:\\Gone\\names.txt"_s);
+    machine.dialogs.ExpectBox(
+        {u"Files C:\\Gone\\names.txt not found."_s, u"Tressel"_s, BoxIcon::Exclamation});
+    Form().textLists.btnGBLoadFile.UserClicks();
+    EXPECT_TRUE(machine.dialogs.AllCame());
+}
+
+TEST_F(FolderListFile_, FolderAsListFileIsNoListAndNoCrash)
+{
+    Start();
+    machine.files.PutFolder(listPath);
+    machine.dialogs.ExpectOpenFile(listPath);
+    Form().textLists.btnGBLoadFile.UserClicks();
+    EXPECT_TRUE(Entries().isEmpty());
+    EXPECT_EQ(Status(), waiting);
+}
+
+TEST_F(FolderListFile_, ReadFailureInTheMiddleEndsTheLoad)
+{
+    Start();
+    machine.files.FailAt(Operation::ReadBytes, listPath, 1, FailureNumber::DeviceIoError);
+    Load("x\n");
+    EXPECT_EQ(Status(), waiting);
+}
+
+TEST_F(FolderListFile_, OtherEncodingsAreRead)
+{
+    Start();
+    Load("\xEF\xBB\xBF\xC3\x89t\xC3\xA9\n");
+    EXPECT_EQ(Entries(), QStringList{u"Été"_s});
+    Load("\xC9t\xE9 \x80\n");
+    EXPECT_EQ(Entries(), QStringList{u"Été €"_s});
+}
+
+TEST_F(FolderListFile_, StartTakes32000BytesAndNoMore)
+{
+    const QByteArray line(QByteArray("12345678\r\n"));
+    machine.files.PutFile(listPath, line.repeated(3200));
+    application.settings.Write(keys::LastFile, listPath);
+    Start();
+    EXPECT_EQ(Area().LstItem.ListCount(), 3200);
+    EXPECT_TRUE(HasFlags(false, true, false));
+}
+
+TEST_F(FolderListFile_, LargerFileIsRefusedAtStartOnly)
+{
+    const QByteArray line(QByteArray("12345678\r\n"));
+    machine.files.PutFile(listPath, line.repeated(3200) + "x");
+    application.settings.Write(keys::LastFile, listPath);
+    Start();
+    EXPECT_TRUE(Entries().isEmpty());
+    EXPECT_EQ(application.session.ListFile, listPath);
+    EXPECT_EQ(Form().Caption(), u"Tressel"_s);
+
+    Area().chkExtension.SetChecked(true);
+    EXPECT_EQ(Area().LstItem.ListCount(), 3200);
+    EXPECT_THROW(Form().Unload(), ProcessEnded);
+    EXPECT_EQ(application.settings.ReadText(keys::LastFile), listPath);
+}
+
+TEST_F(FolderListFile_, ListFileThatHasGoneIsAnEmptyListAtStart)
+{
+    machine.files.PutFolder(u"C:\\Lists"_s);
+    application.settings.Write(keys::LastFile, listPath);
+    Start();
+    EXPECT_TRUE(Entries().isEmpty());
+}
+
+TEST_F(FolderListFile_, ListFileInAFolderThatHasGoneIsToldAtStart)
+{
+    application.settings.Write(keys::LastFile, listPath);
+    machine.dialogs.ExpectBox(u"Files C:\\Lists\\names.txt not found."_s);
+    Start();
+    EXPECT_TRUE(machine.dialogs.AllCame());
+    EXPECT_TRUE(Form().IsVisible());
+}
+
+TEST_F(FolderListFile_, SaveWritesTheEntriesAndForgetsComments)
+{
+    Start();
+    Load("; comment\none\n\ntwo\n");
+    machine.dialogs.ExpectSaveFile(u"C:\\Lists\\saved.txt"_s);
+    Form().textLists.btnGBSaveFile.UserClicks();
+    EXPECT_EQ(machine.files.Bytes(u"C:\\Lists\\saved.txt"_s), "one\r\ntwo\r\n");
+    EXPECT_EQ(Form().Caption(), u"Tressel v5.1450 - saved to ... C:\\Lists\\saved.txt"_s);
+    EXPECT_EQ(application.session.ListFile, u"C:\\Lists\\saved.txt"_s);
+
+    const FileDialogRequest &request = machine.dialogs.FileRequests().last();
+    EXPECT_EQ(request.title, u"Save file"_s);
+    EXPECT_EQ(request.fileName, listPath);
+    EXPECT_TRUE(request.askBeforeOverwriting);
+}
+
+TEST_F(FolderListFile_, SaveAsksASecondTimeBeforeItOverwrites)
+{
+    Start();
+    List({u"new"_s});
+    machine.files.PutFile(listPath, "old\r\n");
+    const MessageBox question{listPath + u"\n\nAre you sure you want to overwrite this file?"_s,
+                              u"Overwrite file"_s, BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::No};
+    machine.dialogs.ExpectSaveFile(listPath);
+    machine.dialogs.ExpectBox(question, BoxAnswer::No);
+    Form().textLists.btnGBSaveFile.UserClicks();
+    EXPECT_EQ(machine.files.Bytes(listPath), "old\r\n");
+    EXPECT_EQ(application.session.ListFile, u""_s);
+
+    machine.dialogs.ExpectSaveFile(listPath);
+    machine.dialogs.ExpectBox(question, BoxAnswer::Yes);
+    Form().textLists.btnGBSaveFile.UserClicks();
+    EXPECT_EQ(machine.files.Bytes(listPath), "new\r\n");
+}
+
+TEST_F(FolderListFile_, FullDiscLeavesTheOldFileWhole)
+{
+    Start();
+    Load("old\n");
+    machine.files.FailAt(Operation::ReplaceContents, listPath, 1, FailureNumber::DiskFull);
+    List({u"new"_s});
+    const QString caption = Form().Caption();
+    Form().listFile.SaveList();
+    EXPECT_EQ(machine.files.Bytes(listPath), "old\n");
+    EXPECT_EQ(Form().Caption(), caption);
+    EXPECT_EQ(Entries(), (QStringList{u"old"_s, u"new"_s}));
+}
+
+TEST_F(FolderListFile_, SaveIntoAMissingFolderIsSilent)
+{
+    Start();
+    application.session.ListFile = u"C:\\Gone\\names.txt"_s;
+    List({u"x"_s});
+    Form().listFile.SaveList();
+    EXPECT_EQ(Form().Caption(), u"Tressel"_s);
+    // Without entries nothing is left to fail, so the end is reached.
+    Area().LstItem.Clear();
+    Form().listFile.SaveList();
+    EXPECT_EQ(Form().Caption(), u"Tressel v5.1450 - saved to ... C:\\Gone\\names.txt"_s);
+}
+
+TEST_F(FolderListFile_, ReportListDiffersInItsWays)
+{
+    Start();
+    Load("x\n");
+    machine.files.PutFile(u"C:\\Rep\\List-01.txt"_s, "a\r\nb\r\n");
+    application.settings.Write(keys::ReportFile, u"C:\\Rep\\List-01.txt"_s);
+    machine.journal.Clear();
+    QStringList texts;
+    Area().lblStatusLine.Change.Handle([&] { texts += Status(); });
+    Form().listFile.LoadReportList();
+    EXPECT_EQ(Entries(), (QStringList{u"a"_s, u"b"_s}));
+    EXPECT_EQ(application.session.ReportFile, u"C:\\Rep\\List-01.txt"_s);
+    EXPECT_EQ(Form().Caption(), u"Tressel v5.1450 - Files load from ... C:\\Lists\\names.txt"_s);
+    EXPECT_EQ(texts, (QStringList{waiting, u"Finished"_s}));
+    EXPECT_EQ(machine.journal.Count(u"BusyPointer"_s), 0);
+}
+
+TEST_F(FolderListFile_, ReportInAMissingFolderNamesTheListFile)
+{
+    Start();
+    Load("x\n");
+    application.settings.Write(keys::ReportFile, u"C:\\Gone\\r.txt"_s);
+    machine.dialogs.ExpectBox(u"Files C:\\Lists\\names.txt not found."_s);
+    Form().listFile.LoadReportList();
+    EXPECT_TRUE(machine.dialogs.AllCame());
+}
+
+class BrowsedFolder : public FolderListFile_ {
+protected:
+    BrowsedFolder()
+    {
+        for (const QString &name : {u"b.txt"_s, u"A.doc"_s, u"plain"_s})
+            machine.files.PutFile(u"C:\\Docs\\"_s + name, "x");
+        machine.files.PutFolder(u"C:\\Docs\\Sub"_s);
+        machine.files.PutFile(u"C:\\Docs\\Sub\\inner.txt"_s, "x");
+        machine.files.PutFolder(u"C:\\Lists"_s);
+        application.settings.Write(keys::LastDBPath, u"C:\\Docs"_s);
+        Start();
+    }
+};
+
+TEST_F(BrowsedFolder, ShowsItsFilesSorted)
+{
+    EXPECT_EQ(Form().browse.FileList.Items(), (QStringList{u"A.doc"_s, u"b.txt"_s, u"plain"_s}));
+    EXPECT_EQ(Form().browse.DirList.Items(), (QStringList{u"C:\\"_s, u"Docs"_s, u"Sub"_s}));
+}
+
+TEST_F(BrowsedFolder, ClickOnAFolderShowsItsFiles)
+{
+    Form().browse.DirList.UserSelects(2);
+    EXPECT_EQ(Form().browse.FileList.Items(), QStringList{u"inner.txt"_s});
+    EXPECT_EQ(Form().browse.DirList.Path(), u"C:\\Docs"_s);
+    Form().browse.DirList.UserActivates(2);
+    EXPECT_EQ(Form().browse.DirList.Path(), u"C:\\Docs\\Sub"_s);
+    EXPECT_EQ(Form().browse.FileList.Items(), QStringList{u"inner.txt"_s});
+}
+
+TEST_F(BrowsedFolder, ClickOnADriveGivesTheFoldersTheirDrive)
+{
+    machine.files.AddDrive(u'D', u"Music"_s);
+    machine.files.PutFile(u"D:\\song.mp3"_s, "x");
+    Form().browse.DrvList.Refresh();
+    Form().browse.DrvList.UserSelects(1);
+    EXPECT_EQ(Form().browse.DirList.Path(), u"D:\\"_s);
+    EXPECT_EQ(Form().browse.FileList.Items(), QStringList{u"song.mp3"_s});
+}
+
+TEST_F(BrowsedFolder, DriveWithoutAMediumIsLeftAgain)
+{
+    machine.files.AddDrive(u'D');
+    Form().browse.DrvList.Refresh();
+    machine.files.SetReady(u'D', false);
+    Form().browse.DrvList.UserSelects(1);
+    EXPECT_EQ(Form().browse.DirList.Path(), u"C:\\Docs"_s);
+    EXPECT_EQ(Form().browse.DrvList.Drive(), u"C:\\"_s);
+}
+
+TEST_F(BrowsedFolder, LoadListTakesAllNamesAsTheyStand)
+{
+    application.session.ListFile = listPath;
+    application.session.RunNumber = 7;
+    Area().chkExtension.SetChecked(true);
+    Form().btnGBToolbarLoadList.UserClicks();
+    EXPECT_EQ(Entries(), (QStringList{u"A.doc"_s, u"b.txt"_s, u"plain"_s}));
+    EXPECT_EQ(application.session.RunNumber, 1);
+    EXPECT_EQ(machine.files.Bytes(listPath), "A.doc\r\nb.txt\r\nplain\r\n");
+    EXPECT_EQ(Status(), u"Finished"_s);
+    EXPECT_TRUE(HasFlags(false, true, false));
+}
+
+TEST_F(BrowsedFolder, DoubleClickGoesOutToTheFileAndBack)
+{
+    application.session.ListFile = listPath;
+    Area().chkExtension.SetValue(2);
+    Area().chkExtension.SetChecked(true);
+    Form().browse.FileList.UserActivates(1);
+    EXPECT_EQ(Entries(), QStringList{u"b"_s});
+    EXPECT_EQ(machine.files.Bytes(listPath), "b.txt\r\n");
+    EXPECT_TRUE(HasFlags(false, false, true));
+}
+
+TEST_F(BrowsedFolder, DoubleClickTellsTheName)
+{
+    application.session.ListFile = listPath;
+    QStringList texts;
+    Area().lblStatusLine.Change.Handle([&] { texts += Status(); });
+    Form().browse.FileList.UserActivates(1);
+    EXPECT_TRUE(texts.contains(u"File ''b.txt'' added to list"_s));
+}
+
+TEST_F(BrowsedFolder, SameFileTwiceMakesTwoEntries)
+{
+    application.session.ListFile = listPath;
+    Form().browse.FileList.UserActivates(1);
+    Form().browse.FileList.UserActivates(1);
+    EXPECT_EQ(Entries(), (QStringList{u"b.txt"_s, u"b.txt"_s}));
+}
+
+TEST_F(BrowsedFolder, DoubleClickWithoutAListFileLeavesNothing)
+{
+    Form().browse.FileList.UserActivates(1);
+    EXPECT_TRUE(Entries().isEmpty());
+    EXPECT_EQ(Status(), waiting);
+    EXPECT_TRUE(machine.events.IsBusy());
+}
+
+TEST_F(BrowsedFolder, RemoveExtReloadsFromTheRememberedSource)
+{
+    Load("one.txt\n");
+    Area().chkExtension.UserToggles();
+    EXPECT_EQ(Entries(), QStringList{u"one"_s});
+    Area().chkExtension.UserToggles();
+    EXPECT_EQ(Entries(), QStringList{u"one.txt"_s});
+
+    application.session.ListFromTextFile = false;
+    Area().LstItem.Clear();
+    Area().chkExtension.UserToggles();
+    EXPECT_TRUE(Entries().isEmpty());
+    application.session.ListFromFileList = true;
+    Area().chkExtension.UserToggles();
+    EXPECT_EQ(Entries(), QStringList{u"one.txt"_s});
+}
+
+TEST_F(FolderListFile_, DropGivesTheFirstPath)
+{
+    Start();
+    Area().txtStrtPath.UserDrops({u"C:\\Dropped"_s, u"C:\\Other"_s});
+    EXPECT_EQ(Area().txtStrtPath.Text(), u"C:\\Dropped"_s);
+    Area().txtStrtPath.UserDrops({});
+    EXPECT_EQ(Area().txtStrtPath.Text(), u"C:\\Dropped"_s);
+}
+
+TEST_F(FolderListFile_, BrowseButtonTakesTheChosenFolder)
+{
+    Start();
+    machine.dialogs.ExpectChooseFolder(u"C:\\Chosen"_s);
+    Form().btnGBToolbarBrowse.UserClicks();
+    EXPECT_EQ(Area().txtStrtPath.Text(), u"C:\\Chosen"_s);
+    machine.dialogs.ExpectChooseFolder(std::nullopt);
+    Form().btnGBToolbarBrowse.UserClicks();
+    EXPECT_EQ(Area().txtStrtPath.Text(), u"C:\\Chosen"_s);
+    // The first started in a folder that is there, the second one's isn't.
+    EXPECT_EQ(machine.dialogs.StartFolders(), (QStringList{u"C:\\Work"_s, u""_s}));
+    EXPECT_EQ(machine.journal.About(u"ChooseFolder"_s).first(), u"Select Destination Folder..."_s);
+}
+
+TEST_F(FolderListFile_, DoubleClickInTheListDoesNothing)
+{
+    Start();
+    List({u"a"_s, u"b"_s});
+    Area().LstItem.UserActivates(0);
+    EXPECT_EQ(Entries(), (QStringList{u"a"_s, u"b"_s}));
+}
+
+} // namespace
