@@ -14,7 +14,7 @@ namespace {
 const QString listPath = u"C:\\Lists\\names.txt"_s;
 const QString waiting = u"Read list Wait..."_s;
 
-class FolderListFile_ : public testing::Test, protected StartedProgram {
+class TextList : public testing::Test, protected StartedProgram {
 protected:
     const QStringList &Entries() { return Area().LstItem.Items(); }
 
@@ -32,7 +32,7 @@ protected:
     }
 };
 
-TEST_F(FolderListFile_, CommentsAndEmptyLinesAreSkipped)
+TEST_F(TextList, CommentsAndEmptyLinesAreSkipped)
 {
     Start();
     Load("; a comment\r\n\r\none\n  \ntwo;\r;last");
@@ -41,7 +41,7 @@ TEST_F(FolderListFile_, CommentsAndEmptyLinesAreSkipped)
     EXPECT_FALSE(machine.events.IsBusy());
 }
 
-TEST_F(FolderListFile_, FileOfCommentsGivesTheRootAlone)
+TEST_F(TextList, FileOfCommentsGivesTheRootAlone)
 {
     Start();
     Load("; nothing\r\n\r\n; here\r\n");
@@ -50,7 +50,7 @@ TEST_F(FolderListFile_, FileOfCommentsGivesTheRootAlone)
     EXPECT_EQ(Area().TVList.Nodes().at(0).text, u"Create 0 Main Folders"_s);
 }
 
-TEST_F(FolderListFile_, RemoveExtTakesExtensionsOfThreeLetters)
+TEST_F(TextList, RemoveExtTakesExtensionsOfThreeLetters)
 {
     Start();
     Area().chkExtension.SetChecked(true);
@@ -58,7 +58,7 @@ TEST_F(FolderListFile_, RemoveExtTakesExtensionsOfThreeLetters)
     EXPECT_EQ(Entries(), (QStringList{u"report"_s, u"archive.tar.gz"_s, u"abcd"_s, u"a.bc"_s, u""_s}));
 }
 
-TEST_F(FolderListFile_, ShortLineWithRemoveExtEndsTheLoadWhereItStands)
+TEST_F(TextList, ShortLineWithRemoveExtEndsTheLoadWhereItStands)
 {
     Start();
     Area().chkExtension.SetChecked(true);
@@ -70,7 +70,7 @@ TEST_F(FolderListFile_, ShortLineWithRemoveExtEndsTheLoadWhereItStands)
     EXPECT_TRUE(HasFlags(false, true, false));
 }
 
-TEST_F(FolderListFile_, LoadTellsWhereFrom)
+TEST_F(TextList, LoadTellsWhereFrom)
 {
     Start();
     Load("x\n");
@@ -80,7 +80,7 @@ TEST_F(FolderListFile_, LoadTellsWhereFrom)
     EXPECT_EQ(Form().Caption(), u"Tressel v5.1450 - Files load from ... "_s + deep.right(70));
 }
 
-TEST_F(FolderListFile_, LoadDialogIsAskedAsTold)
+TEST_F(TextList, LoadDialogIsAskedAsTold)
 {
     machine.files.PutFolder(u"C:\\Docs"_s);
     application.settings.Write(keys::OpenTXTPath, u"C:\\Docs"_s);
@@ -96,7 +96,7 @@ TEST_F(FolderListFile_, LoadDialogIsAskedAsTold)
     EXPECT_EQ(Form().textLists.OpenTXTPath, u"C:\\Lists"_s);
 }
 
-TEST_F(FolderListFile_, CancelChangesNothing)
+TEST_F(TextList, CancelChangesNothing)
 {
     Start();
     Load("x\n");
@@ -108,7 +108,7 @@ TEST_F(FolderListFile_, CancelChangesNothing)
     EXPECT_FALSE(application.session.ListFromTextFile);
 }
 
-TEST_F(FolderListFile_, MissingFileClearsTheListInSilence)
+TEST_F(TextList, MissingFileClearsTheListInSilence)
 {
     Start();
     Load("x\n");
@@ -118,7 +118,7 @@ TEST_F(FolderListFile_, MissingFileClearsTheListInSilence)
     EXPECT_EQ(Status(), waiting);
 }
 
-TEST_F(FolderListFile_, MissingFolderIsToldInABox)
+TEST_F(TextList, MissingFolderIsToldInABox)
 {
     Start();
     machine.dialogs.ExpectOpenFile(u"C:\\Gone\\names.txt"_s);
@@ -128,7 +128,7 @@ TEST_F(FolderListFile_, MissingFolderIsToldInABox)
     EXPECT_TRUE(machine.dialogs.AllCame());
 }
 
-TEST_F(FolderListFile_, FolderAsListFileIsNoListAndNoCrash)
+TEST_F(TextList, FolderAsListFileIsNoListAndNoCrash)
 {
     Start();
     machine.files.PutFolder(listPath);
@@ -138,7 +138,7 @@ TEST_F(FolderListFile_, FolderAsListFileIsNoListAndNoCrash)
     EXPECT_EQ(Status(), waiting);
 }
 
-TEST_F(FolderListFile_, ReadFailureInTheMiddleEndsTheLoad)
+TEST_F(TextList, ReadFailureInTheMiddleEndsTheLoad)
 {
     Start();
     machine.files.FailAt(Operation::ReadBytes, listPath, 1, FailureNumber::DeviceIoError);
@@ -146,7 +146,7 @@ TEST_F(FolderListFile_, ReadFailureInTheMiddleEndsTheLoad)
     EXPECT_EQ(Status(), waiting);
 }
 
-TEST_F(FolderListFile_, OtherEncodingsAreRead)
+TEST_F(TextList, OtherEncodingsAreRead)
 {
     Start();
     Load("\xEF\xBB\xBF\xC3\x89t\xC3\xA9\n");
@@ -155,7 +155,7 @@ TEST_F(FolderListFile_, OtherEncodingsAreRead)
     EXPECT_EQ(Entries(), QStringList{u"Été €"_s});
 }
 
-TEST_F(FolderListFile_, StartTakes32000BytesAndNoMore)
+TEST_F(TextList, StartTakes32000BytesAndNoMore)
 {
     const QByteArray line(QByteArray("12345678\r\n"));
     machine.files.PutFile(listPath, line.repeated(3200));
@@ -165,7 +165,7 @@ TEST_F(FolderListFile_, StartTakes32000BytesAndNoMore)
     EXPECT_TRUE(HasFlags(false, true, false));
 }
 
-TEST_F(FolderListFile_, LargerFileIsRefusedAtStartOnly)
+TEST_F(TextList, LargerFileIsRefusedAtStartOnly)
 {
     const QByteArray line(QByteArray("12345678\r\n"));
     machine.files.PutFile(listPath, line.repeated(3200) + "x");
@@ -181,7 +181,7 @@ TEST_F(FolderListFile_, LargerFileIsRefusedAtStartOnly)
     EXPECT_EQ(application.settings.ReadText(keys::LastFile), listPath);
 }
 
-TEST_F(FolderListFile_, ListFileThatHasGoneIsAnEmptyListAtStart)
+TEST_F(TextList, ListFileThatHasGoneIsAnEmptyListAtStart)
 {
     machine.files.PutFolder(u"C:\\Lists"_s);
     application.settings.Write(keys::LastFile, listPath);
@@ -189,7 +189,7 @@ TEST_F(FolderListFile_, ListFileThatHasGoneIsAnEmptyListAtStart)
     EXPECT_TRUE(Entries().isEmpty());
 }
 
-TEST_F(FolderListFile_, ListFileInAFolderThatHasGoneIsToldAtStart)
+TEST_F(TextList, ListFileInAFolderThatHasGoneIsToldAtStart)
 {
     application.settings.Write(keys::LastFile, listPath);
     machine.dialogs.ExpectBox(u"Files C:\\Lists\\names.txt not found."_s);
@@ -198,7 +198,7 @@ TEST_F(FolderListFile_, ListFileInAFolderThatHasGoneIsToldAtStart)
     EXPECT_TRUE(Form().IsVisible());
 }
 
-TEST_F(FolderListFile_, SaveWritesTheEntriesAndForgetsComments)
+TEST_F(TextList, SaveWritesTheEntriesAndForgetsComments)
 {
     Start();
     Load("; comment\none\n\ntwo\n");
@@ -214,7 +214,7 @@ TEST_F(FolderListFile_, SaveWritesTheEntriesAndForgetsComments)
     EXPECT_TRUE(request.askBeforeOverwriting);
 }
 
-TEST_F(FolderListFile_, SaveAsksASecondTimeBeforeItOverwrites)
+TEST_F(TextList, SaveAsksASecondTimeBeforeItOverwrites)
 {
     Start();
     List({u"new"_s});
@@ -233,7 +233,7 @@ TEST_F(FolderListFile_, SaveAsksASecondTimeBeforeItOverwrites)
     EXPECT_EQ(machine.files.Bytes(listPath), "new\r\n");
 }
 
-TEST_F(FolderListFile_, FullDiscLeavesTheOldFileWhole)
+TEST_F(TextList, FullDiscLeavesTheOldFileWhole)
 {
     Start();
     Load("old\n");
@@ -246,7 +246,7 @@ TEST_F(FolderListFile_, FullDiscLeavesTheOldFileWhole)
     EXPECT_EQ(Entries(), (QStringList{u"old"_s, u"new"_s}));
 }
 
-TEST_F(FolderListFile_, SaveIntoAMissingFolderIsSilent)
+TEST_F(TextList, SaveIntoAMissingFolderIsSilent)
 {
     Start();
     application.session.ListFile = u"C:\\Gone\\names.txt"_s;
@@ -259,7 +259,7 @@ TEST_F(FolderListFile_, SaveIntoAMissingFolderIsSilent)
     EXPECT_EQ(Form().Caption(), u"Tressel v5.1450 - saved to ... C:\\Gone\\names.txt"_s);
 }
 
-TEST_F(FolderListFile_, ReportListDiffersInItsWays)
+TEST_F(TextList, ReportListDiffersInItsWays)
 {
     Start();
     Load("x\n");
@@ -276,7 +276,7 @@ TEST_F(FolderListFile_, ReportListDiffersInItsWays)
     EXPECT_EQ(machine.journal.Count(u"BusyPointer"_s), 0);
 }
 
-TEST_F(FolderListFile_, ReportInAMissingFolderNamesTheListFile)
+TEST_F(TextList, ReportInAMissingFolderNamesTheListFile)
 {
     Start();
     Load("x\n");
@@ -286,7 +286,7 @@ TEST_F(FolderListFile_, ReportInAMissingFolderNamesTheListFile)
     EXPECT_TRUE(machine.dialogs.AllCame());
 }
 
-class BrowsedFolder : public FolderListFile_ {
+class BrowsedFolder : public TextList {
 protected:
     BrowsedFolder()
     {
@@ -402,7 +402,7 @@ TEST_F(BrowsedFolder, RemoveExtReloadsFromTheRememberedSource)
     EXPECT_EQ(Entries(), QStringList{u"one.txt"_s});
 }
 
-TEST_F(FolderListFile_, DropGivesTheFirstPath)
+TEST_F(TextList, DropGivesTheFirstPath)
 {
     Start();
     Area().txtStrtPath.UserDrops({u"C:\\Dropped"_s, u"C:\\Other"_s});
@@ -411,7 +411,7 @@ TEST_F(FolderListFile_, DropGivesTheFirstPath)
     EXPECT_EQ(Area().txtStrtPath.Text(), u"C:\\Dropped"_s);
 }
 
-TEST_F(FolderListFile_, BrowseButtonTakesTheChosenFolder)
+TEST_F(TextList, BrowseButtonTakesTheChosenFolder)
 {
     Start();
     machine.dialogs.ExpectChooseFolder(u"C:\\Chosen"_s);
@@ -425,7 +425,7 @@ TEST_F(FolderListFile_, BrowseButtonTakesTheChosenFolder)
     EXPECT_EQ(machine.journal.About(u"ChooseFolder"_s).first(), u"Select Destination Folder..."_s);
 }
 
-TEST_F(FolderListFile_, DoubleClickInTheListDoesNothing)
+TEST_F(TextList, DoubleClickInTheListDoesNothing)
 {
     Start();
     List({u"a"_s, u"b"_s});
