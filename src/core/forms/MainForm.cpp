@@ -29,6 +29,7 @@ MainForm::MainForm(const Machine &onMachine, Settings &stored, Session &shared, 
     , browse(area, machine.files, tree, listFile, session)
     , textLists(area, machine.files, machine.dialogs, clickSound, listFile, session)
     , creation(area, browse.DirList, machine.files, machine.events, machine.dialogs, session)
+    , numbered(*this, browse.DirList, options, clickSound, machine.files, machine.events, settings)
 {
     SetCaption(u"Tressel"_s);
     TieToolbar();
@@ -69,6 +70,7 @@ void MainForm::btnGBToolbarCreate_Click()
     tree.ShowCreatedTree();
     // Kept: a run that failed ends with this text too.
     area.lblStatusLine.SetCaption(u"Finished, folders created successfully"_s);
+    numbered.DirBox.Refresh();
     browse.DirList.Refresh();
 }
 

@@ -15,6 +15,7 @@
 #include "tools/folders/FolderListFile.h"
 #include "tools/folders/FolderTree.h"
 #include "tools/folders/TextListTool.h"
+#include "tools/numbered/NumberedPage.h"
 #include "settings/Settings.h"
 
 namespace tressel {
@@ -49,6 +50,7 @@ public:
     BrowsePage browse;
     TextListTool textLists;
     FolderCreation creation;
+    NumberedPage numbered;
 
     QString OpenDBPath; ///< where the database dialog opens, kept from session to session
 
