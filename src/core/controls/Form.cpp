@@ -147,6 +147,12 @@ void Form::TakeGeometry(int newLeft, int newTop, int newWidth, int newHeight, Wi
     Dispatch([this] { Resize.Raise(); });
 }
 
+void Form::TakeBorder(int widthTwips, int heightTwips)
+{
+    borderWidth = widthTwips;
+    borderHeight = heightTwips;
+}
+
 void Form::Register(Control &control)
 {
     Q_ASSERT_X(!byName.contains(control.Name()), "Form::Register", qPrintable(control.Name()));
