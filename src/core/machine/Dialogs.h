@@ -21,6 +21,7 @@ struct MessageBox {
     BoxIcon icon = BoxIcon::None;
     BoxButtons buttons = BoxButtons::Ok;
     std::optional<BoxAnswer> defaultAnswer = {};
+    bool operator==(const MessageBox &) const = default;
 };
 
 /// What a file dialog is asked with.

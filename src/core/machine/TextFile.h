@@ -4,6 +4,7 @@
 #pragma once
 
 #include "machine/FileSystem.h"
+#include "machine/NameText.h"
 
 #include <QString>
 
@@ -12,19 +13,8 @@
 
 namespace tressel {
 
-/// How the bytes of names that aren't UTF-8 stand in a text file. In memory such a byte is the lone
-/// surrogate U+DC80 + (byte - 0x80).
-enum class NameBytes {
-    /// Lists, which may come from anywhere: such a byte is written as its surrogate's own three bytes
-    /// (ED B2 80 to ED B3 BF), so that one odd name doesn't change how the rest of the file is read;
-    /// a file that is not UTF-8 but for those is read as Windows-1252.
-    Escaped,
-    /// Files that the program itself wrote for others to read: such a byte stands as it is, and whatever
-    /// isn't UTF-8 is read back as such bytes.
-    Raw,
-};
-
-/// Turns the bytes of a text file into text. A byte order mark in front is dropped.
+/// Turns the bytes of a text file into text: UTF-8, or Windows-1252 if they aren't that. A byte order
+/// mark in front is dropped.
 QString DecodeText(const QByteArray &bytes, NameBytes nameBytes = NameBytes::Escaped);
 
 /// Text for a file: UTF-8 without a mark.
@@ -33,11 +23,12 @@ QByteArray EncodeText(const QString &text, NameBytes nameBytes = NameBytes::Esca
 /// Reads a text file line by line. CR LF, LF and CR end a line; the last one needs no end.
 class LineReader {
 public:
-    /// Fails as FileSystem::Open does.
+    /// Takes the whole file in. Fails as FileSystem::Open does.
     LineReader(FileSystem &files, const QString &path, NameBytes nameBytes = NameBytes::Escaped);
 
     /// The next line without its end, nothing after the last.
     std::optional<QString> Next();
+    /// Lets the text go; there is no next line then.
     void Close();
 
 private:
@@ -51,7 +42,10 @@ public:
     /// Makes or empties the file. Fails as FileSystem::Open does.
     LineWriter(FileSystem &files, const QString &path, OpenFor purpose = OpenFor::Writing,
                NameBytes nameBytes = NameBytes::Escaped);
+    /// Closes, but can't report what fails.
     ~LineWriter();
+    LineWriter(const LineWriter &) = delete;
+    LineWriter &operator=(const LineWriter &) = delete;
 
     void WriteLine(const QString &line);
     /// Writes what is still held back and closes. Fails with 61 on a full disc.
@@ -60,7 +54,7 @@ public:
 private:
     void WriteHeldBack();
 
-    std::unique_ptr<OpenFile> file;
+    std::unique_ptr<OpenFile> file; ///< none once it is closed
     NameBytes nameBytes;
     QByteArray heldBack;
 };

@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "machine/Clock.h"
+#include "machine/FileSystem.h"
+#include "support/Journal.h"
+#include "support/MemoryNode.h"
+#include "support/OrderedFailures.h"
+
+#include <QStringList>
+
+#include <type_traits>
+
+namespace tressel {
+
+/// A file system in memory, of the kind with drives: "C:\a\b", names that keep their case and compare
+/// without it, a hidden and a read-only attribute. Doubled separators count as one, one at the end is
+/// ignored, and a path without a drive starts at the root of C:, which is there from the start.
+///
+/// The journal has each operation under its Operation's name, about the path as it was asked.
+class MemoryFileSystem : public FileSystem {
+public:
+    MemoryFileSystem(Journal &journal, const Clock &clock);
+
+    // What a test sets up and looks at, without a word in the journal. A path that isn't there fails.
+
+    /// Adds a drive, or sets label and room of one that is there.
+    void AddDrive(QChar letter, const QString &label = {}, qint64 freeSpace = 1LL << 40);
+    /// Takes the medium out of a drive, or puts it in again.
+    void SetReady(QChar letter, bool ready);
+    /// Makes a folder and those above it.
+    void PutFolder(const QString &path);
+    /// Makes or replaces a file and makes the folders above it.
+    void PutFile(const QString &path, const QByteArray &bytes = {});
+    /// Makes a link to a path, which need not exist.
+    void PutLink(const QString &path, const QString &target);
+    void SetHidden(const QString &path, bool hidden = true);
+    void SetModified(const QString &path, const QDateTime &modified);
+    /// Another program holds the file, or lets it go.
+    void HoldByAnother(const QString &path, bool held = true);
+    bool Exists(const QString &path);
+    /// What is in a file.
+    QByteArray Bytes(const QString &path);
+    /// Everything below a folder as paths from there on, sorted, folders with "\" at their end.
+    QStringList Tree(const QString &folder);
+
+    /// Orders a failure: the `nth` operation of this kind (1 the next) on the path or on anything below it,
+    /// of those that would have succeeded, fails with this number; with nth 0 every one. MakeFolder under
+    /// C:\W: the 2nd folder made there.
+    void FailAt(Operation operation, const QString &path, int nth, FailureNumber number);
+    /// Takes all ordered failures back.
+    void FailNoMore() { orders.Clear(); }
+
+    QChar Separator() const override { return u'\\'; }
+    std::optional<FileStatus> Status(const QString &path, Links links) override;
+    QList<FolderEntry> List(const QString &folder) override;
+    std::unique_ptr<FolderReader> Read(const QString &folder) override;
+    std::optional<Failure> TryMakeFolder(const QString &path) override;
+    std::optional<Failure> TryRemoveFolder(const QString &path) override;
+    void RemoveFile(const QString &path) override;
+    void Rename(const QString &from, const QString &to) override;
+    std::unique_ptr<OpenFile> Open(const QString &path, OpenFor purpose,
+                                   Sharing sharing = Sharing::Shared) override;
+    void ReplaceContents(const QString &path, const QByteArray &bytes) override;
+    void SetReadOnly(const QString &path, bool readOnly) override;
+    QList<Volume> Volumes() override;
+    QString VolumeLabel(const QString &path) override;
+    qint64 FreeSpace(const QString &path) override;
+
+private:
+    friend class MemoryOpenFile;
+    using Node = std::shared_ptr<MemoryNode>;
+
+    /// Where a path leads: the folder that it is in, its last name, and what is there.
+    struct Place {
+        Node parent; ///< none for a drive's root
+        QString name;
+        Node node; ///< none if nothing is there
+    };
+
+    MemoryDrive &DriveFor(const QString &path);
+    /// Fails with 76 if a level above the last one is missing. A link at the end is followed with Follow.
+    Place Find(const QString &path, Links links, int depth = 0);
+    Node FindFolder(const QString &path);
+    Node FindFile(const QString &path);
+    Node Add(const Place &place, EntryKind kind);
+    void Remove(const Node &node);
+    /// Adds to what a drive has written, as far as it has room; how much of it had room.
+    qint64 TakeRoom(const MemoryNode &node, qint64 bytes);
+    void Obey(Operation operation, const Place &place);
+    /// Does a step and notes it and its failure.
+    template <typename Step>
+    auto Ask(Operation operation, const QString &path, const QString &detail, Step step);
+
+    Journal &journal;
+    const Clock &clock;
+    OrderedFailures orders;
+    std::map<QChar, MemoryDrive> drives; ///< by the capital letter
+    quint64 births = 0;
+};
+
+template <typename Step>
+auto MemoryFileSystem::Ask(Operation operation, const QString &path, const QString &detail, Step step)
+{
+    try {
+        if constexpr (std::is_void_v<decltype(step())>) {
+            step();
+            journal.Note(OperationName(operation), path, detail);
+        } else {
+            auto result = step();
+            journal.Note(OperationName(operation), path, detail);
+            return result;
+        }
+    } catch (const Failure &failure) {
+        journal.Note(OperationName(operation), path, detail, failure.Number());
+        throw;
+    }
+}
+
+} // namespace tressel

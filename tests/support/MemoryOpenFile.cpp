@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "support/MemoryOpenFile.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tressel {
+
+MemoryOpenFile::MemoryOpenFile(MemoryFileSystem &theFiles, std::shared_ptr<MemoryNode> theNode,
+                               QString thePath, OpenFor thePurpose, Sharing sharing)
+    : files(theFiles)
+    , node(std::move(theNode))
+    , path(std::move(thePath))
+    , purpose(thePurpose)
+    , holds(sharing == Sharing::Exclusive)
+{
+    if (holds)
+        node->heldExclusively = true;
+    if (purpose == OpenFor::Writing) {
+        files.TakeRoom(*node, -node->bytes.size());
+        node->bytes.clear();
+        node->modified = files.clock.Now();
+    }
+    if (purpose == OpenFor::Appending)
+        position = node->bytes.size();
+}
+
+MemoryOpenFile::~MemoryOpenFile()
+{
+    LetGo();
+}
+
+void MemoryOpenFile::LetGo()
+{
+    if (node && holds)
+        node->heldExclusively = false;
+    node.reset();
+}
+
+void MemoryOpenFile::NeedOpen() const
+{
+    if (!node)
+        throw Failure(FailureNumber::BadFileName);
+}
+
+QByteArray MemoryOpenFile::Read(qint64 maximum)
+{
+    return files.Ask(Operation::ReadBytes, path, QString::number(maximum), [&] {
+        NeedOpen();
+        if (maximum < 0)
+            throw Failure(FailureNumber::InvalidProcedureCall);
+        if (purpose != OpenFor::Reading && purpose != OpenFor::Changing)
+            throw Failure(FailureNumber::BadFileName);
+        files.orders.Obey(Operation::ReadBytes, FoldedPath(*node));
+        const QByteArray bytes =
+            position < node->bytes.size() ? node->bytes.mid(position, maximum) : QByteArray();
+        position += bytes.size();
+        return bytes;
+    });
+}
+
+void MemoryOpenFile::Write(const QByteArray &bytes)
+{
+    files.Ask(Operation::WriteBytes, path, QString::number(bytes.size()), [&] {
+        NeedOpen();
+        if (purpose == OpenFor::Reading)
+            throw Failure(FailureNumber::BadFileName);
+        files.orders.Obey(Operation::WriteBytes, FoldedPath(*node));
+        Put(bytes);
+    });
+}
+
+void MemoryOpenFile::Put(const QByteArray &bytes)
+{
+    if (purpose == OpenFor::Appending)
+        position = node->bytes.size();
+    const qint64 growth = std::max<qint64>(0, position + bytes.size() - node->bytes.size());
+    const qint64 missing = growth - files.TakeRoom(*node, growth);
+    // A full disc takes what still has room.
+    const QByteArray taken = bytes.left(std::max<qint64>(0, bytes.size() - missing));
+    if (position + taken.size() > node->bytes.size())
+        node->bytes.append(position + taken.size() - node->bytes.size(), '\0');
+    node->bytes.replace(position, taken.size(), taken);
+    position += taken.size();
+    node->modified = files.clock.Now();
+    if (missing > 0)
+        throw Failure(FailureNumber::DiskFull);
+}
+
+qint64 MemoryOpenFile::Position() const
+{
+    NeedOpen();
+    return position;
+}
+
+void MemoryOpenFile::Seek(qint64 newPosition)
+{
+    NeedOpen();
+    if (newPosition < 0)
+        throw Failure(FailureNumber::InvalidProcedureCall);
+    position = newPosition;
+}
+
+qint64 MemoryOpenFile::Length() const
+{
+    NeedOpen();
+    return node->bytes.size();
+}
+
+void MemoryOpenFile::Flush()
+{
+    files.Ask(Operation::FlushFile, path, {}, [&] {
+        NeedOpen();
+        files.orders.Obey(Operation::FlushFile, FoldedPath(*node));
+    });
+}
+
+void MemoryOpenFile::Close()
+{
+    if (!node)
+        return;
+    files.Ask(Operation::CloseFile, path, {}, [&] {
+        const QString folded = FoldedPath(*node);
+        LetGo();
+        files.orders.Obey(Operation::CloseFile, folded);
+    });
+}
+
+} // namespace tressel
