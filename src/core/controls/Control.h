@@ -32,11 +32,11 @@ public:
     Form &Owner() const { return form; }
 
     bool IsEnabled() const { return enabled; }
-    void SetEnabled(bool isEnabled);
+    virtual void SetEnabled(bool isEnabled);
     bool IsVisible() const { return visible; }
     void SetVisible(bool isVisible);
-    const QString &ToolTip() const { return toolTip; }
-    void SetToolTip(const QString &text);
+    virtual const QString &ToolTip() const { return toolTip; }
+    virtual void SetToolTip(const QString &text);
 
     /// Place and size in twips, for controls whose geometry rules speak of. Writing a size below 0 fails
     /// with 380 and changes nothing.
@@ -46,8 +46,8 @@ public:
     int Height() const { return height; }
     void SetLeft(int twips);
     void SetTop(int twips);
-    void SetWidth(int twips);
-    void SetHeight(int twips);
+    virtual void SetWidth(int twips);
+    virtual void SetHeight(int twips);
 
     /// Whether files of the desktop may be dropped on it.
     bool TakesDrops() const { return takesDrops; }

@@ -123,7 +123,7 @@ void Form::SetChangeListener(std::function<void()> listener)
 QList<Control *> Form::TakeChanged()
 {
     listenerTold = false;
-    const QList<Control *> taken = std::exchange(changed, {});
+    QList<Control *> taken = std::exchange(changed, {});
     for (Control *control : taken)
         control->noted = false;
     return taken;

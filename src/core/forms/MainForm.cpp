@@ -48,12 +48,13 @@ MainForm::MainForm(const Machine &onMachine, Settings &stored, Session &shared, 
     , browse(area, machine.files, tree, listFile, session)
     , FrameXPMenu6(*this, u"FrameXPMenu(6)"_s)
     , textLists(area, machine.files, machine.dialogs, clickSound, listFile, session)
+    , erase(*this)
     , creation(area, browse.DirList, machine.files, machine.events, machine.dialogs, session)
+    , numbered(*this, browse.DirList, options, clickSound, machine.files, machine.events, settings)
     , splitter(*this)
     , database(*this)
     , emptyFolders(*this, machine.files)
     , rename(*this)
-    , erase(*this)
     , FrameXPMenu3(*this, u"FrameXPMenu(3)"_s)
     , Picture4(*this, u"Picture4"_s)
     , PicStrip(*this, u"PicStrip"_s)
@@ -61,6 +62,8 @@ MainForm::MainForm(const Machine &onMachine, Settings &stored, Session &shared, 
     , PicStatus(*this, u"PicStatus"_s)
     , PicUpdate(*this, u"PicUpdate"_s)
     , lblUpdate(*this, u"lblUpdate"_s, u"New version"_s)
+    , FrameXPMenu{&browse.page,   &rename.page,       &numbered.page, &FrameXPMenu3,
+                  &database.page, &emptyFolders.page, &FrameXPMenu6,  &splitter.page}
 {
     SetFirstValues();
     TieToolbar();
@@ -130,6 +133,7 @@ void MainForm::btnGBToolbarCreate_Click()
     tree.ShowCreatedTree();
     // Kept: a run that failed ends with this text too.
     area.lblStatusLine.SetCaption(u"Finished, folders created successfully"_s);
+    numbered.DirBox.Refresh();
     browse.DirList.Refresh();
 }
 

@@ -9,6 +9,7 @@
 #include "controls/SideBar.h"
 #include "language/Session.h"
 #include "machine/Machine.h"
+#include "settings/Settings.h"
 #include "tools/ClickSound.h"
 #include "tools/LiveOptions.h"
 #include "tools/WorkArea.h"
@@ -20,17 +21,15 @@
 #include "tools/folders/FolderListFile.h"
 #include "tools/folders/FolderTree.h"
 #include "tools/folders/TextListTool.h"
+#include "tools/numbered/NumberedPage.h"
 #include "tools/rename/RenamePage.h"
 #include "tools/splitter/SplitterPage.h"
-#include "settings/Settings.h"
 
 #include <array>
 
 namespace tressel {
 
-
 class Steps;
-
 
 /// The main window: the toolbar, the path row, the pages with the tools, the tree and the list, and the
 /// status line. It restores every tool's last state when it loads and writes it back when it goes.
@@ -65,12 +64,13 @@ public:
     BrowsePage browse;
     Frame FrameXPMenu6; ///< the page of three tools: text lists, listings and erasing
     TextListTool textLists;
+    ErasePage erase;
     FolderCreation creation;
+    NumberedPage numbered;
     SplitterPage splitter;
     DatabasePage database;
     EmptyFoldersPage emptyFolders;
     RenamePage rename;
-    ErasePage erase;
     Frame FrameXPMenu3; ///< an empty page that no entry opens
     PictureBox Picture4; ///< holds what has no face
 
@@ -79,6 +79,8 @@ public:
     PictureBox PicStatus;
     PictureBox PicUpdate; ///< the notice of a newer version
     Label lblUpdate;
+
+    const std::array<Frame *, 8> FrameXPMenu; ///< the pages by their numbers
 
     QString OpenDBPath; ///< where the database dialog opens, kept from session to session
 
@@ -100,11 +102,7 @@ public:
     void LayOutPending();
 
 private:
-    static constexpr int pageCount = 8;
     bool layoutPending = false;
-
-    /// FrameXPMenu of that number.
-    Frame *Page(int number) const;
 
     void SetFirstValues();
     void TieSideBar();

@@ -58,15 +58,16 @@ void PlaceAll(std::initializer_list<Placing> placings)
         steps.Do([&] { Place(placing); });
 }
 
-/// Fits the one list of a page into the page's height. True if the page is too low for the list: then
-/// the list gets its least height, and the page the one below which it isn't drawn.
-bool FitList(Control &list, Control &page, int margin, int leastListHeight = 2400)
+/// Fits the lists of a page that grow with it into the page's height. True if the page is too low for
+/// them: then they get their least height, and the page its own.
+bool FitLists(Control &page, std::initializer_list<Control *> lists, int margin, int leastHeight = 2400)
 {
     const bool isLow = page.Height() < lowPage;
+    const int height = isLow ? leastHeight : page.Height() - margin;
+    for (Control *list : lists)
+        PlaceAll({{*list, Side::Height, height}});
     if (isLow)
-        PlaceAll({{list, Side::Height, leastListHeight}, {page, Side::Height, leastPageHeight}});
-    else
-        PlaceAll({{list, Side::Height, page.Height() - margin}});
+        PlaceAll({{page, Side::Height, leastPageHeight}});
     return isLow;
 }
 
@@ -200,8 +201,8 @@ void MainForm::GivePagesRoom()
     // What the side bar does for its pages. Before a face told the room they keep the height they have.
     if (EyeDropper1.PageHeight() <= 0)
         return;
-    for (int number = 0; number < pageCount; ++number)
-        Page(number)->SetHeight(EyeDropper1.PageHeight());
+    for (Frame *page : FrameXPMenu)
+        page->SetHeight(EyeDropper1.PageHeight());
 }
 
 void MainForm::PlaceFolderPages()
@@ -209,7 +210,7 @@ void MainForm::PlaceFolderPages()
     const int left = PicStrip.Left();
     // Kept: the file list's height is written twice; the second value stays.
     PlaceAll({{browse.FileList, Side::Height, browse.page.Height() - 3600}});
-    FitList(browse.FileList, browse.page, 3500);
+    FitLists(browse.page, {&browse.FileList}, 3500);
     PlaceAll({
         {browse.DrvList, Side::Width, left - 300},
         {browse.DirList, Side::Width, left - 300},
@@ -221,7 +222,7 @@ void MainForm::PlaceFolderPages()
         {numbered.DrvBox, Side::Width, left - 300},
         {numbered.DirBox, Side::Width, left - 300},
     });
-    FitList(numbered.DirBox, numbered.page, 2500);
+    FitLists(numbered.page, {&numbered.DirBox}, 2500);
     PlaceAll({
         {textLists.btnGBLoadFile, Side::Left, left - 2470},
         {textLists.btnGBSaveFile, Side::Left, left - 1300},
@@ -242,10 +243,7 @@ void MainForm::PlaceDatabaseAndEmptyFolders()
         {database.Tables, Side::Width, left - 1700},
         {database.Fields, Side::Width, left - 1700},
     });
-    if (FitList(database.Tables, database.page, 4000))
-        PlaceAll({{database.Fields, Side::Height, database.Tables.Height()}});
-    else
-        FitList(database.Fields, database.page, 4000);
+    FitLists(database.page, {&database.Tables, &database.Fields}, 4000);
     PlaceAll({
         {emptyFolders.btnGBToolbarSearch, Side::Left, left - 1300},
         {emptyFolders.btnGBToolbarOpenDir, Side::Left, left - 1300},
@@ -256,7 +254,7 @@ void MainForm::PlaceDatabaseAndEmptyFolders()
         {emptyFolders.DirListRemove, Side::Width, left - 1700},
         {emptyFolders.ListRemove, Side::Width, left - 1700},
     });
-    FitList(emptyFolders.ListRemove, emptyFolders.page, 3600, 2200);
+    FitLists(emptyFolders.page, {&emptyFolders.ListRemove}, 3600, 2200);
 }
 
 void MainForm::PlaceRenamePage()
@@ -286,7 +284,7 @@ void MainForm::PlaceTextPage()
         {erase.PicProgress, Side::Width, left - 300},
         {erase.btnGBErase, Side::Left, left - 1300},
     });
-    const bool isLow = FitList(erase.lstErase, FrameXPMenu6, 5500);
+    const bool isLow = FitLists(FrameXPMenu6, {&erase.lstErase}, 5500);
     // Kept: neither distance is the list's height.
     erase.PicProgress.SetTop(erase.lstErase.Top() + (isLow ? 1100 : 4800));
 }

@@ -16,6 +16,8 @@ using namespace Qt::StringLiterals;
 void MainForm::LoadForm()
 {
     Steps steps;
+    numbered.FillNumberCombos();
+    numbered.Restore(steps);
     RestorePlace(steps, KeyReader::First);
     steps.Do([&] { area.txtStrtPath.SetText(settings.ReadText(keys::FilePath)); });
     steps.Do([&] { area.chkExtension.SetValue(settings.ReadInt32(keys::FileExt)); });
@@ -62,6 +64,8 @@ void MainForm::UnloadForm(bool &)
     settings.Write(keys::LastDBPath, browse.DirList.Path());
     settings.Write(keys::OpenTXTPath, textLists.OpenTXTPath);
     settings.Write(keys::OpenDBPath, OpenDBPath);
+    Steps steps;
+    numbered.Save(steps);
 }
 
 void MainForm::EndProgram()

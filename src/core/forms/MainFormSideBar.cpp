@@ -12,7 +12,7 @@ namespace {
 /// An entry of the side bar: what it says, and the number of the page that it opens.
 struct Entry {
     const char16_t *caption;
-    int page;
+    std::size_t page;
 };
 
 constexpr std::array entries{
@@ -41,10 +41,8 @@ std::int32_t LastOpened(const Settings &settings)
 
 void MainForm::TieSideBar()
 {
-    for (int number = 0; number < pageCount; ++number) {
-        if (Frame *page = Page(number))
-            page->SetBackColor(0xF5F5F5);
-    }
+    for (Frame *page : FrameXPMenu)
+        page->SetBackColor(0xF5F5F5);
     EyeDropper1.ItemSelected.Handle([this](const SideBarItem &item) { EyeDropper1_ItemSelected(item); });
     EyeDropper1.StripResize.Handle([this] { LayoutPanes(); });
     EyeDropper1.PageResize.Handle([this] { LayoutPanes(); });
@@ -58,8 +56,7 @@ void MainForm::LoadItems()
     const int opened = LastOpened(settings);
     for (int number = 1; const Entry &entry : entries) {
         SideBarItem &item = EyeDropper1.Items().Add(u"Item: "_s + QString::number(number), QString(entry.caption));
-        if (Frame *page = Page(entry.page))
-            item.SetPage(*page);
+        item.SetPage(*FrameXPMenu[entry.page]);
         item.SetImage(number);
         if (number == opened)
             item.SetSelected(true);
@@ -67,11 +64,6 @@ void MainForm::LoadItems()
     }
     EyeDropper1.SetVisibleItems(shownEntries);
     EyeDropper1.SetRedraw(true);
-}
-
-Frame *MainForm::Page(int number) const
-{
-    return dynamic_cast<Frame *>(Find(u"FrameXPMenu("_s + QString::number(number) + u')'));
 }
 
 void MainForm::EyeDropper1_ItemSelected(const SideBarItem &item)

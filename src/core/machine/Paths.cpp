@@ -62,4 +62,12 @@ QString DriveOf(FileSystem &files, const QString &path)
     return best.isEmpty() && !volumes.isEmpty() ? volumes.first().root : best;
 }
 
+QString OnDriveC(const FileSystem &files, const QString &path)
+{
+    const bool hasDriveLetters = files.Separator() == u'\\';
+    if (hasDriveLetters || !path.startsWith(QStringLiteral("C:"), Qt::CaseInsensitive))
+        return path;
+    return EntryToPath(files, path.mid(2));
+}
+
 } // namespace tressel

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+namespace tressel {
+
+/// How a command ended, as its exit status.
+enum ExitStatus : int {
+    AllDone = 0,
+    SomethingFailed = 1,
+    WrongUsage = 2,
+    Interrupted = 130, ///< 128 + SIGINT, as shells have it
+};
+
+/// A line on standard output, names that aren't UTF-8 byte for byte.
+void Print(const QString &line);
+
+/// "tressel-cli: " and a sentence on standard error.
+void PrintError(const QString &sentence);
+
+/// From here on SIGINT and SIGTERM are only noted.
+void NoteInterruptions();
+bool WasInterrupted();
+
+/// A bar on standard error that shows how far a run is; nothing where that isn't a terminal.
+class ProgressLine {
+public:
+    explicit ProgressLine(bool wanted);
+    ~ProgressLine();
+    ProgressLine(const ProgressLine &) = delete;
+    ProgressLine &operator=(const ProgressLine &) = delete;
+
+    /// Draws the bar anew if the last time is a twentieth of a second ago.
+    void Show(int done, int total);
+
+private:
+    bool isShown;
+    bool isDrawn = false;
+    qint64 lastDrawn = 0;
+};
+
+} // namespace tressel

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "CreateCommand.h"
+
+#include "Console.h"
+#include "ConsoleMachine.h"
+#include "forms/Application.h"
+#include "language/Language.h"
+#include "machine/Paths.h"
+#include "machine/Program.h"
+
+namespace tressel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A sentence if the sources or the destination can't be used, which the window would pass over in silence.
+std::optional<QString> WhatIsWrong(const CreateRequest &request, FileSystem &files)
+{
+    if (request.listFile) {
+        try {
+            files.Open(*request.listFile, OpenFor::Reading, Sharing::Shared);
+        } catch (const Failure &failure) {
+            return u"the list file %1 can't be read: %2"_s.arg(*request.listFile, failure.description);
+        }
+    }
+    if (request.namesOf && !FolderExists(files, *request.namesOf))
+        return u"%1 is no folder whose file names could be taken"_s.arg(*request.namesOf);
+    MakeFolderPath(files, request.destination);
+    if (!FolderExists(files, request.destination))
+        return u"the destination %1 is no folder and can't be made"_s.arg(request.destination);
+    return {};
+}
+
+void FillList(const CreateRequest &request, ConsoleMachine &machine, MainForm &form)
+{
+    form.area.chkExtension.SetChecked(request.removeExtension);
+    if (request.listFile) {
+        machine.dialogs.namedFile = *request.listFile;
+        form.textLists.btnGBLoadFile.UserClicks();
+    } else if (request.namesOf) {
+        form.browse.FileList.SetPath(*request.namesOf);
+        form.btnGBToolbarLoadList.UserClicks();
+    } else {
+        for (const QString &name : request.names)
+            form.area.LstItem.AddItem(name);
+    }
+}
+
+/// Prints what was really done, and says how the command ended.
+int Conclude(const CreateRequest &request, const CreationCount &count, int wanted)
+{
+    const int failed = count.failed + (wanted - count.tried);
+    if (!request.quiet) {
+        Print(u"made %1, already there %2, failed %3"_s.arg(count.made).arg(count.alreadyThere).arg(failed));
+    }
+    return failed > 0 ? SomethingFailed : AllDone;
+}
+
+} // namespace
+
+int RunCreate(const CreateRequest &request, FileSystem &disc, Clock &clock, Program &program)
+{
+    if (const auto sentence = WhatIsWrong(request, disc)) {
+        PrintError(*sentence);
+        return SomethingFailed;
+    }
+
+    ConsoleMachine machine(disc, clock, program);
+    Application application(machine.AsMachine());
+    application.settings.Write(keys::ShowTips, u"0"_s);
+    application.Start();
+    MainForm &form = application.frmMain();
+    FillList(request, machine, form);
+
+    const int wanted = form.area.LstItem.ListCount();
+    NoteInterruptions();
+    ProgressLine progress(!request.quiet);
+    machine.files.StartCounting(request.destination);
+    machine.events.onPause = [&] {
+        progress.Show(machine.files.Count().tried, wanted);
+        if (WasInterrupted()) {
+            // What was made stays, and the rest was never tried.
+            Conclude(request, machine.files.Count(), machine.files.Count().tried);
+            program.End(Interrupted);
+        }
+    };
+    form.area.txtStrtPath.SetText(request.destination);
+    form.btnGBToolbarCreate.UserClicks();
+    machine.events.onPause = {};
+    return Conclude(request, machine.files.Count(), wanted);
+}
+
+} // namespace tressel

@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "tools/numbered/NumberedPage.h"
+
+#include "base/Steps.h"
+#include "machine/Paths.h"
+#include "settings/Settings.h"
+#include "tools/ClickSound.h"
+
+namespace tressel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::int16_t lastListedNumber = 999;
+
+} // namespace
+
+NumberedPage::NumberedPage(Form &form, FolderList &DirList, const LiveOptions &options,
+                           const ClickSound &sound, FileSystem &fileSystem, Events &events, Settings &stored)
+    : page(form, u"FrameXPMenu(2)"_s)
+    , DrvBox(form, u"DrvBox"_s, fileSystem)
+    , DirBox(form, u"DirBox"_s, fileSystem)
+    , txtFeltDir(form, u"txtFeltDir"_s, u"Disk"_s)
+    , txtFeltDirSub(form, u"txtFeltDirSub"_s, u"Sub Folder"_s)
+    , lblFrom(form, u"lblFrom"_s, u"From:"_s)
+    , cboFrom(form, u"cboFrom"_s)
+    , lblTo(form, u"lblTo"_s, u"To:"_s)
+    , cboTo(form, u"cboTo"_s)
+    , chkMain_Sub(form, u"chkMain_Sub"_s, u"Make numbered Main/Sub Folders"_s)
+    , Chck_MakeDel(form, u"Chck_MakeDel"_s, u"Chose Make or Delete"_s)
+    , btnGBMake(form, u"btnGBMake"_s, u"Make Folder"_s)
+    , btnGBDelete(form, u"btnGBDelete"_s, u"Delete Folder"_s)
+    , NumberedFolderPath(DirBox.Path())
+    , clickSound(sound)
+    , files(fileSystem)
+    , settings(stored)
+    , run(*this, DirList, options, files, events)
+{
+    DrvBox.SetToolTip(u" Change to another drive "_s);
+    DirBox.SetToolTip(u" Select any folder "_s);
+    chkMain_Sub.SetToolTip(u" If Checked Make numbered Sub Folders "_s);
+    Chck_MakeDel.SetToolTip(u" Select Make or Delete Folder "_s);
+    Chck_MakeDel_Click();
+
+    DrvBox.Change.Handle([this] { DrvBox_Change(); });
+    DirBox.Change.Handle([this] { DirBox_Change(); });
+    Chck_MakeDel.Click.Handle([this] { Chck_MakeDel_Click(); });
+    btnGBMake.Click.Handle([this] { btnGBMake_Click(); });
+    btnGBDelete.Click.Handle([this] { btnGBDelete_Click(); });
+}
+
+void NumberedPage::FillNumberCombos()
+{
+    QStringList numbers;
+    for (std::int16_t number = 1; number <= lastListedNumber; ++number)
+        numbers += QString::number(number);
+    cboFrom.SetItems(numbers);
+    cboTo.SetItems(numbers);
+}
+
+void NumberedPage::Restore(Steps &steps)
+{
+    steps.Do([&] { Chck_MakeDel.SetValue(settings.ReadInt32(keys::MakeDel)); });
+    steps.Do([&] { cboFrom.SetText(settings.ReadText(keys::FromDir)); });
+    steps.Do([&] { cboTo.SetText(settings.ReadText(keys::ToDir)); });
+    for (ComboBox *combo : {&cboFrom, &cboTo}) {
+        if (combo->Text().isEmpty())
+            combo->SetText(u"1"_s);
+    }
+    steps.Do([&] { txtFeltDir.SetText(settings.ReadText(keys::Folder)); });
+    steps.Do([&] { txtFeltDirSub.SetText(settings.ReadText(keys::SubFolder)); });
+    steps.Do([&] { NumberedFolderPath = OnDriveC(files, settings.ReadText(keys::LastNumPath)); });
+    if (!steps.Pending()) {
+        steps.Do([&] { DirBox.SetPath(NumberedFolderPath); });
+        steps.Do([&] { DrvBox.SetDrive(DirBox.Path()); });
+    }
+    steps.Clear();
+}
+
+void NumberedPage::Save(Steps &steps)
+{
+    steps.Do([&] { settings.Write(keys::MakeDel, Chck_MakeDel.Value()); });
+    steps.Do([&] { settings.Write(keys::FromDir, cboFrom.Text()); });
+    steps.Do([&] { settings.Write(keys::ToDir, cboTo.Text()); });
+    steps.Do([&] { settings.Write(keys::Folder, txtFeltDir.Text()); });
+    steps.Do([&] { settings.Write(keys::SubFolder, txtFeltDirSub.Text()); });
+    steps.Do([&] { settings.Write(keys::LastNumPath, NumberedFolderPath); });
+}
+
+void NumberedPage::DrvBox_Change()
+{
+    // A drive that follows the folder list must not send it back to the drive's root.
+    if (DriveOf(files, DirBox.Path()) == DrvBox.Drive())
+        return;
+    // A drive without a medium is left again.
+    Steps steps([this](const Failure &) { DrvBox.SetDrive(DirBox.Path()); });
+    steps.Do([&] { DirBox.SetPath(DrvBox.Drive()); });
+}
+
+void NumberedPage::DirBox_Change()
+{
+    NumberedFolderPath = DirBox.Path();
+    DrvBox.SetDrive(NumberedFolderPath);
+}
+
+void NumberedPage::Chck_MakeDel_Click()
+{
+    btnGBMake.SetVisible(!Chck_MakeDel.IsChecked());
+    btnGBDelete.SetVisible(Chck_MakeDel.IsChecked());
+}
+
+void NumberedPage::btnGBMake_Click()
+{
+    clickSound.Play();
+    run.MakeFolders();
+}
+
+void NumberedPage::btnGBDelete_Click()
+{
+    // Kept: the one button that makes no sound.
+    run.DeleteFolders();
+}
+
+} // namespace tressel

@@ -1,0 +1,477 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "controls/IsButton.h"
+
+#include "machine/Shell.h"
+#include "support/Text.h"
+
+#include <functional>
+#include <vector>
+#include <gtest/gtest.h>
+
+using namespace tressel;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A button on a form of its own, with a count of what it raised.
+class IsButtonStates : public testing::Test {
+protected:
+    IsButtonStates()
+    {
+        button.Click.Handle([this] { ++clicks; });
+        button.MouseEnter.Handle([this] { ++enters; });
+        button.MouseLeave.Handle([this] { ++leaves; });
+        form.TakeChanged();
+    }
+
+    bool Repainted() { return form.TakeChanged().contains(&button); }
+    void TypeSpace()
+    {
+        button.UserPressesSpace();
+        button.UserTypesSpace();
+        button.UserReleasesSpace();
+    }
+    void ClickWith(MouseButton mouseButton)
+    {
+        button.UserPressesMouse(mouseButton);
+        button.UserReleasesMouse(mouseButton);
+        button.UserEndsClick();
+    }
+
+    Form form{u"frmTest"_s};
+    IsButton button{form, u"btnTest"_s, u"Test"_s};
+    int clicks = 0;
+    int enters = 0;
+    int leaves = 0;
+};
+
+TEST_F(IsButtonStates, LeftButtonDownIsPressed)
+{
+    EXPECT_EQ(button.ShownState(), LookState::Normal);
+    button.UserPressesMouse(MouseButton::Left);
+    EXPECT_EQ(button.ShownState(), LookState::Pressed);
+    EXPECT_TRUE(Repainted());
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(IsButtonStates, LeftButtonUpIsHoveredAndRemembered)
+{
+    button.UserPressesMouse(MouseButton::Left);
+    button.UserReleasesMouse(MouseButton::Left);
+    EXPECT_EQ(button.ShownState(), LookState::Hover);
+    EXPECT_EQ(button.LastButton(), MouseButton::Left);
+    EXPECT_TRUE(Repainted());
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(IsButtonStates, LeftButtonUpOnAReleasedCheckButtonStaysPressed)
+{
+    button.SetButtonType(ButtonKind::Check);
+    button.UserPressesMouse(MouseButton::Left);
+    button.UserReleasesMouse(MouseButton::Left);
+    EXPECT_EQ(button.ShownState(), LookState::Pressed);
+    EXPECT_FALSE(button.Value());
+}
+
+TEST_F(IsButtonStates, ClickIsRaisedAfterTheLeftButtonOnly)
+{
+    button.UserEndsClick();
+    EXPECT_EQ(clicks, 0);
+    ClickWith(MouseButton::Left);
+    EXPECT_EQ(clicks, 1);
+    ClickWith(MouseButton::Middle);
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(IsButtonStates, RightClickChangesNoStateAndRaisesNothing)
+{
+    button.SetButtonType(ButtonKind::Check);
+    button.UserPressesMouse(MouseButton::Right);
+    EXPECT_EQ(button.ShownState(), LookState::Normal);
+    button.UserReleasesMouse(MouseButton::Right);
+    button.UserEndsClick();
+    EXPECT_EQ(button.ShownState(), LookState::Normal);
+    EXPECT_EQ(button.LastButton(), MouseButton::Right);
+    EXPECT_FALSE(button.Value());
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(IsButtonStates, CheckButtonStaysPressedUntilTheNextClick)
+{
+    button.SetButtonType(ButtonKind::Check);
+    bool valueInHandler = false;
+    button.Click.Handle([&] { valueInHandler = button.Value(); });
+    EXPECT_EQ(button.ShownState(), LookState::Normal);
+    button.UserPressesMouse(MouseButton::Left);
+    EXPECT_EQ(button.ShownState(), LookState::Pressed);
+    button.UserReleasesMouse(MouseButton::Left);
+    button.UserEndsClick();
+    EXPECT_TRUE(valueInHandler);
+    EXPECT_EQ(button.ShownState(), LookState::Pressed);
+    button.UserLeaves();
+    EXPECT_EQ(button.ShownState(), LookState::Pressed);
+    button.UserClicks();
+    EXPECT_FALSE(valueInHandler);
+    EXPECT_EQ(button.ShownState(), LookState::Hover);
+}
+
+TEST_F(IsButtonStates, FastSecondClickShowsPressed)
+{
+    ClickWith(MouseButton::Left);
+    button.UserDoubleClicks(MouseButton::Left);
+    EXPECT_EQ(button.ShownState(), LookState::Pressed);
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(IsButtonStates, DoubleClickWithAnotherButtonShowsNothing)
+{
+    button.UserDoubleClicks(MouseButton::Right);
+    EXPECT_EQ(button.ShownState(), LookState::Normal);
+}
+
+TEST_F(IsButtonStates, SpaceKeyActsAsTheLeftButton)
+{
+    button.UserPressesSpace();
+    EXPECT_EQ(button.ShownState(), LookState::Pressed);
+    EXPECT_TRUE(Repainted());
+    button.UserReleasesSpace();
+    EXPECT_EQ(button.ShownState(), LookState::Hover);
+    EXPECT_EQ(button.LastButton(), MouseButton::Left);
+}
+
+TEST_F(IsButtonStates, FirstSpaceRaisesClickOnceAndEachFurtherOneTwice)
+{
+    TypeSpace();
+    EXPECT_EQ(clicks, 1);
+    TypeSpace();
+    EXPECT_EQ(clicks, 3);
+    TypeSpace();
+    EXPECT_EQ(clicks, 5);
+}
+
+TEST_F(IsButtonStates, SpaceAfterAMouseClickRaisesClickTwice)
+{
+    ClickWith(MouseButton::Left);
+    TypeSpace();
+    EXPECT_EQ(clicks, 3);
+}
+
+TEST_F(IsButtonStates, SpaceAfterARightClickRaisesClickOnce)
+{
+    ClickWith(MouseButton::Left);
+    ClickWith(MouseButton::Right);
+    TypeSpace();
+    EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(IsButtonStates, FirstSpaceOnACheckButtonLeavesItsValue)
+{
+    button.SetButtonType(ButtonKind::Check);
+    TypeSpace();
+    EXPECT_FALSE(button.Value());
+    TypeSpace();
+    EXPECT_TRUE(button.Value());
+}
+
+TEST_F(IsButtonStates, FocusIsAFlagThatRepaints)
+{
+    button.TakeFocus(true);
+    EXPECT_TRUE(button.HasFocus());
+    EXPECT_TRUE(Repainted());
+    button.TakeFocus(false);
+    EXPECT_FALSE(button.HasFocus());
+    EXPECT_TRUE(Repainted());
+}
+
+TEST_F(IsButtonStates, EnterComesOnceUntilTheLeave)
+{
+    button.UserMovesMouse();
+    EXPECT_EQ(button.ShownState(), LookState::Hover);
+    EXPECT_TRUE(Repainted());
+    button.UserMovesMouse();
+    button.UserMovesMouse();
+    EXPECT_EQ(enters, 1);
+    EXPECT_FALSE(Repainted());
+    button.UserLeaves();
+    EXPECT_EQ(leaves, 1);
+    EXPECT_EQ(button.ShownState(), LookState::Normal);
+    EXPECT_TRUE(Repainted());
+    button.UserMovesMouse();
+    EXPECT_EQ(enters, 2);
+}
+
+TEST_F(IsButtonStates, LeaveWithoutEnterRaisesNothing)
+{
+    button.UserLeaves();
+    EXPECT_EQ(leaves, 0);
+}
+
+TEST_F(IsButtonStates, LeavingWhilePressedShowsNormalUntilMouseUp)
+{
+    button.UserMovesMouse();
+    button.UserPressesMouse(MouseButton::Left);
+    button.UserLeaves();
+    EXPECT_FALSE(button.IsHovered());
+    EXPECT_EQ(button.ShownState(), LookState::Normal);
+    button.UserReleasesMouse(MouseButton::Left);
+    EXPECT_EQ(button.ShownState(), LookState::Hover);
+}
+
+TEST_F(IsButtonStates, DisabledUnderThePointerItSeesTheNextEnter)
+{
+    button.UserMovesMouse();
+    button.SetEnabled(false);
+    button.UserLeaves();
+    button.SetEnabled(true);
+    button.UserMovesMouse();
+    EXPECT_EQ(enters, 2);
+}
+
+TEST_F(IsButtonStates, DisabledButtonTakesNoActs)
+{
+    button.SetEnabled(false);
+    button.UserClicks();
+    TypeSpace();
+    button.UserMovesMouse();
+    EXPECT_EQ(clicks, 0);
+    EXPECT_EQ(enters, 0);
+    EXPECT_EQ(button.ShownState(), LookState::Disabled);
+}
+
+TEST_F(IsButtonStates, DisabledIsShownBeforeAPressedCheckButton)
+{
+    button.SetButtonType(ButtonKind::Check);
+    button.SetValue(true);
+    EXPECT_EQ(button.ShownState(), LookState::Pressed);
+    button.SetEnabled(false);
+    EXPECT_EQ(button.ShownState(), LookState::Disabled);
+}
+
+TEST_F(IsButtonStates, ValueOfAPushButtonShowsNothing)
+{
+    button.SetValue(true);
+    EXPECT_EQ(button.ShownState(), LookState::Normal);
+}
+
+TEST_F(IsButtonStates, SettingEnabledResetsTheState)
+{
+    button.UserPressesMouse(MouseButton::Left);
+    button.SetEnabled(true);
+    EXPECT_EQ(button.ShownState(), LookState::Normal);
+}
+
+TEST_F(IsButtonStates, ReadingEnabledRepaints)
+{
+    EXPECT_TRUE(button.Enabled());
+    EXPECT_TRUE(Repainted());
+    EXPECT_TRUE(button.IsEnabled());
+    EXPECT_FALSE(Repainted());
+}
+
+TEST_F(IsButtonStates, DesignTimeShowsHoverButInTheBlueLook)
+{
+    button.SetDesignTime(true);
+    EXPECT_EQ(button.ShownState(), LookState::Normal);
+    button.SetStyle(ButtonStyle::Pill);
+    EXPECT_EQ(button.ShownState(), LookState::Hover);
+    button.UserMovesMouse();
+    EXPECT_EQ(enters, 0);
+}
+
+TEST_F(IsButtonStates, RefreshRepaints)
+{
+    button.Refresh();
+    EXPECT_TRUE(Repainted());
+}
+
+TEST_F(IsButtonStates, ShownTakesTheFormsToolTipAndHiddenHandsItBack)
+{
+    button.Control::SetToolTip(u" Browse... "_s);
+    form.TakeChanged();
+    button.FaceShown();
+    EXPECT_EQ(button.ToolTip(), u" Browse... "_s);
+    EXPECT_EQ(button.Control::ToolTip(), u""_s);
+    EXPECT_TRUE(Repainted());
+    button.FaceHidden();
+    EXPECT_EQ(button.Control::ToolTip(), u" Browse... "_s);
+    button.FaceShown();
+    EXPECT_EQ(button.ToolTip(), u" Browse... "_s);
+    EXPECT_EQ(button.Control::ToolTip(), u""_s);
+}
+
+TEST_F(IsButtonStates, ShownKeepsItsOwnToolTipWhereTheFormHasNone)
+{
+    button.SetToolTip(u"own"_s);
+    button.FaceShown();
+    EXPECT_EQ(button.ToolTip(), u"own"_s);
+}
+
+TEST_F(IsButtonStates, AFailureInItsHandlerReachesTheForm)
+{
+    int number = 0;
+    form.SetFatalHandler([&](const Failure &failure) { number = failure.Number(); });
+    button.Click.Handle([] { throw Failure(FailureNumber::PathNotFound); });
+    button.UserClicks();
+    EXPECT_EQ(number, 76);
+}
+
+TEST(IsButtonSize, BelowThreeHundredTwipsIsRaised)
+{
+    Form form{u"frmTest"_s};
+    IsButton button{form, u"btnTest"_s};
+    button.SetWidth(100);
+    button.SetHeight(299);
+    EXPECT_EQ(button.Width(), 300);
+    EXPECT_EQ(button.Height(), 300);
+    button.SetWidth(1500);
+    EXPECT_EQ(button.Bounds(), QRect(0, 0, 100, 20));
+    EXPECT_EQ(button.TextBox(), QRect(4, 4, 92, 12));
+    button.TakeSize(0, 450);
+    EXPECT_EQ(button.Bounds(), QRect(0, 0, 20, 30));
+}
+
+TEST(IsButtonCaption, EachPlaceHasItsDrawFlags)
+{
+    Form form{u"frmTest"_s};
+    IsButton button{form, u"btnTest"_s};
+    const QList<std::pair<CaptionPlace, int>> rows{{CaptionPlace::Centre, 37},
+                                                   {CaptionPlace::Left, 36},
+                                                   {CaptionPlace::Right, 38},
+                                                   {CaptionPlace::Top, 33},
+                                                   {CaptionPlace::Bottom, 41}};
+    for (const auto &[place, flags] : rows) {
+        button.SetCaptionAlign(place);
+        EXPECT_EQ(button.TextDrawFlags(), flags);
+    }
+}
+
+TEST(IsButtonNew, HasTheToldFirstValues)
+{
+    Form form{u"frmTest"_s};
+    IsButton button{form, u"btnNew"_s, IsButtonProperties{}};
+    EXPECT_EQ(button.Version(), u"3.0"_s);
+    EXPECT_EQ(button.Caption(), u"btnNew"_s);
+    EXPECT_EQ(button.Style(), ButtonStyle::DoubleLine);
+    EXPECT_TRUE(button.Icon().IsNone());
+    EXPECT_EQ(button.IconSize(), 16);
+    EXPECT_EQ(button.NonThemeStyle(), ButtonStyle::BlueRounded);
+    EXPECT_TRUE(button.IsEnabled());
+    EXPECT_FALSE(button.ShowFocus());
+    EXPECT_FALSE(button.UseCustomColors());
+    EXPECT_EQ(button.BackColor(), 0x8000000FU);
+    EXPECT_EQ(button.HighlightColor(), 0x8000000DU);
+    EXPECT_EQ(button.FontColor(), 0x80000012U);
+    EXPECT_EQ(button.FontHighlightColor(), 0x80000012U);
+    EXPECT_EQ(button.ToolTipBackColor(), 0x80000017U);
+    EXPECT_EQ(button.ToolTipForeColor(), 0x80000018U);
+    EXPECT_FALSE(button.Font().has_value());
+    EXPECT_EQ(button.ButtonType(), ButtonKind::Push);
+    EXPECT_EQ(button.ShownState(), LookState::Normal);
+}
+
+TEST(IsButtonNew, OnAFormHasTheDesignOfTheForms)
+{
+    Form form{u"frmTest"_s};
+    IsButton button{form, u"btnMake"_s, u"Make Folder"_s};
+    EXPECT_EQ(button.Caption(), u"Make Folder"_s);
+    EXPECT_EQ(button.Style(), ButtonStyle::BlueRounded);
+    EXPECT_EQ(button.IconSize(), 32);
+    EXPECT_EQ(button.IconAlign(), IconPlace::Top);
+    EXPECT_EQ(button.CaptionAlign(), CaptionPlace::Centre);
+    button.PlaceIcon(Picture(u"make"_s));
+    EXPECT_EQ(button.CaptionAlign(), CaptionPlace::Bottom);
+}
+
+TEST(IsButtonNew, AnEmptyCaptionStaysEmpty)
+{
+    Form form{u"frmTest"_s};
+    EXPECT_EQ(IsButton(form, u"btnEmpty"_s, u""_s).Caption(), u""_s);
+}
+
+TEST(IsButtonTheme, GivenUpTakesTheOtherStyleForGood)
+{
+    Form form{u"frmTest"_s};
+    IsButton button{form, u"btnTest"_s};
+    button.GiveUpTheme();
+    EXPECT_EQ(button.Style(), ButtonStyle::BlueRounded);
+    button.SetNonThemeStyle(ButtonStyle::Pill);
+    button.SetStyle(ButtonStyle::SystemTheme);
+    button.GiveUpTheme();
+    EXPECT_EQ(button.Style(), ButtonStyle::Pill);
+}
+
+TEST(IsButtonProperty, EachWritingIsToldAndRepaints)
+{
+    Form form{u"frmTest"_s};
+    IsButton button{form, u"btnTest"_s};
+    QStringList told;
+    button.PropertyChanged.Handle([&](const QString &name) { told.append(name); });
+    const std::vector<std::function<void()>> writings{
+        [&] { button.SetStyle(ButtonStyle::Flat); },
+        [&] { button.SetCaption(u"x"_s); },
+        [&] { button.SetIcon(Picture(u"x"_s)); },
+        [&] { button.SetIconAlign(IconPlace::Right); },
+        [&] { button.SetIconSize(24); },
+        [&] { button.SetCaptionAlign(CaptionPlace::Left); },
+        [&] { button.SetNonThemeStyle(ButtonStyle::Flat); },
+        [&] { button.SetEnabled(true); },
+        [&] { button.SetShowFocus(true); },
+        [&] { button.SetUseCustomColors(true); },
+        [&] { button.SetBackColor(1); },
+        [&] { button.SetHighlightColor(2); },
+        [&] { button.SetFontColor(3); },
+        [&] { button.SetFontHighlightColor(4); },
+        [&] { button.SetToolTip(u"x"_s); },
+        [&] { button.SetToolTipTitle(u"x"_s); },
+        [&] { button.SetToolTipIcon(ToolTipIconKind::Warning); },
+        [&] { button.SetToolTipType(ToolTipShape::Balloon); },
+        [&] { button.SetToolTipBackColor(5); },
+        [&] { button.SetToolTipForeColor(6); },
+        [&] { button.SetFont(FontFace{u"Serif"_s}); },
+        [&] { button.SetButtonType(ButtonKind::Check); },
+        [&] { button.SetValue(true); },
+    };
+    for (const auto &write : writings) {
+        form.TakeChanged();
+        write();
+        EXPECT_TRUE(form.TakeChanged().contains(&button)) << told.last().toStdString();
+    }
+    EXPECT_EQ(told.join(u' '),
+              u"Style Caption Icon IconAlign IconSize CaptionAlign NonThemeStyle Enabled ShowFocus "
+              "UseCustomColors BackColor HighlightColor FontColor FontHighlightColor ToolTip ToolTipTitle "
+              "ToolTipIcon ToolTipType ToolTipBackColor ToolTipForeColor Font ButtonType Value"_s);
+}
+
+TEST(IsButtonLink, IsHandedToTheShell)
+{
+    class OneAddress : public Shell {
+    public:
+        bool Open(const QString &target, const QString &folder) override
+        {
+            asked = target + u'|' + folder;
+            return opens;
+        }
+        bool EditText(const QString &) override { return false; }
+        bool BrowseFolder(const QString &) override { return false; }
+        QString asked;
+        bool opens = true;
+    } shell;
+    EXPECT_TRUE(IsButton::OpenLink(shell, u"http://example.org"_s));
+    EXPECT_EQ(shell.asked, u"http://example.org|"_s);
+    shell.opens = false;
+    EXPECT_FALSE(IsButton::OpenLink(shell, u"x"_s));
+}
+
+TEST(IsButtonAbout, AsksTheFace)
+{
+    Form form{u"frmTest"_s};
+    IsButton button{form, u"btnTest"_s};
+    int asked = 0;
+    button.AboutAsked.Handle([&] { ++asked; });
+    button.About();
+    EXPECT_EQ(asked, 1);
+}
+
+} // namespace
