@@ -13,7 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString helpText = uR"(Usage: tressel-cli create --to DIR [--remove-ext] [--quiet] (--list FILE | --names-of DIR | NAME...)
+const QString helpText =
+    uR"(Usage: tressel-cli create --to DIR [--remove-ext] [--quiet] (--list FILE | --names-of DIR | NAME...)
        tressel-cli --help | --version
 
 Makes one folder in DIR for each name. "\" in a name stands between nested folders; characters that no
@@ -46,14 +47,14 @@ Command ParseCreate(const QStringList &arguments, const QString &workingFolder)
     const QCommandLineOption help(u"help"_s);
     parser.addOptions({to, list, namesOf, removeExtension, quiet, help});
     if (!parser.parse(arguments))
-        return UsageError {parser.errorText()};
+        return UsageError{parser.errorText()};
     if (parser.isSet(help))
-        return ShowText {helpText};
+        return ShowText{helpText};
     if (parser.values(to).size() != 1 || parser.value(to).isEmpty())
-        return UsageError {u"create needs one --to DIR"_s};
+        return UsageError{u"create needs one --to DIR"_s};
     const bool hasNames = !parser.positionalArguments().isEmpty();
     if (parser.values(list).size() + parser.values(namesOf).size() + (hasNames ? 1 : 0) != 1)
-        return UsageError {u"create takes its names from one of --list FILE, --names-of DIR or NAME..."_s};
+        return UsageError{u"create takes its names from one of --list FILE, --names-of DIR or NAME..."_s};
 
     CreateRequest request;
     request.destination = Absolute(parser.value(to), workingFolder);
@@ -73,14 +74,14 @@ Command ParseArguments(const QStringList &arguments, const QString &workingFolde
 {
     const QString first = arguments.value(0);
     if (first == u"--help"_s || first == u"-h"_s)
-        return ShowText {helpText};
+        return ShowText{helpText};
     if (first == u"--version"_s) {
-        return ShowText {u"tressel-cli %1.%2.%3"_s.arg(MajorVersion).arg(MinorVersion).arg(Revision)};
+        return ShowText{u"tressel-cli %1.%2.%3"_s.arg(MajorVersion).arg(MinorVersion).arg(Revision)};
     }
     // The parser passes over the first of its arguments, where a program's name would stand.
     if (first == u"create"_s)
         return ParseCreate(arguments, workingFolder);
-    return UsageError {first.isEmpty() ? u"no command given"_s : u"unknown command %1"_s.arg(first)};
+    return UsageError{first.isEmpty() ? u"no command given"_s : u"unknown command %1"_s.arg(first)};
 }
 
 } // namespace tressel

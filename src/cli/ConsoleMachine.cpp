@@ -24,7 +24,7 @@ std::optional<FileDialogAnswer> ConsoleDialogs::OpenFile(const FileDialogRequest
 {
     if (namedFile.isEmpty())
         return {};
-    return FileDialogAnswer {{namedFile}, request.folder};
+    return FileDialogAnswer{{namedFile}, request.folder};
 }
 
 ConsoleMachine::ConsoleMachine(FileSystem &disc, Clock &systemClock, Program &runningProgram)

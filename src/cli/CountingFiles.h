@@ -33,7 +33,10 @@ public:
     QList<FolderEntry> List(const QString &folder) override { return files.List(folder); }
     std::unique_ptr<FolderReader> Read(const QString &folder) override { return files.Read(folder); }
     std::optional<Failure> TryMakeFolder(const QString &path) override;
-    std::optional<Failure> TryRemoveFolder(const QString &path) override { return files.TryRemoveFolder(path); }
+    std::optional<Failure> TryRemoveFolder(const QString &path) override
+    {
+        return files.TryRemoveFolder(path);
+    }
     void RemoveFile(const QString &path) override { files.RemoveFile(path); }
     void Rename(const QString &from, const QString &to) override { files.Rename(from, to); }
     std::unique_ptr<OpenFile> Open(const QString &path, OpenFor purpose, Sharing sharing) override

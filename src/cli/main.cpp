@@ -8,12 +8,11 @@
 #include "machine/posix/PosixFileSystem.h"
 #include "machine/posix/PosixProgram.h"
 
-#include <unistd.h>
-
 #include <array>
 #include <climits>
 #include <cstdio>
 #include <cstdlib>
+#include <unistd.h>
 
 using namespace tressel;
 using namespace Qt::StringLiterals;

@@ -120,7 +120,9 @@ double LeadingNumber(const QString &text)
             solid += character;
     }
     const QRegularExpressionMatch match = head.match(solid);
-    return match.hasMatch() ? match.captured().replace(QChar(u'd'), QChar(u'e'), Qt::CaseInsensitive).toDouble() : 0;
+    return match.hasMatch()
+        ? match.captured().replace(QChar(u'd'), QChar(u'e'), Qt::CaseInsensitive).toDouble()
+        : 0;
 }
 
 } // namespace tressel

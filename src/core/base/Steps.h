@@ -16,7 +16,10 @@ class Steps {
 public:
     Steps() = default;
     /// A variant that also calls `handler` after each failed step, and then goes on.
-    explicit Steps(std::function<void(const Failure &)> handler) : handler(std::move(handler)) {}
+    explicit Steps(std::function<void(const Failure &)> handler)
+        : handler(std::move(handler))
+    {
+    }
 
     /// Runs one step. True if it ended without a failure.
     template <typename Step> bool Do(Step &&step)

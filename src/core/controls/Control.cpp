@@ -52,12 +52,16 @@ void Control::SetTop(int twips)
 
 void Control::SetWidth(int twips)
 {
+    if (twips < 0)
+        throw Failure(FailureNumber::InvalidPropertyValue);
     width = twips;
     NoteChanged();
 }
 
 void Control::SetHeight(int twips)
 {
+    if (twips < 0)
+        throw Failure(FailureNumber::InvalidPropertyValue);
     height = twips;
     NoteChanged();
 }

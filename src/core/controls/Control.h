@@ -38,7 +38,8 @@ public:
     virtual const QString &ToolTip() const { return toolTip; }
     virtual void SetToolTip(const QString &text);
 
-    /// Place and size in twips, for controls whose geometry rules speak of.
+    /// Place and size in twips, for controls whose geometry rules speak of. Writing a size below 0 fails
+    /// with 380 and changes nothing.
     int Left() const { return left; }
     int Top() const { return top; }
     int Width() const { return width; }

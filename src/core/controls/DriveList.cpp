@@ -37,7 +37,8 @@ void DriveList::Refresh()
     int index = 0;
     for (int row = 0; row < volumes.size(); ++row) {
         const Volume &volume = volumes.at(row);
-        rows += volume.label.isEmpty() ? volume.root : volume.root + QStringLiteral(" [%1]").arg(volume.label);
+        rows +=
+            volume.label.isEmpty() ? volume.root : volume.root + QStringLiteral(" [%1]").arg(volume.label);
         if (volume.root == drive)
             index = row;
     }

@@ -12,7 +12,10 @@ namespace tressel {
 template <typename... Arguments> class Event {
 public:
     /// Sets the handler, in place of the one before.
-    template <typename Handler> void Handle(Handler &&procedure) { handler = std::forward<Handler>(procedure); }
+    template <typename Handler> void Handle(Handler &&procedure)
+    {
+        handler = std::forward<Handler>(procedure);
+    }
 
     /// Raises the event. Nothing happens without a handler.
     void Raise(Arguments... arguments) const

@@ -55,12 +55,12 @@ void FolderList::UserActivates(int index)
 void FolderList::ListAnew()
 {
     const QString root = DriveOf(files, path);
-    QStringList rows {root};
+    QStringList rows{root};
     paths = {root};
     depths = {0};
     QString above = root;
-    const QStringList levels
-        = WithSeparator(files, path).mid(root.size()).split(files.Separator(), Qt::SkipEmptyParts);
+    const QStringList levels =
+        WithSeparator(files, path).mid(root.size()).split(files.Separator(), Qt::SkipEmptyParts);
     for (const QString &level : levels) {
         above = JoinPath(files, above, level);
         rows += level;
@@ -77,7 +77,8 @@ void FolderList::ListAnew()
     }
     for (const FolderEntry &entry : entries) {
         const QString below = JoinPath(files, path, entry.name);
-        const bool isFolder = entry.kind == EntryKind::Folder || (entry.kind == EntryKind::Link && FolderExists(files, below));
+        const bool isFolder =
+            entry.kind == EntryKind::Folder || (entry.kind == EntryKind::Link && FolderExists(files, below));
         if (!isFolder || entry.hidden)
             continue;
         rows += entry.name;

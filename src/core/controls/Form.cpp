@@ -94,7 +94,11 @@ void Form::Dispatch(const std::function<void()> &handler)
 {
     // Counted by hand: an end of the process in a test unwinds through here as an exception of its own.
     struct Depth {
-        explicit Depth(int &count) : count(count) { ++count; }
+        explicit Depth(int &count)
+            : count(count)
+        {
+            ++count;
+        }
         ~Depth() { --count; }
         int &count;
     };
@@ -145,6 +149,12 @@ void Form::TakeGeometry(int newLeft, int newTop, int newWidth, int newHeight, Wi
     width = newWidth;
     height = newHeight;
     Dispatch([this] { Resize.Raise(); });
+}
+
+void Form::TakeBorder(int widthTwips, int heightTwips)
+{
+    borderWidth = widthTwips;
+    borderHeight = heightTwips;
 }
 
 void Form::Register(Control &control)

@@ -19,4 +19,10 @@ void Frame::SetCaption(const QString &text)
     NoteChanged();
 }
 
+void Frame::SetBackColor(quint32 colour)
+{
+    backColor = colour;
+    NoteChanged();
+}
+
 } // namespace tressel

@@ -27,6 +27,7 @@ void ItemList::RemoveItem(int index)
         listIndex = -1;
     else if (listIndex > index)
         --listIndex;
+    OnRemoved(index);
     NoteChanged();
 }
 
@@ -34,6 +35,7 @@ void ItemList::Clear()
 {
     items.clear();
     listIndex = -1;
+    OnCleared();
     NoteChanged();
 }
 
@@ -41,6 +43,7 @@ void ItemList::SetItems(const QStringList &texts)
 {
     items = texts;
     listIndex = -1;
+    OnCleared();
     NoteChanged();
 }
 

@@ -42,6 +42,10 @@ protected:
     void Select(int index);
     /// Called when another entry was selected, before Click is raised.
     virtual void OnSelected() { }
+    /// Called when the entry of that index was taken out.
+    virtual void OnRemoved(int /*index*/) { }
+    /// Called when all entries were taken out; others may have come in their place.
+    virtual void OnCleared() { }
 
 private:
     QStringList items;

@@ -23,8 +23,8 @@ void ItemModel::Publish(const QStringList &items)
 {
     if (rows.isSharedWith(items))
         return;
-    const bool onlyAdded
-        = items.size() >= rows.size() && std::equal(rows.cbegin(), rows.cend(), items.cbegin());
+    const bool onlyAdded =
+        items.size() >= rows.size() && std::equal(rows.cbegin(), rows.cend(), items.cbegin());
     if (!onlyAdded) {
         beginResetModel();
         rows = items;

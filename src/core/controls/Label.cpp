@@ -22,9 +22,23 @@ void Label::SetCaption(const QString &text)
     Change.Raise();
 }
 
+void Label::SetForeColor(quint32 colour)
+{
+    foreColor = colour;
+    NoteChanged();
+}
+
 void Label::UserClicks()
 {
     UserAct([this] { Click.Raise(); });
+}
+
+void Label::TakeWidth(int twips)
+{
+    if (Width() == twips)
+        return;
+    SetWidth(twips);
+    Owner().Dispatch([this] { Resize.Raise(); });
 }
 
 } // namespace tressel

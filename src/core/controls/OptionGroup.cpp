@@ -42,7 +42,8 @@ OptionGroup::OptionGroup(Form &form, const QString &name, const QStringList &cap
 OptionGroup::OptionGroup(Form &form, const QStringList &names, const QStringList &captions)
 {
     for (int index = 0; index < names.size(); ++index)
-        buttons.push_back(std::make_unique<OptionButton>(form, names[index], captions.value(index), *this, index));
+        buttons.push_back(
+            std::make_unique<OptionButton>(form, names[index], captions.value(index), *this, index));
 }
 
 void OptionGroup::Select(int index)

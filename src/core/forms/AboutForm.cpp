@@ -13,9 +13,8 @@ AboutForm::AboutForm(Settings &settings)
     : Form(u"frmAbout"_s)
     , chkLoadTipsAtStartup(*this, u"chkLoadTipsAtStartup"_s, u"&Show Tips at Startup"_s)
 {
-    chkLoadTipsAtStartup.Click.Handle([this, &settings] {
-        settings.Write(keys::ShowTips, QString::number(chkLoadTipsAtStartup.Value()));
-    });
+    chkLoadTipsAtStartup.Click.Handle(
+        [this, &settings] { settings.Write(keys::ShowTips, QString::number(chkLoadTipsAtStartup.Value())); });
 }
 
 } // namespace tressel

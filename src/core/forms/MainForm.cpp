@@ -11,7 +11,21 @@ namespace tressel {
 
 using namespace Qt::StringLiterals;
 
-MainForm::MainForm(const Machine &onMachine, Settings &stored, Session &shared, const LiveOptions &liveOptions)
+namespace {
+
+// The window as it was drawn, in twips.
+constexpr int designWidth = 13470;
+constexpr int designHeight = 19275;
+constexpr int toolbarHeight = 1095;
+constexpr int statusHeight = 315;
+constexpr int barWidth = 80;
+constexpr int gripWidth = 7 * 15;
+constexpr int gripHeight = 43 * 15;
+
+} // namespace
+
+MainForm::MainForm(const Machine &onMachine, Settings &stored, Session &shared,
+                   const LiveOptions &liveOptions)
     : Form(u"frmMain"_s)
     , machine(onMachine)
     , settings(stored)
@@ -22,21 +36,71 @@ MainForm::MainForm(const Machine &onMachine, Settings &stored, Session &shared, 
     , btnGBToolbarCreate(*this, u"btnGBToolbarCreate"_s, u"Create"_s)
     , btnGBToolbarLoadList(*this, u"btnGBToolbarLoadList"_s, u"Load List"_s)
     , btnGBToolbarBrowse(*this, u"btnGBToolbarBrowse"_s, u"Browse"_s)
+    , btnGBToolbarOption(*this, u"btnGBToolbarOption"_s, u"Option"_s)
+    , btnGBToolbarUpdate(*this, u"btnGBToolbarUpdate"_s, u"Update"_s)
+    , btnGBToolbarAbout(*this, u"btnGBToolbarAbout"_s, u"About"_s)
     , btnGBToolbarExit(*this, u"btnGBToolbarExit"_s, u"Exit"_s)
+    , FrmeSep{Frame(*this, u"FrmeSep(0)"_s), Frame(*this, u"FrmeSep(1)"_s)}
     , area(*this)
     , tree(area, machine.events, session)
     , listFile(area, tree, machine.files, machine.events, machine.dialogs, settings, session)
+    , EyeDropper1(*this, u"EyeDropper1"_s)
+    , Picture3(*this, u"Picture3"_s)
     , browse(area, machine.files, tree, listFile, session)
+    , FrameXPMenu6(*this, u"FrameXPMenu(6)"_s)
     , textLists(area, machine.files, machine.dialogs, clickSound, listFile, session)
+    , erase(*this)
     , creation(area, browse.DirList, machine.files, machine.events, machine.dialogs, session)
     , numbered(*this, browse.DirList, options, clickSound, machine.files, machine.events, settings)
+    , splitter(*this)
+    , database(*this)
+    , emptyFolders(*this, machine.files)
+    , rename(*this)
+    , FrameXPMenu3(*this, u"FrameXPMenu(3)"_s)
+    , Picture4(*this, u"Picture4"_s)
+    , PicStrip(*this, u"PicStrip"_s)
+    , PicHold(*this, u"PicHold"_s)
+    , PicStatus(*this, u"PicStatus"_s)
+    , PicUpdate(*this, u"PicUpdate"_s)
+    , lblUpdate(*this, u"lblUpdate"_s, u"New version"_s)
+    , FrameXPMenu{&browse.page,   &rename.page,       &numbered.page, &FrameXPMenu3,
+                  &database.page, &emptyFolders.page, &FrameXPMenu6,  &splitter.page}
 {
-    SetCaption(u"Tressel"_s);
+    SetFirstValues();
     TieToolbar();
     TiePathRow();
+    TieSideBar();
+    TieLayout();
     Load.Handle([this] { LoadForm(); });
     Unloading.Handle([this](bool &refused) { UnloadForm(refused); });
     Unloaded.Handle([this] { EndProgram(); });
+}
+
+void MainForm::SetFirstValues()
+{
+    SetCaption(u"Tressel"_s);
+    SetSize(designWidth, designHeight);
+    FrmeToolbar.SetHeight(toolbarHeight);
+    FrmeToolbar.SetWidth(designWidth);
+    PicStrip.SetWidth(barWidth);
+    PicHold.SetWidth(gripWidth);
+    PicHold.SetHeight(gripHeight);
+    PicStatus.SetWidth(designWidth);
+    PicStatus.SetHeight(statusHeight);
+    PicStatus.SetTop(designHeight - statusHeight);
+
+    btnGBToolbarOption.SetEnabled(false);
+    btnGBToolbarUpdate.SetEnabled(false);
+    btnGBToolbarAbout.SetEnabled(false);
+
+    const QString notice = u"Clcik here for new update"_s;
+    PicUpdate.SetVisible(false);
+    PicUpdate.SetToolTip(notice);
+    PicUpdate.SetBackColor(0x0000FF); // red
+    lblUpdate.SetToolTip(notice);
+    lblUpdate.SetForeColor(0x00FFFF); // yellow
+    FrameXPMenu3.SetVisible(false);
+    Picture4.SetVisible(false);
 }
 
 void MainForm::TieToolbar()

@@ -5,24 +5,31 @@
 
 #include "controls/Frame.h"
 #include "controls/IsButton.h"
+#include "controls/PictureBox.h"
+#include "controls/SideBar.h"
 #include "language/Session.h"
 #include "machine/Machine.h"
+#include "settings/Settings.h"
 #include "tools/ClickSound.h"
 #include "tools/LiveOptions.h"
 #include "tools/WorkArea.h"
+#include "tools/database/DatabasePage.h"
+#include "tools/emptyfolders/EmptyFoldersPage.h"
+#include "tools/erase/ErasePage.h"
 #include "tools/folders/BrowsePage.h"
 #include "tools/folders/FolderCreation.h"
 #include "tools/folders/FolderListFile.h"
 #include "tools/folders/FolderTree.h"
 #include "tools/folders/TextListTool.h"
 #include "tools/numbered/NumberedPage.h"
-#include "settings/Settings.h"
+#include "tools/rename/RenamePage.h"
+#include "tools/splitter/SplitterPage.h"
+
+#include <array>
 
 namespace tressel {
 
-
 class Steps;
-
 
 /// The main window: the toolbar, the path row, the pages with the tools, the tree and the list, and the
 /// status line. It restores every tool's last state when it loads and writes it back when it goes.
@@ -42,19 +49,79 @@ public:
     IsButton btnGBToolbarCreate;
     IsButton btnGBToolbarLoadList;
     IsButton btnGBToolbarBrowse;
+    IsButton btnGBToolbarOption;
+    IsButton btnGBToolbarUpdate;
+    IsButton btnGBToolbarAbout;
     IsButton btnGBToolbarExit;
+    std::array<Frame, 2> FrmeSep;
 
     WorkArea area;
     FolderTree tree;
     FolderListFile listFile;
+
+    SideBar EyeDropper1;
+    PictureBox Picture3; ///< stands behind the side bar and its pages
     BrowsePage browse;
+    Frame FrameXPMenu6; ///< the page of three tools: text lists, listings and erasing
     TextListTool textLists;
+    ErasePage erase;
     FolderCreation creation;
     NumberedPage numbered;
+    SplitterPage splitter;
+    DatabasePage database;
+    EmptyFoldersPage emptyFolders;
+    RenamePage rename;
+    Frame FrameXPMenu3; ///< an empty page that no entry opens
+    PictureBox Picture4; ///< holds what has no face
+
+    PictureBox PicStrip; ///< the split bar: all that stands left of it follows its left edge
+    PictureBox PicHold; ///< the grip on the split bar
+    PictureBox PicStatus;
+    PictureBox PicUpdate; ///< the notice of a newer version
+    Label lblUpdate;
+
+    const std::array<Frame *, 8> FrameXPMenu; ///< the pages by their numbers
 
     QString OpenDBPath; ///< where the database dialog opens, kept from session to session
 
+    // MainFormSideBar.cpp
+
+    /// Builds the entries of the side bar anew and opens the one that was open last.
+    void LoadItems();
+
+    // MainFormLayout.cpp: geometry in twips. A control that can't take a size keeps its own.
+
+    /// The answer to each change of the window's size: keeps the least size, places the bands and then
+    /// the panes. Does nothing but note that there is something to lay out while the window can't be seen.
+    void FormResize();
+    /// Keeps the split bar within its limits and places what follows it: side bar, pages, tree.
+    void LayoutPanes();
+    /// Whether FormResize was called since the last LayOutPending.
+    bool IsLayoutPending() const { return layoutPending; }
+    /// Lays out once more if a layout is pending.
+    void LayOutPending();
+
 private:
+    bool layoutPending = false;
+
+    void SetFirstValues();
+    void TieSideBar();
+    void TieLayout();
+    void KeepLeastSize();
+    void PlaceUnderToolbar();
+    void PlaceWithoutToolbar();
+    void PlaceBar();
+    void GivePagesRoom();
+    void PlaceFolderPages();
+    void PlaceDatabaseAndEmptyFolders();
+    void PlaceRenamePage();
+    void PlaceTextPage();
+    void PlaceSplitterPage();
+    void DragBar(int buttons, int x);
+    void PlaceUpdateNotice();
+    void EyeDropper1_ItemSelected(const SideBarItem &item);
+    void chkButtonBar_Click();
+
     void TieToolbar();
     void TiePathRow();
 

@@ -17,11 +17,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Shown all at once where the file is missing.
-const QString builtInTips
-    = u"1. If you will create a folder from filename Check for Ext for remove extension ex (.txt)\n"
-      "2. If you will create from ex January, February or Peter, Joe... Unceck for Ext\n"
-      "3. You must Remove hook (UnChecked) with ''Remove Ext'' see red Arrow below...\n"
-      "4. If this is checked shows Wrong format and cut 4 last letter ex: (.txt) dot and txt = 4\n"_s;
+const QString builtInTips =
+    u"1. If you will create a folder from filename Check for Ext for remove extension ex (.txt)\n"
+    "2. If you will create from ex January, February or Peter, Joe... Unceck for Ext\n"
+    "3. You must Remove hook (UnChecked) with ''Remove Ext'' see red Arrow below...\n"
+    "4. If this is checked shows Wrong format and cut 4 last letter ex: (.txt) dot and txt = 4\n"_s;
 
 } // namespace
 

@@ -25,7 +25,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// In the order in which they are replaced. Kept: the second one is the control character 9.
-constexpr std::array<char16_t, 9> illegalCharacters {u'/', u'\t', u':', u'*', u'?', u'"', u'<', u'>', u'|'};
+constexpr std::array<char16_t, 9> illegalCharacters{u'/', u'\t', u':', u'*', u'?', u'"', u'<', u'>', u'|'};
 
 /// The one folder that RemoveFolderPath never touches. Kept: an old guard, compared to the letter.
 const QString protectedFolder = u"C:\\Test1"_s;

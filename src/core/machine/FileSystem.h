@@ -118,10 +118,12 @@ public:
     [[nodiscard]] virtual std::optional<Failure> TryRemoveFolder(const QString &path) = 0;
     /// Removes one file or link; never a folder.
     virtual void RemoveFile(const QString &path) = 0;
-    /// Gives a file, link or folder another path on the same volume. Never overwrites: 58 if the target exists.
+    /// Gives a file, link or folder another path on the same volume. Never overwrites: 58 if the target
+    /// exists.
     virtual void Rename(const QString &from, const QString &to) = 0;
 
-    virtual std::unique_ptr<OpenFile> Open(const QString &path, OpenFor purpose, Sharing sharing = Sharing::Shared) = 0;
+    virtual std::unique_ptr<OpenFile> Open(const QString &path, OpenFor purpose,
+                                           Sharing sharing = Sharing::Shared) = 0;
 
     /// Puts other contents in place of a file's, or makes the file: after a failure the old contents
     /// stand whole. A link is followed, and the file keeps its rights.
@@ -132,7 +134,8 @@ public:
 
     /// The mounted volumes, the system's root first.
     virtual QList<Volume> Volumes() = 0;
-    /// The label of the volume that holds the path; empty if it has none. Fails with 71 if there is no such volume.
+    /// The label of the volume that holds the path; empty if it has none. Fails with 71 if there is no such
+    /// volume.
     virtual QString VolumeLabel(const QString &path) = 0;
     /// Bytes that can still be written to the volume that holds the path.
     virtual qint64 FreeSpace(const QString &path) = 0;

@@ -52,7 +52,8 @@ QString FolderOf(FileSystem &files, const QString &path)
 QString DriveOf(FileSystem &files, const QString &path)
 {
     const QString whole = WithSeparator(files, path);
-    const Qt::CaseSensitivity sensitivity = files.Separator() == u'\\' ? Qt::CaseInsensitive : Qt::CaseSensitive;
+    const Qt::CaseSensitivity sensitivity =
+        files.Separator() == u'\\' ? Qt::CaseInsensitive : Qt::CaseSensitive;
     QString best;
     const QList<Volume> volumes = files.Volumes();
     for (const Volume &volume : volumes) {

@@ -9,7 +9,8 @@ namespace tressel {
 
 class FileSystem;
 
-/// The path with the separator at its end; a path that has one stays as it is, an empty one becomes the separator.
+/// The path with the separator at its end; a path that has one stays as it is, an empty one becomes the
+/// separator.
 QString WithSeparator(const FileSystem &files, const QString &path);
 
 /// The folder and the name put together with exactly one separator between them.

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
-#include "base/Failure.h"
 #include "base/Numbers.h"
+
+#include "base/Failure.h"
 #include "support/Text.h"
 
 #include <gtest/gtest.h>
@@ -19,7 +20,7 @@ FailureNumber NumberThrownBy(const std::function<void()> &step)
     } catch (const Failure &failure) {
         return failure.number;
     }
-    return FailureNumber {0};
+    return FailureNumber{0};
 }
 
 TEST(Numbers, RoundHalfToEven)

@@ -7,8 +7,8 @@
 #include "support/Text.h"
 
 #include <functional>
-#include <vector>
 #include <gtest/gtest.h>
+#include <vector>
 
 using namespace tressel;
 using namespace Qt::StringLiterals;

@@ -12,8 +12,8 @@ namespace tressel {
 
 using namespace Qt::StringLiterals;
 
-BrowsePage::BrowsePage(WorkArea &workArea, FileSystem &files, FolderTree &folderTree, FolderListFile &textFile,
-                       Session &shared)
+BrowsePage::BrowsePage(WorkArea &workArea, FileSystem &files, FolderTree &folderTree,
+                       FolderListFile &textFile, Session &shared)
     : page(workArea.form, u"FrameXPMenu(0)"_s)
     , DrvList(workArea.form, u"DrvList"_s, files)
     , DirList(workArea.form, u"DirList"_s, files)

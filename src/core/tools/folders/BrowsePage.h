@@ -18,7 +18,8 @@ struct Session;
 /// The page on which one goes to a folder and takes its file names into the list.
 class BrowsePage {
 public:
-    BrowsePage(WorkArea &area, FileSystem &files, FolderTree &tree, FolderListFile &listFile, Session &session);
+    BrowsePage(WorkArea &area, FileSystem &files, FolderTree &tree, FolderListFile &listFile,
+               Session &session);
 
     /// Takes over all file names on show, in place of what the list held, and saves them.
     void LoadAllNames();

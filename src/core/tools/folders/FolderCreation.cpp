@@ -60,8 +60,7 @@ void FolderCreation::CreateFolder(int index)
         MakeFolderPath(files, session.DestinationPath + EntryToPath(files, session.LastFixedName));
     } else {
         // Kept: no name is mended on this road, so the suffix goes to the name handled before this one.
-        const QString suffixed
-            = session.LastFixedName + u" ("_s + QString::number(session.RunNumber) + u')';
+        const QString suffixed = session.LastFixedName + u" ("_s + QString::number(session.RunNumber) + u')';
         MakeFolderPath(files, session.DestinationPath + EntryToPath(files, suffixed));
     }
 }

@@ -13,8 +13,17 @@ namespace tressel {
 void RemoveDupes(ItemList &list);
 
 /// The same for the recent paths of the listing page, the files to erase, and the files to split.
-inline void KillCBDupes(ComboBox &combo) { RemoveDupes(combo); }
-inline void KillLBDupes(ListBox &list) { RemoveDupes(list); }
-inline void KillLBDupesCBO(ComboBox &combo) { RemoveDupes(combo); }
+inline void KillCBDupes(ComboBox &combo)
+{
+    RemoveDupes(combo);
+}
+inline void KillLBDupes(ListBox &list)
+{
+    RemoveDupes(list);
+}
+inline void KillLBDupesCBO(ComboBox &combo)
+{
+    RemoveDupes(combo);
+}
 
 } // namespace tressel

@@ -14,15 +14,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString listFileFilter
-    = u"All Files (*.*)|*.*|TXT Files (*.txt)|*.txt|DOC Files (*.doc)|*.doc|"_s;
+const QString listFileFilter = u"All Files (*.*)|*.*|TXT Files (*.txt)|*.txt|DOC Files (*.doc)|*.doc|"_s;
 // Kept: the filter has three entries, so this index is beyond them.
 constexpr int listFileFilterIndex = 4;
 
 } // namespace
 
-TextListTool::TextListTool(WorkArea &area, FileSystem &fileSystem, Dialogs &fileDialogs, const ClickSound &sound,
-                           FolderListFile &textFile, Session &shared)
+TextListTool::TextListTool(WorkArea &area, FileSystem &fileSystem, Dialogs &fileDialogs,
+                           const ClickSound &sound, FolderListFile &textFile, Session &shared)
     : lblInfo(area.form, u"lblInfo"_s,
               u"Open from textfile and read to list for making of folders or Save from list to textfile to "
               "later use"_s)

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "controls/Frame.h"
+
+namespace tressel {
+
+/// A holder that answers to the mouse: a split bar, its grip, a notice to click on.
+class PictureBox : public Frame {
+public:
+    PictureBox(Form &form, const QString &name);
+
+    static constexpr int leftButton = 1;
+
+    /// The buttons held (leftButton or a sum with others; 0 for none) and the mouse's place in the box,
+    /// in twips from its left edge.
+    Event<int, int> MouseMove;
+    Event<> MouseUp;
+    Event<> Click;
+
+    // For faces.
+    void UserMovesMouse(int buttons, int x);
+    void UserReleasesMouse();
+    void UserClicks();
+};
+
+} // namespace tressel

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "tools/database/DatabasePage.h"
+
+namespace tressel {
+
+using namespace Qt::StringLiterals;
+
+DatabasePage::DatabasePage(Form &form)
+    : page(form, u"FrameXPMenu(4)"_s)
+    , lblDatabaseFile(form, u"lblDatabaseFile"_s, u"Database File"_s)
+    , txtDatabaseFile(form, u"txtDatabaseFile"_s)
+    , btnGBOpenDatabase(form, u"btnGBOpenDatabase"_s, u"Database"_s)
+    , lblstrSQL(form, u"lblstrSQL"_s, u"No Tables"_s)
+    , Tables(form, u"ListBox(0)"_s)
+    , lblTable(form, u"lblTable"_s, u"No Fields"_s)
+    , Fields(form, u"ListBox(1)"_s)
+    , btnGBLoadList(form, u"btnGBLoadList"_s, u"Load List"_s)
+    , txtstrSQL(form, u"txtstrSQL"_s, u"SELECT * FROM Products"_s)
+{
+    txtDatabaseFile.SetToolTip(
+        u" Type in your path to mdb database file or open database with click on \"Database\" button "_s);
+    Tables.SetToolTip(u" Pick Table from list "_s);
+    Fields.SetToolTip(u" Pick Fields from list "_s);
+    btnGBOpenDatabase.SetEnabled(false);
+    btnGBLoadList.SetEnabled(false);
+    txtstrSQL.SetVisible(false);
+}
+
+} // namespace tressel

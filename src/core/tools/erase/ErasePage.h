@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "controls/IsButton.h"
+#include "controls/Label.h"
+#include "controls/ListBox.h"
+#include "controls/PictureBox.h"
+#include "controls/ProgressBar.h"
+#include "controls/Timer.h"
+
+namespace tressel {
+
+/// The lower part of the text page: a list of files that are overwritten and deleted.
+class ErasePage {
+public:
+    explicit ErasePage(Form &form);
+
+    ListBox lstErase;
+    Label lblEraseMessage;
+    IsButton btnGBErase;
+    PictureBox PicProgress;
+    ProgressBar ProgrBar;
+    Label lblOverwrite;
+    Timer Timer1;
+};
+
+} // namespace tressel

@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "controls/CheckBox.h"
+#include "controls/Frame.h"
+#include "controls/IsButton.h"
+#include "controls/Label.h"
+#include "controls/OptionGroup.h"
+#include "controls/ProgressBar.h"
+#include "controls/TextBox.h"
+
+namespace tressel {
+
+/// The page that renames what stands in a folder: by case, by extension, by replacing a piece of text.
+class RenamePage {
+public:
+    explicit RenamePage(Form &form);
+
+    /// Entries of optRename and optReplace.
+    enum Kinds { Folders, Files, Both };
+    /// Entries of optCase.
+    enum Cases { NoChange, Uppercase, Lowercase };
+    /// Entries of optExtensions.
+    enum Extensions { Specific, All };
+    /// Entries of optReplacePreset.
+    enum Presets { None, MP3 };
+
+    Frame page;
+    Label lblPath;
+    TextBox txtCurrentPath;
+    IsButton btnGBBrowsePath;
+    Frame Picture1; ///< the two lines that part the page
+    Frame Picture2;
+
+    Frame fraRenamingType;
+    OptionGroup optRename; ///< optRenameFolder, optRenameFile, optRenameAll
+    Frame fraRenamingCase;
+    OptionGroup optCase; ///< optNoChange, optUppercase, optLowercase
+    Frame fraRenamingCap;
+    CheckBox chkCapFirstLetter;
+    CheckBox chkCapAfterEverySpace;
+
+    Frame fraExtensions;
+    OptionGroup optExtensions; ///< optSpecificExtensions, optAllExtensions
+    Frame fraExtensionsSpecific; ///< on show while optSpecificExtensions is selected
+    Label lblExtensionsFrom;
+    TextBox txtSpecificExtFrom;
+    Label lblExtensionsTo;
+    TextBox txtSpecificExtTo;
+    Frame fraAllExtensions; ///< on show while optAllExtensions is selected
+    Label lblExtensionsChangeAllTo;
+    TextBox txtExtensionsChangeAllTo;
+
+    Frame fraReplace;
+    OptionGroup optReplacePreset; ///< optReplacePresetNone, optReplacePresetMP3
+    Frame fraReplacePresets;
+    Label lblReplaceEvery;
+    TextBox txtReplaceFrom;
+    Label lblReplaceWith;
+    TextBox txtReplaceTo;
+    Frame fraReplaceType;
+    OptionGroup optReplace; ///< optReplaceFolder, optReplaceFile, optReplaceBoth
+
+    IsButton btnGBRename;
+    IsButton btnGBReplace;
+    IsButton btnGBExtension;
+    IsButton btnGBCancel;
+    tressel::ProgressBar ProgressBar;
+
+private:
+    void SetToolTips();
+    void SetFirstValues();
+    void ShowExtensionFrame();
+};
+
+} // namespace tressel

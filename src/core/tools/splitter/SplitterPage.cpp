@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "tools/splitter/SplitterPage.h"
+
+namespace tressel {
+
+using namespace Qt::StringLiterals;
+
+SplitterPage::SplitterPage(Form &form)
+    : page(form, u"FrameXPMenu(7)"_s)
+    , cboFileName(form, u"cboFileName"_s)
+    , btnBrowse(form, u"btnBrowse"_s, u"..."_s)
+    , Frame1(form, u"Frame1"_s, u"Split By"_s)
+    , optSplit(form, u"optSplit"_s, {u"File Size"_s, u"File Count"_s})
+    , lblSplitSize(form, u"lblSplitSize"_s, u"Split Size (KB)"_s)
+    , cmbSplitSize(form, u"cmbSplitSize"_s)
+    , lblSplitCount(form, u"lblSplitCount"_s, u"Split Files"_s)
+    , txtSplitCount(form, u"txtSplitCount"_s)
+    , fraEst(form, u"fraEst"_s, u"Estimates"_s)
+    , lblEstFileCount{Label(form, u"lblEstFileCount(0)"_s, u"File Count:"_s),
+                      Label(form, u"lblEstFileCount(1)"_s, u"0"_s)}
+    , lblEstFileSize{Label(form, u"lblEstFileSize(0)"_s, u"File Size:"_s),
+                     Label(form, u"lblEstFileSize(1)"_s, u"0"_s)}
+    , Frame2(form, u"Frame2"_s, u"Option"_s)
+    , chkCopyToFloppy(form, u"chkCopyToFloppy"_s, u"Copy to Floppies when finished Splitting"_s)
+    , chkOpenExplorer(form, u"chkOpenExplorer"_s, u"Open Explorer Window to Split Directory"_s)
+    , chkDeleteParts(form, u"chkDeleteParts"_s, u"Delete Split Parts when finished Joining"_s)
+    , fraStats(form, u"fraStats"_s, u"Statistics"_s)
+    , lblStart(form, u"lblStart"_s, u"Start Time:"_s)
+    , lblFinish(form, u"lblFinish"_s, u"Finish Time:"_s)
+    , lblElapsed(form, u"lblElapsed"_s, u"Elapsed Time:"_s)
+    , lblFileCount(form, u"lblFileCount"_s, u"File Count:"_s)
+    , ctlProgress1(form, u"ctlProgress1"_s)
+    , btnGBSplitFile(form, u"btnGBSplitFile"_s, u"Split File"_s)
+    , btnGBJoinFile(form, u"btnGBJoinFile"_s, u"Join File"_s)
+{
+    cboFileName.SetToolTip(u" For Clear the list Set cursor in list and push F12 "_s);
+    cmbSplitSize.SetItems({u"5"_s, u"10"_s, u"50"_s, u"100"_s, u"500"_s, u"1000"_s, u"1200"_s, u"1440"_s,
+                           u"2000"_s, u"3000"_s});
+    optSplit.Click.Handle([this](int) { optSplit_Click(); });
+    optSplit.Select(FileSize);
+    btnBrowse.SetEnabled(false);
+    btnGBSplitFile.SetEnabled(false);
+    btnGBJoinFile.SetEnabled(false);
+}
+
+void SplitterPage::optSplit_Click()
+{
+    const bool byCount = optSplit.IsSelected(FileCount);
+    lblSplitCount.SetEnabled(byCount);
+    txtSplitCount.SetEnabled(byCount);
+    lblSplitSize.SetEnabled(!byCount);
+    cmbSplitSize.SetEnabled(!byCount);
+}
+
+} // namespace tressel
