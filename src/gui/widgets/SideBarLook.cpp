@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "widgets/SideBarLook.h"
+
+#include <QFontDatabase>
+#include <QFontMetrics>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tressel {
+
+namespace {
+
+/// Relative luminance after WCAG 2.1, 0 black to 1 white.
+double Luminance(const QColor &colour)
+{
+    const auto linear = [](double part) {
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
+        + 0.0722 * linear(colour.blueF());
+}
+
+/// Contrast ratio after WCAG 2.1, 1 to 21.
+double Contrast(const QColor &one, const QColor &other)
+{
+    const auto [darker, lighter] = std::minmax(Luminance(one), Luminance(other));
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+QFont FontOf(const FontChoice &choice, QFont font)
+{
+    if (QFontDatabase::hasFamily(choice.family))
+        font.setFamily(choice.family);
+    if (choice.points > 0)
+        font.setPointSizeF(choice.points);
+    font.setBold(choice.bold);
+    font.setItalic(choice.italic);
+    font.setUnderline(choice.underline);
+    font.setStrikeOut(choice.strikeout);
+    return font;
+}
+
+/// The desktop's own colours, in the order of SideBarColour.
+std::array<QColor, 11> DesktopColours(const QPalette &desktop)
+{
+    const QColor window = desktop.color(QPalette::Window);
+    const QColor text = desktop.color(QPalette::WindowText);
+    const QColor base = desktop.color(QPalette::Base);
+    const QColor highlight = desktop.color(QPalette::Highlight);
+    const QColor header = Mixed(window, text, 0.06);
+    return {header,
+            Mixed(window, text, 0.45),
+            Mixed(header, Qt::white, desktop.color(QPalette::Window).lightnessF() > 0.5 ? 0.6 : 0.1),
+            Mixed(window, text, 0.35),
+            Mixed(base, highlight, 0.28),
+            highlight,
+            base,
+            window,
+            Mixed(base, text, 0.4),
+            Mixed(base, highlight, 0.45),
+            Mixed(base, highlight, 0.18)};
+}
+
+/// What OutlookColors shows before the program gave a palette, in the order of SideBarColour.
+constexpr std::array<QRgb, 11> blue{0xC9DDF4, 0x7B9CC4, 0xF3F8FE, 0x7391B5, 0xCBE1F9, 0x2B6CB8,
+                                    0xFFFFFF, 0xE4EEFA, 0x9DB6D3, 0xA6CAF1, 0xDCEBFB};
+
+} // namespace
+
+QColor PlainColour(quint32 number)
+{
+    return QColor(static_cast<int>(number & 0xFF), static_cast<int>(number >> 8 & 0xFF),
+                  static_cast<int>(number >> 16 & 0xFF));
+}
+
+QColor Mixed(const QColor &ground, const QColor &over, double share)
+{
+    const auto mix = [share](double from, double to) {
+        return static_cast<float>(from + (to - from) * share);
+    };
+    return QColor::fromRgbF(mix(ground.redF(), over.redF()), mix(ground.greenF(), over.greenF()),
+                            mix(ground.blueF(), over.blueF()));
+}
+
+SideBarLook::SideBarLook(const SideBar &bar, const QPalette &desktop, const QFont &base,
+                         const ColourReader &reader)
+    : titleFont(FontOf(bar.TitleFont(), base))
+    , captionFont(FontOf(bar.CaptionFont(), base))
+    , title(reader(bar.TitleColor()))
+    , caption(reader(bar.CaptionColor()))
+{
+    if (!bar.OutlookColors())
+        colours = DesktopColours(desktop);
+    else if (bar.Colors())
+        std::ranges::transform(*bar.Colors(), colours.begin(), reader);
+    else
+        std::ranges::transform(blue, colours.begin(), [](QRgb rgb) { return QColor(rgb); });
+}
+
+SideBarHeights SideBarLook::Heights() const
+{
+    return {std::max(QFontMetrics(captionFont).height() + 12, iconSize + 12),
+            std::max(QFontMetrics(titleFont).height() + 8, iconSize + 8)};
+}
+
+QPalette SideBarLook::PagePalette(const QColor &ground, const QPalette &desktop)
+{
+    QPalette palette(Mixed(ground, Qt::black, 0.03), ground);
+    for (const auto role : {QPalette::Highlight, QPalette::HighlightedText}) {
+        for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+            palette.setColor(group, role, desktop.color(group, role));
+    }
+    return palette;
+}
+
+QColor SideBarLook::Readable(const QColor &wanted, const QColor &ground)
+{
+    constexpr double hardlyLegible = 2.0;
+    if (Contrast(wanted, ground) >= hardlyLegible)
+        return wanted;
+    return Contrast(Qt::black, ground) > Contrast(Qt::white, ground) ? Qt::black : Qt::white;
+}
+
+} // namespace tressel
