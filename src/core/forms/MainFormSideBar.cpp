@@ -11,7 +11,7 @@ namespace {
 
 /// An entry of the side bar: what it says, and the number of the page that it opens.
 struct Entry {
-    const char16_t *caption;
+    QStringView caption;
     std::size_t page;
 };
 
@@ -53,7 +53,7 @@ void MainForm::LoadItems()
     const int opened = LastOpened(settings);
     for (int number = 1; const Entry &entry : entries) {
         SideBarItem &item =
-            EyeDropper1.Items().Add(u"Item: "_s + QString::number(number), QString(entry.caption));
+            EyeDropper1.Items().Add(u"Item: "_s + QString::number(number), entry.caption.toString());
         item.SetPage(*FrameXPMenu[entry.page]);
         item.SetImage(number);
         if (number == opened)
