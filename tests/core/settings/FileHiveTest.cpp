@@ -112,7 +112,7 @@ TEST_F(FileHiveTest, ADamagedFileIsUsedAsFarAsItIsSoundAndKeptBeside)
 {
     const QByteArray damaged[] = {
         "[Software\\Some Maker]\n\"good\"=\"1\"\n\"bad\"=\"cut of",
-        QByteArray("[Software\\Some Maker]\n\"good\"=\"1\"\n\0\xff\xfe\x01", 44),
+        "[Software\\Some Maker]\n\"good\"=\"1\"\n" + QByteArray("\0\xff\xfe\x01", 4),
         "[Software\\Some Maker]\n\"good\"=\"1\"\n\"bad\"=qword:01\n",
         "[Software\\Some Maker]\n\"good\"=\"1\"\n\"bad\"=\"\\q\"\n",
     };
