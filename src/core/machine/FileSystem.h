@@ -32,7 +32,7 @@ struct FolderEntry {
 /// What is known of one path.
 struct FileStatus {
     EntryKind kind = EntryKind::File;
-    qint64 length = 0; ///< bytes
+    qint64 length = 0; ///< bytes of a file, 0 for all else
     bool readOnly = false;
     bool hidden = false;
     QDateTime modified;
@@ -62,15 +62,18 @@ class OpenFile {
 public:
     virtual ~OpenFile() = default;
 
-    /// Up to `maximum` bytes from the present position; empty at the end of the file.
+    /// Up to `maximum` bytes from the present position; fewer only at the end of the file, none behind it.
+    /// Fails with 5 for a negative number, with 7 if there is no room for so many.
     virtual QByteArray Read(qint64 maximum) = 0;
     /// Writes all of the bytes at the present position. Fails with 61 on a full disc.
     virtual void Write(const QByteArray &bytes) = 0;
     virtual qint64 Position() const = 0;
+    /// Fails with 5 for a negative position.
     virtual void Seek(qint64 position) = 0;
     virtual qint64 Length() const = 0;
     /// Has the system write everything down to the medium.
     virtual void Flush() = 0;
+    /// Does nothing for a file that is closed; all else fails with 52 then.
     virtual void Close() = 0;
 };
 
@@ -86,6 +89,7 @@ public:
 struct Volume {
     QString root; ///< path of its root, with the separator at its end
     QString label; ///< may be empty
+    bool isFloppy = false; ///< a floppy disc drive
 };
 
 /// The disc, in single steps: anything of several steps is a function over this interface.
@@ -93,9 +97,10 @@ struct Volume {
 /// Paths are text in the form of the platform; on a platform whose names are bytes, a byte that is no
 /// UTF-8 travels as the lone surrogate U+DC80 + (byte - 0x80) and comes back as the same byte.
 /// Failures: 53 a file is missing and its folder is there, 76 a folder of the path is missing, 75 a
-/// folder that exists is made, one that isn't empty is removed, a folder is opened as a file, or the
-/// system refuses access; 5 a path that can't be a path; 52 an empty name; 58 a target exists; 61 a
-/// full disc; 57 a device error; 70 a file held by another; 71 a medium that isn't there.
+/// folder that exists is made, one that isn't empty is removed, a folder is opened as a file, a name is
+/// too long, or the system refuses access; 5 a path that can't be a path; 52 an empty path or a closed file;
+/// 58 a target exists; 61 a full disc; 57 a device error; 70 a file held by another; 71 a medium that isn't
+/// there.
 class FileSystem {
 public:
     virtual ~FileSystem() = default;
@@ -106,7 +111,8 @@ public:
     /// Nothing if the path can't be reached for whatever reason.
     virtual std::optional<FileStatus> Status(const QString &path, Links links) = 0;
 
-    /// All entries of a folder but "." and "..", sorted by name without regard to case.
+    /// All entries of a folder, or of the folder that a link names, but "." and "..", sorted by name without
+    /// regard to case.
     virtual QList<FolderEntry> List(const QString &folder) = 0;
     /// The same one by one, in the order of the file system.
     virtual std::unique_ptr<FolderReader> Read(const QString &folder) = 0;
@@ -119,7 +125,8 @@ public:
     /// Removes one file or link; never a folder.
     virtual void RemoveFile(const QString &path) = 0;
     /// Gives a file, link or folder another path on the same volume. Never overwrites: 58 if the target
-    /// exists.
+    /// exists, unless it is the same name in other capitals. 52 if `to` ends in the separator, so that its
+    /// last name is empty; 5 if a folder would come below itself; 75 for another volume.
     virtual void Rename(const QString &from, const QString &to) = 0;
 
     virtual std::unique_ptr<OpenFile> Open(const QString &path, OpenFor purpose,
@@ -129,15 +136,15 @@ public:
     /// stand whole. A link is followed, and the file keeps its rights.
     virtual void ReplaceContents(const QString &path, const QByteArray &bytes) = 0;
 
-    /// Takes the write protection off a file, or puts it on.
+    /// Takes the write protection off a file, or puts it on. A link has none of its own and stays as it is.
     virtual void SetReadOnly(const QString &path, bool readOnly) = 0;
 
     /// The mounted volumes, the system's root first.
     virtual QList<Volume> Volumes() = 0;
-    /// The label of the volume that holds the path; empty if it has none. Fails with 71 if there is no such
-    /// volume.
+    /// The label of the volume that holds the path, which need not exist; empty if it has none. Fails with
+    /// 71 if there is no such volume.
     virtual QString VolumeLabel(const QString &path) = 0;
-    /// Bytes that can still be written to the volume that holds the path.
+    /// Bytes that can still be written to the volume that holds the path, which need not exist.
     virtual qint64 FreeSpace(const QString &path) = 0;
 };
 

@@ -1,0 +1,263 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "machine/posix/PosixFileSystem.h"
+
+#include "machine/posix/FileKind.h"
+#include "machine/posix/NativePath.h"
+#include "machine/posix/PosixFolderReader.h"
+#include "machine/posix/PosixOpenFile.h"
+#include "machine/posix/PosixRename.h"
+#include "machine/posix/PosixReplace.h"
+#include "machine/posix/SystemError.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <utility>
+#include <vector>
+
+namespace tressel {
+
+namespace {
+
+constexpr mode_t allMayWrite = S_IWUSR | S_IWGRP | S_IWOTH;
+constexpr qint64 millisecondsPerSecond = 1000;
+constexpr qint64 nanosecondsPerMillisecond = 1'000'000;
+
+/// For a path of which the last name is a file's.
+[[noreturn]] void ThrowFileError(int error, const NativePath &path)
+{
+    throw Failure(error == ENOENT ? path.NumberOfMissingFile() : NumberOfError(error));
+}
+
+QDateTime TimeOf(const timespec &time)
+{
+    return QDateTime::fromMSecsSinceEpoch(time.tv_sec * millisecondsPerSecond
+                                          + time.tv_nsec / nanosecondsPerMillisecond);
+}
+
+bool IsHidden(const NativePath &path)
+{
+    const QByteArrayView name = path.Name();
+    return name.startsWith('.') && name != "." && name != "..";
+}
+
+int FlagsFor(OpenFor purpose)
+{
+    switch (purpose) {
+    case OpenFor::Reading:
+        return O_RDONLY;
+    case OpenFor::Writing:
+        return O_WRONLY | O_CREAT;
+    case OpenFor::Appending:
+        return O_WRONLY | O_CREAT | O_APPEND;
+    case OpenFor::Changing:
+        return O_RDWR;
+    case OpenFor::Creating:
+        return O_WRONLY | O_CREAT | O_EXCL;
+    }
+    return O_RDONLY;
+}
+
+/// Takes the file for this process alone. A file system without such locks has nobody to keep out.
+void LockAlone(const Descriptor &file)
+{
+    if (flock(file.Number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
+        throw Failure(FailureNumber::PermissionDenied);
+}
+
+/// What was opened without waiting is read and written with waiting, as anything else.
+void WaitForData(const Descriptor &file)
+{
+    const int flags = fcntl(file.Number(), F_GETFL);
+    if (flags < 0 || fcntl(file.Number(), F_SETFL, flags & ~O_NONBLOCK) != 0)
+        throw Failure(NumberOfError(errno));
+}
+
+Descriptor OpenFolder(const QString &folder)
+{
+    const NativePath path{QStringView(folder)};
+    path.Demand();
+    Descriptor open(openat(path.Folder(), path.Rest(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!open.IsOpen())
+        throw Failure(NumberOfError(errno));
+    return open;
+}
+
+/// The path itself or the nearest folder above it that is there, to ask its volume something.
+Descriptor OpenNearest(const QString &path)
+{
+    const NativePath whole{QStringView(path)};
+    whole.Demand();
+    QByteArray nearest = whole.Bytes().toByteArray();
+    for (;;) {
+        const NativePath place{QByteArrayView(nearest)};
+        if (!place.Problem()) {
+            Descriptor open(openat(place.Folder(), place.Rest(), O_PATH | O_CLOEXEC));
+            if (open.IsOpen())
+                return open;
+            if (errno != ENOENT && errno != ENOTDIR)
+                throw Failure(NumberOfError(errno));
+        }
+        const QByteArray above = place.Above().isEmpty() ? QByteArray(".") : place.Above().toByteArray();
+        if (above == nearest)
+            throw Failure(FailureNumber::DiskNotReady);
+        nearest = above;
+    }
+}
+
+void SortByName(QList<FolderEntry> &entries)
+{
+    std::vector<std::pair<QString, FolderEntry>> folded;
+    folded.reserve(static_cast<size_t>(entries.size()));
+    for (FolderEntry &entry : entries) {
+        QString name = entry.name.toCaseFolded();
+        folded.emplace_back(std::move(name), std::move(entry));
+    }
+    std::sort(folded.begin(), folded.end(), [](const auto &one, const auto &other) {
+        const int order = one.first.compare(other.first);
+        return order != 0 ? order < 0 : one.second.name < other.second.name;
+    });
+    std::transform(folded.begin(), folded.end(), entries.begin(),
+                   [](auto &pair) { return std::move(pair.second); });
+}
+
+} // namespace
+
+std::optional<FileStatus> PosixFileSystem::Status(const QString &path, Links links)
+{
+    const NativePath native{QStringView(path)};
+    struct stat status = {};
+    const int flags = links == Links::Keep ? AT_SYMLINK_NOFOLLOW : 0;
+    if (native.Problem() || fstatat(native.Folder(), native.Rest(), &status, flags) != 0)
+        return {};
+    const EntryKind kind = KindOfMode(status.st_mode);
+    return FileStatus{kind, kind == EntryKind::File ? status.st_size : 0, (status.st_mode & allMayWrite) == 0,
+                      IsHidden(native), TimeOf(status.st_mtim)};
+}
+
+QList<FolderEntry> PosixFileSystem::List(const QString &folder)
+{
+    PosixFolderReader reader(OpenFolder(folder));
+    QList<FolderEntry> entries;
+    while (std::optional<FolderEntry> entry = reader.Next())
+        entries.append(std::move(*entry));
+    SortByName(entries);
+    return entries;
+}
+
+std::unique_ptr<FolderReader> PosixFileSystem::Read(const QString &folder)
+{
+    return std::make_unique<PosixFolderReader>(OpenFolder(folder));
+}
+
+std::optional<Failure> PosixFileSystem::TryMakeFolder(const QString &path)
+{
+    const NativePath native{QStringView(path)};
+    if (native.Problem())
+        return Failure(*native.Problem());
+    if (mkdirat(native.Folder(), native.Rest(), S_IRWXU | S_IRWXG | S_IRWXO) != 0)
+        return Failure(NumberOfError(errno));
+    return {};
+}
+
+std::optional<Failure> PosixFileSystem::TryRemoveFolder(const QString &path)
+{
+    const NativePath native{QStringView(path)};
+    if (native.Problem())
+        return Failure(*native.Problem());
+    if (unlinkat(native.Folder(), native.Rest(), AT_REMOVEDIR) == 0)
+        return {};
+    if (errno == ENOTDIR && Status(path, Links::Keep))
+        return Failure(FailureNumber::PathFileAccessError);
+    return Failure(NumberOfError(errno));
+}
+
+void PosixFileSystem::RemoveFile(const QString &path)
+{
+    const NativePath native{QStringView(path)};
+    native.Demand();
+    if (unlinkat(native.Folder(), native.Rest(), 0) != 0)
+        ThrowFileError(errno, native);
+}
+
+void PosixFileSystem::Rename(const QString &from, const QString &to)
+{
+    const NativePath source{QStringView(from)};
+    source.Demand();
+    const NativePath target{QStringView(to)};
+    target.Demand();
+    if (to.endsWith(Separator()))
+        throw Failure(FailureNumber::BadFileName);
+    RenameWithoutOverwriting(source, target);
+}
+
+std::unique_ptr<OpenFile> PosixFileSystem::Open(const QString &path, OpenFor purpose, Sharing sharing)
+{
+    const NativePath native{QStringView(path)};
+    native.Demand();
+    // O_NONBLOCK, since a pipe without another end would hold the program up for ever.
+    constexpr mode_t newFile = S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
+    Descriptor file(openat(native.Folder(), native.Rest(),
+                           FlagsFor(purpose) | O_NONBLOCK | O_NOCTTY | O_CLOEXEC, newFile));
+    if (!file.IsOpen() && errno == EEXIST)
+        throw Failure(FailureNumber::FileAlreadyExists);
+    if (!file.IsOpen())
+        ThrowFileError(errno, native);
+    struct stat status = {};
+    if (fstat(file.Number(), &status) != 0)
+        throw Failure(NumberOfError(errno));
+    if (S_ISDIR(status.st_mode))
+        throw Failure(FailureNumber::PathFileAccessError);
+    WaitForData(file);
+    if (sharing == Sharing::Exclusive)
+        LockAlone(file);
+    // Emptied only now: a file that another holds stays whole.
+    if (purpose == OpenFor::Writing && S_ISREG(status.st_mode) && ftruncate(file.Number(), 0) != 0)
+        throw Failure(NumberOfError(errno));
+    if (purpose == OpenFor::Appending)
+        lseek(file.Number(), 0, SEEK_END);
+    return std::make_unique<PosixOpenFile>(std::move(file));
+}
+
+void PosixFileSystem::ReplaceContents(const QString &path, const QByteArray &bytes)
+{
+    ReplaceContentsAtOnce(path, bytes);
+}
+
+void PosixFileSystem::SetReadOnly(const QString &path, bool readOnly)
+{
+    const NativePath native{QStringView(path)};
+    native.Demand();
+    struct stat status = {};
+    if (fstatat(native.Folder(), native.Rest(), &status, AT_SYMLINK_NOFOLLOW) != 0)
+        ThrowFileError(errno, native);
+    if (S_ISLNK(status.st_mode))
+        return;
+    const mode_t mode = status.st_mode & 07777;
+    const mode_t wanted = readOnly ? mode & ~allMayWrite : mode | S_IWUSR;
+    if (wanted != mode && fchmodat(native.Folder(), native.Rest(), wanted, AT_SYMLINK_NOFOLLOW) != 0)
+        ThrowFileError(errno, native);
+}
+
+QString PosixFileSystem::VolumeLabel(const QString &path)
+{
+    struct stat status = {};
+    if (fstat(OpenNearest(path).Number(), &status) != 0)
+        throw Failure(NumberOfError(errno));
+    return volumes.LabelOf(status.st_dev);
+}
+
+qint64 PosixFileSystem::FreeSpace(const QString &path)
+{
+    struct statvfs room = {};
+    if (fstatvfs(OpenNearest(path).Number(), &room) != 0)
+        throw Failure(NumberOfError(errno));
+    return static_cast<qint64>(room.f_bavail) * static_cast<qint64>(room.f_frsize);
+}
+
+} // namespace tressel

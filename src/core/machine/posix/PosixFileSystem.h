@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "machine/FileSystem.h"
+#include "machine/posix/MountedVolumes.h"
+
+namespace tressel {
+
+/// The disc of a POSIX system, by calls on open folders. Paths may be of any length; names are any bytes.
+class PosixFileSystem : public FileSystem {
+public:
+    QChar Separator() const override { return u'/'; }
+    std::optional<FileStatus> Status(const QString &path, Links links) override;
+    QList<FolderEntry> List(const QString &folder) override;
+    std::unique_ptr<FolderReader> Read(const QString &folder) override;
+    std::optional<Failure> TryMakeFolder(const QString &path) override;
+    std::optional<Failure> TryRemoveFolder(const QString &path) override;
+    void RemoveFile(const QString &path) override;
+    void Rename(const QString &from, const QString &to) override;
+    std::unique_ptr<OpenFile> Open(const QString &path, OpenFor purpose,
+                                   Sharing sharing = Sharing::Shared) override;
+    void ReplaceContents(const QString &path, const QByteArray &bytes) override;
+    void SetReadOnly(const QString &path, bool readOnly) override;
+    QList<Volume> Volumes() override { return volumes.All(); }
+    QString VolumeLabel(const QString &path) override;
+    qint64 FreeSpace(const QString &path) override;
+
+private:
+    MountedVolumes volumes;
+};
+
+} // namespace tressel

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "machine/FileSystem.h"
+#include "machine/posix/Descriptor.h"
+
+namespace tressel {
+
+/// An open file of the system.
+class PosixOpenFile : public OpenFile {
+public:
+    explicit PosixOpenFile(Descriptor file)
+        : file(std::move(file))
+    {
+    }
+
+    QByteArray Read(qint64 maximum) override;
+    void Write(const QByteArray &bytes) override;
+    qint64 Position() const override;
+    void Seek(qint64 position) override;
+    qint64 Length() const override;
+    void Flush() override;
+    void Close() override;
+
+private:
+    /// How many bytes to make room for, to read at most so many.
+    qint64 RoomFor(qint64 maximum) const;
+
+    Descriptor file;
+};
+
+} // namespace tressel
