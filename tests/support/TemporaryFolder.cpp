@@ -6,9 +6,8 @@
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
-
-#include <unistd.h>
 #include <system_error>
+#include <unistd.h>
 
 namespace tressel {
 

@@ -78,7 +78,7 @@ TEST(MountedVolumes, LabelsAreFoundByTheirDevice)
     ASSERT_EQ(symlink("/dev/gone", folder.Native("labels/GONE").constData()), 0);
     std::ofstream(folder.Native("mounts").constData())
         << "/dev/zero / ext4 rw 0 0\n/dev/null /media/disc vfat rw 0 0\n";
-    MountedVolumes volumes(folder.Native("mounts"), folder.Native("labels"), "/home/me/");
+    MountedVolumes volumes(folder.Native("mounts"), folder.Native("labels"), "/home/me");
     ASSERT_EQ(volumes.All().size(), 2);
     EXPECT_EQ(volumes.All().at(0).label, QString());
     EXPECT_EQ(volumes.All().at(1).label, u"My Disc"_s);

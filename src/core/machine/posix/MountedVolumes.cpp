@@ -5,13 +5,12 @@
 
 #include "machine/NameText.h"
 #include "machine/posix/PosixFolderReader.h"
-#include "machine/posix/PosixOpenFile.h"
+#include "machine/posix/UserFolders.h"
 
 #include <algorithm>
 #include <array>
 #include <fcntl.h>
 #include <poll.h>
-#include <pwd.h>
 #include <sys/stat.h>
 #include <utility>
 
@@ -71,15 +70,6 @@ Rank RankOf(const Mount &mount, const QByteArray &home)
     return isRemovable ? Rank::Removable : Rank::None;
 }
 
-QByteArray HomeFolder()
-{
-    const QByteArray home = qgetenv("HOME");
-    if (!home.isEmpty())
-        return home;
-    const passwd *const user = getpwuid(getuid());
-    return user ? QByteArray(user->pw_dir) : QByteArray();
-}
-
 dev_t DeviceNumber(const QByteArray &device)
 {
     struct stat status = {};
@@ -122,8 +112,6 @@ MountedVolumes::MountedVolumes(const QByteArray &mountTable, QByteArray labelFol
     , labels(std::move(labelFolder))
     , home(std::move(homeFolder))
 {
-    while (home.endsWith('/'))
-        home.chop(1);
 }
 
 const QList<Volume> &MountedVolumes::All()

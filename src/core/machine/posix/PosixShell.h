@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "machine/Shell.h"
+
+namespace tressel {
+
+/// The desktop of a POSIX system, through xdg-open.
+class PosixShell : public Shell {
+public:
+    bool Open(const QString &target, const QString &folder) override;
+    /// Through the program that the desktop knows for the file, or the first known editor that is installed.
+    bool EditText(const QString &file) override;
+    bool BrowseFolder(const QString &folder) override;
+};
+
+} // namespace tressel

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QByteArray>
+
+namespace tressel {
+
+/// The user's home folder, without a separator at its end: $HOME, or what the system's list of users says.
+/// Empty if neither knows one.
+QByteArray HomeFolder();
+
+/// Where programs keep data of the user: $XDG_DATA_HOME if it is a whole path, as the XDG Base Directory
+/// Specification wants it, else .local/share in the home folder.
+QByteArray UserDataFolder();
+
+} // namespace tressel
