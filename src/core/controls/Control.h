@@ -37,6 +37,8 @@ public:
     void SetVisible(bool isVisible);
     virtual const QString &ToolTip() const { return toolTip; }
     virtual void SetToolTip(const QString &text);
+    /// Gives it the keyboard, as soon as a face can take it.
+    void SetFocus() { form.NoteFocused(*this); }
 
     /// Place and size in twips, for controls whose geometry rules speak of. Writing a size below 0 fails
     /// with 380 and changes nothing.

@@ -55,6 +55,7 @@ void Form::Show()
 {
     EnsureLoaded();
     visible = true;
+    shown = true;
     NoteFormChanged();
     Activate.Raise();
 }
@@ -139,6 +140,16 @@ bool Form::TakeFormChanged()
     return std::exchange(formChanged, false);
 }
 
+bool Form::TakeShown()
+{
+    return std::exchange(shown, false);
+}
+
+Control *Form::TakeFocused()
+{
+    return std::exchange(focused, nullptr);
+}
+
 void Form::TakeGeometry(int newLeft, int newTop, int newWidth, int newHeight, WindowState newState)
 {
     left = newLeft;
@@ -157,6 +168,11 @@ void Form::TakeBorder(int widthTwips, int heightTwips)
     borderHeight = heightTwips;
 }
 
+void Form::UserActivates()
+{
+    Dispatch([this] { Activate.Raise(); });
+}
+
 void Form::Register(Control &control)
 {
     Q_ASSERT_X(!byName.contains(control.Name()), "Form::Register", qPrintable(control.Name()));
@@ -169,6 +185,8 @@ void Form::Forget(Control &control)
     controls.removeOne(&control);
     changed.removeOne(&control);
     byName.remove(control.Name());
+    if (focused == &control)
+        focused = nullptr;
 }
 
 void Form::NoteChanged(Control &control)
@@ -177,6 +195,12 @@ void Form::NoteChanged(Control &control)
         return;
     control.noted = true;
     changed.append(&control);
+    TellListener();
+}
+
+void Form::NoteFocused(Control &control)
+{
+    focused = &control;
     TellListener();
 }
 

@@ -89,17 +89,24 @@ public:
     QList<Control *> TakeChanged();
     /// True once if a property of the form itself changed since the last call.
     bool TakeFormChanged();
+    /// True once if the form was told to show itself since the last call, also if it was on show already.
+    bool TakeShown();
+    /// The control that was given the keyboard since the last call, null if none was.
+    Control *TakeFocused();
     /// The user's or the desktop's doing: takes place, size and state over without noting a change,
     /// and raises Resize if the size differs.
     void TakeGeometry(int newLeft, int newTop, int newWidth, int newHeight, WindowState newState);
     /// What border and title bar take off the window's size, both sides together, in twips.
     void TakeBorder(int widthTwips, int heightTwips);
+    /// The user turned to this form from another one: raises Activate.
+    void UserActivates();
 
 private:
     friend class Control;
     void Register(Control &control);
     void Forget(Control &control);
     void NoteChanged(Control &control);
+    void NoteFocused(Control &control);
     void NoteFormChanged();
     void TellListener();
 
@@ -115,6 +122,8 @@ private:
     bool visible = false;
     bool loaded = false;
     bool formChanged = true;
+    bool shown = false;
+    Control *focused = nullptr;
     bool listenerTold = false;
     int depth = 0;
     QList<Control *> controls;

@@ -14,4 +14,9 @@ void ListBox::UserActivates(int index)
     UserAct([this] { DoubleClick.Raise(); });
 }
 
+void ListBox::UserPointsAt(int row)
+{
+    UserAct([&] { MouseMove.Raise(row >= 0 && row < ListCount() ? row : -1); });
+}
+
 } // namespace tressel

@@ -16,10 +16,13 @@ public:
     QString Text() const { return ListIndex() < 0 ? QString() : Item(ListIndex()); }
 
     Event<> DoubleClick;
+    /// The pointer came over another row; -1: over none.
+    Event<int> MouseMove;
 
     // For faces.
     /// The user opened an entry: a double click or Enter. It is the selected one already.
     void UserActivates(int index);
+    void UserPointsAt(int row);
 };
 
 } // namespace tressel

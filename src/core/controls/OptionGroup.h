@@ -22,6 +22,7 @@ public:
     bool IsSelected() const;
 
     // For faces.
+    const OptionGroup &Group() const { return group; }
     void UserSelects();
     /// The group's selection moved to or from this entry.
     void NoteSelection() { NoteChanged(); }

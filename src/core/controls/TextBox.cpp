@@ -34,6 +34,12 @@ void TextBox::SetHint(const QString &newHint)
     NoteChanged();
 }
 
+void TextBox::SelectAll()
+{
+    selectAll = true;
+    NoteChanged();
+}
+
 void TextBox::UserEdits(const QString &newText)
 {
     if (!locked)
@@ -48,6 +54,11 @@ void TextBox::UserEnters()
 void TextBox::UserLeaves()
 {
     UserAct([this] { LostFocus.Raise(); });
+}
+
+bool TextBox::TakeSelectAll()
+{
+    return std::exchange(selectAll, false);
 }
 
 } // namespace tressel

@@ -24,6 +24,9 @@ public:
     const QString &Hint() const { return hint; }
     void SetHint(const QString &newHint);
 
+    /// Selects the whole text, so that typing replaces it.
+    void SelectAll();
+
     Event<> Change;
     Event<> GotFocus;
     Event<> LostFocus;
@@ -33,11 +36,14 @@ public:
     void UserEdits(const QString &newText);
     void UserEnters();
     void UserLeaves();
+    /// True once if the whole text was to be selected since the last call.
+    bool TakeSelectAll();
 
 private:
     QString text;
     QString hint;
     bool locked = false;
+    bool selectAll = false;
 };
 
 } // namespace tressel

@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "faces/ComboFace.h"
+
+#include <QLineEdit>
+
+namespace tressel {
+
+namespace {
+
+// Where the box was made editable after other widgets were made, its line edit stands behind those in the
+// tab order, and setTabOrder loses what is between.
+void PlaceBehindBox(QLineEdit &edit)
+{
+    QWidget *box = edit.parentWidget();
+    edit.setFocusProxy(nullptr);
+    QWidget::setTabOrder(box, &edit);
+    edit.setFocusProxy(box);
+}
+
+} // namespace
+
+ChoiceFace::ChoiceFace(ItemList &control, QComboBox &widget)
+    : Face(control, widget)
+    , list(control)
+    , view(widget)
+{
+    view.setModel(&model);
+    // Choosing the entry that is chosen already counts too, so the change of the index isn't enough.
+    connect(&view, &QComboBox::activated, this,
+            [this](int index) { Hand([&] { list.UserSelects(index); }); });
+}
+
+void ChoiceFace::Show()
+{
+    model.Publish(list.Items());
+    if (view.currentIndex() != list.ListIndex())
+        view.setCurrentIndex(list.ListIndex());
+}
+
+ComboFace::ComboFace(ComboBox &control, QComboBox &widget)
+    : ChoiceFace(control, widget)
+    , box(control)
+{
+    widget.setEditable(box.BoxKind() == ComboBox::Kind::Editable);
+    widget.setInsertPolicy(QComboBox::NoInsert);
+    if (QLineEdit *edit = widget.lineEdit()) {
+        // What is typed is the text, to the letter.
+        edit->setCompleter(nullptr);
+        edit->setMaxLength(0x7FFFFFFF);
+        PlaceBehindBox(*edit);
+        Watch(*edit);
+        connect(edit, &QLineEdit::textEdited, this,
+                [this](const QString &text) { Hand([&] { box.UserEdits(text); }); });
+    }
+}
+
+void ComboFace::Show()
+{
+    QLineEdit *edit = View().lineEdit();
+    if (!edit) {
+        ChoiceFace::Show();
+        return;
+    }
+    const int cursor = edit->cursorPosition();
+    const int selectedFrom = edit->selectionStart();
+    const int selectedLength = edit->selectionLength();
+    const QString before = edit->text();
+    ChoiceFace::Show();
+    if (edit->text() != box.Text())
+        edit->setText(box.Text());
+    if (box.Text() != before)
+        return;
+    // The entries changed around a text that stayed: so do the cursor and the selection.
+    if (selectedFrom >= 0)
+        edit->setSelection(selectedFrom, selectedLength);
+    else
+        edit->setCursorPosition(cursor);
+}
+
+} // namespace tressel

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "faces/Face.h"
+
+#include "faces/DroppedPaths.h"
+
+#include <QDropEvent>
+#include <QHelpEvent>
+#include <QMimeData>
+#include <QScopedValueRollback>
+#include <QTextDocument>
+#include <QToolTip>
+
+namespace tressel {
+
+Face::Face(Control &shownControl, QWidget &showingWidget)
+    : QObject(&showingWidget)
+    , control(shownControl)
+    , widget(showingWidget)
+{
+    Watch(widget);
+}
+
+void Face::TakeOver()
+{
+    const QScopedValueRollback guard(showing, true);
+    widget.setEnabled(control.IsEnabled());
+    if (widget.toolTip() != control.ToolTip())
+        widget.setToolTip(control.ToolTip());
+    for (const QPointer<QWidget> &part : std::as_const(parts)) {
+        if (part)
+            part->setAcceptDrops(control.TakesDrops());
+    }
+    Show();
+    ShowVisible(control.IsVisible());
+}
+
+void Face::TakeFocus()
+{
+    widget.setFocus(Qt::OtherFocusReason);
+}
+
+void Face::ShowVisible(bool visible)
+{
+    // A widget that nobody hid comes up with its window, though it isn't visible before.
+    const bool hidden =
+        widget.testAttribute(Qt::WA_WState_ExplicitShowHide) && widget.testAttribute(Qt::WA_WState_Hidden);
+    if (hidden == visible)
+        widget.setVisible(visible);
+}
+
+void Face::Watch(QWidget &part)
+{
+    parts.append(&part);
+    part.installEventFilter(this);
+}
+
+bool Face::eventFilter(QObject *, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+        return control.TakesDrops() && FilterDrop(event);
+    case QEvent::ToolTip:
+        return FilterToolTip(event);
+    default:
+        return false;
+    }
+}
+
+bool Face::FilterDrop(QEvent *event)
+{
+    auto *drop = static_cast<QDropEvent *>(event);
+    const QStringList paths = DroppedPaths(*drop->mimeData());
+    if (paths.isEmpty())
+        return false;
+    drop->acceptProposedAction();
+    if (event->type() == QEvent::Drop)
+        Hand([&] { control.UserDrops(paths); });
+    return true;
+}
+
+bool Face::FilterToolTip(QEvent *event)
+{
+    // A name may look like marked-up text; it is shown as it stands.
+    const QString text = control.ToolTip();
+    if (!Qt::mightBeRichText(text))
+        return false;
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
+                       QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped()), &widget);
+    return true;
+}
+
+} // namespace tressel

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "faces/FaceMakers.h"
+
+#include "controls/DriveList.h"
+#include "faces/ButtonFace.h"
+#include "faces/CheckBoxFace.h"
+#include "faces/ComboFace.h"
+#include "faces/FrameFace.h"
+#include "faces/LabelFace.h"
+#include "faces/ListFace.h"
+#include "faces/OptionFace.h"
+#include "faces/ProgressFace.h"
+#include "faces/TextFace.h"
+
+#include <ranges>
+
+namespace tressel {
+
+FaceMakers::FaceMakers(const FaceIcons &icons)
+{
+    Add<Frame, QWidget, FrameFace>();
+    Add<Label, QLabel, LabelFace>();
+    Add<TextBox, QLineEdit, LineFace>();
+    Add<TextBox, QPlainTextEdit, LinesFace>();
+    Add<CheckBox, QCheckBox, CheckBoxFace>();
+    Add<OptionButton, QRadioButton, OptionFace>();
+    Add<ListBox, QListView, ListFace>();
+    Add<FolderList, QListView, FolderFace>(icons.folder);
+    Add<DriveList, QComboBox, ChoiceFace>();
+    Add<ComboBox, QComboBox, ComboFace>();
+    Add<TreeView, QTreeView, TreeFace>(icons.nodes);
+    Add<ProgressBar, QProgressBar, ProgressFace>();
+    Add<IsButton, QAbstractButton, ButtonFace>();
+}
+
+Face *FaceMakers::Make(Control &control, QWidget &widget) const
+{
+    for (const Maker &maker : std::views::reverse(makers)) {
+        if (Face *face = maker(control, widget))
+            return face;
+    }
+    return nullptr;
+}
+
+} // namespace tressel

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "controls/Frame.h"
+#include "faces/Face.h"
+
+namespace tressel {
+
+/// A frame shown by any holder of widgets; the caption is seen where the holder is a QGroupBox. Where it
+/// is a page of a QStackedWidget, showing it makes it the page on top.
+class FrameFace : public Face {
+public:
+    FrameFace(Frame &control, QWidget &widget);
+
+protected:
+    void Show() override;
+    void ShowVisible(bool visible) override;
+
+private:
+    Frame &frame;
+};
+
+} // namespace tressel

@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "faces/ListFace.h"
+
+#include "faces/FolderRows.h"
+#include "faces/Keys.h"
+
+#include <QMouseEvent>
+#include <QScrollBar>
+
+#include <utility>
+
+namespace tressel {
+
+RowsFace::RowsFace(ItemList &control, QListView &widget, std::unique_ptr<ItemModel> rows)
+    : Face(control, widget)
+    , list(control)
+    , view(widget)
+    , model(std::move(rows))
+{
+    view.setModel(model.get());
+    // Thousands of rows are laid out at once only if none is measured.
+    view.setUniformItemSizes(true);
+    view.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view.setSelectionMode(QAbstractItemView::SingleSelection);
+    Watch(*view.viewport());
+
+    connect(model.get(), &ItemModel::modelReset, this, [this] { wasReset = true; });
+    connect(view.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this](const QItemSelection &selected) {
+                if (!selected.isEmpty())
+                    ChooseRow(selected.indexes().constFirst().row());
+            });
+    connect(&view, &QListView::clicked, this, [this](const QModelIndex &index) {
+        if (chosen != index.row())
+            ChooseRow(index.row());
+    });
+    connect(&view, &QListView::doubleClicked, this, [this](const QModelIndex &index) {
+        const int row = index.row();
+        Hand([&] { OpenRow(row); });
+    });
+}
+
+void RowsFace::Show()
+{
+    const int scrolledTo = view.verticalScrollBar()->value();
+    model->Publish(list.Items());
+    ShowSelection();
+    if (std::exchange(wasReset, false))
+        AfterReset(scrolledTo);
+}
+
+void RowsFace::AfterReset(int scrolledTo)
+{
+    if (scrolledTo == 0)
+        return;
+    view.doItemsLayout();
+    view.verticalScrollBar()->setValue(scrolledTo);
+}
+
+void RowsFace::ShowSelection()
+{
+    QItemSelectionModel &selection = *view.selectionModel();
+    const QModelIndex wanted = model->index(list.ListIndex());
+    if (!wanted.isValid())
+        selection.clearSelection();
+    else if (!selection.isSelected(wanted) || selection.currentIndex() != wanted)
+        selection.setCurrentIndex(wanted, QItemSelectionModel::ClearAndSelect);
+}
+
+void RowsFace::ChooseRow(int row)
+{
+    Hand([&] {
+        chosen = row;
+        list.UserSelects(row);
+    });
+}
+
+bool RowsFace::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonPress)
+        chosen = -1;
+    if (watched == &view && IsEnter(*event) && view.currentIndex().isValid()) {
+        const int row = view.currentIndex().row();
+        Hand([&] { OpenRow(row); });
+        return true;
+    }
+    return Face::eventFilter(watched, event);
+}
+
+ListFace::ListFace(ListBox &control, QListView &widget)
+    : RowsFace(control, widget, std::make_unique<ItemModel>())
+    , list(control)
+{
+    widget.viewport()->setMouseTracking(true);
+}
+
+bool ListFace::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == View().viewport() && event->type() == QEvent::MouseMove) {
+        const int row = View().indexAt(static_cast<QMouseEvent *>(event)->position().toPoint()).row();
+        if (std::exchange(pointedAt, row) != row)
+            Hand([&] { list.UserPointsAt(row); });
+    } else if (watched == View().viewport() && event->type() == QEvent::Leave) {
+        pointedAt = -1;
+    }
+    return RowsFace::eventFilter(watched, event);
+}
+
+void ListFace::OpenRow(int row)
+{
+    list.UserActivates(row);
+}
+
+FolderFace::FolderFace(FolderList &control, QListView &widget, const QIcon &icon)
+    : RowsFace(control, widget, std::make_unique<FolderRows>(icon))
+    , list(control)
+{
+    widget.setItemDelegate(new FolderRowPainter(this));
+}
+
+void FolderFace::Show()
+{
+    QList<int> depths;
+    for (int row = 0; row < list.ListCount(); ++row)
+        depths += list.Depth(row);
+    static_cast<FolderRows &>(Rows()).SetDepths(depths);
+    RowsFace::Show();
+}
+
+void FolderFace::OpenRow(int row)
+{
+    list.UserActivates(row);
+}
+
+void FolderFace::AfterReset(int)
+{
+    if (list.PresentRow() < list.ListCount())
+        View().scrollTo(Rows().index(list.PresentRow()));
+}
+
+} // namespace tressel

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "controls/FolderList.h"
+#include "controls/ItemModel.h"
+#include "controls/ListBox.h"
+#include "faces/Face.h"
+
+#include <QIcon>
+#include <QListView>
+
+#include <memory>
+
+namespace tressel {
+
+/// What the faces of list boxes share: rows of one height in a QListView, the selected one, and the
+/// user's choosing and opening of a row.
+class RowsFace : public Face {
+public:
+    RowsFace(ItemList &control, QListView &widget, std::unique_ptr<ItemModel> rows);
+
+protected:
+    void Show() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+    /// The user opened a row: a double click or Enter.
+    virtual void OpenRow(int row) = 0;
+    /// Called when other rows were shown in place of all, once the selection stands.
+    virtual void AfterReset(int scrolledTo);
+
+    QListView &View() const { return view; }
+    ItemModel &Rows() const { return *model; }
+
+private:
+    void ShowSelection();
+    void ChooseRow(int row);
+
+    ItemList &list;
+    QListView &view;
+    std::unique_ptr<ItemModel> model;
+    bool wasReset = false;
+    int chosen = -1; ///< the row that was handed on since the mouse button went down
+};
+
+/// A list box, or a file list.
+class ListFace : public RowsFace {
+public:
+    ListFace(ListBox &control, QListView &widget);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void OpenRow(int row) override;
+
+private:
+    ListBox &list;
+    int pointedAt = -1;
+};
+
+/// A folder list: its rows are indented by their depth and bear a folder.
+class FolderFace : public RowsFace {
+public:
+    FolderFace(FolderList &control, QListView &widget, const QIcon &icon);
+
+protected:
+    void Show() override;
+    void OpenRow(int row) override;
+    void AfterReset(int scrolledTo) override;
+
+private:
+    FolderList &list;
+};
+
+} // namespace tressel

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "faces/OptionFace.h"
+
+namespace tressel {
+
+OptionFace::OptionFace(OptionButton &control, QRadioButton &widget)
+    : Face(control, widget)
+    , option(control)
+    , view(widget)
+    , group(WidgetGroup())
+{
+    group.addButton(&view);
+    connect(&view, &QRadioButton::toggled, this, [this](bool on) {
+        if (on)
+            Hand([this] { option.UserSelects(); });
+    });
+}
+
+void OptionFace::Show()
+{
+    if (view.text() != option.Caption())
+        view.setText(option.Caption());
+    if (view.isChecked() == option.IsSelected())
+        return;
+    // An exclusive group takes no selection away without another in its place.
+    group.setExclusive(false);
+    view.setChecked(option.IsSelected());
+    group.setExclusive(true);
+}
+
+QButtonGroup &OptionFace::WidgetGroup() const
+{
+    QWidget *window = view.window();
+    for (int index = 0; index < option.Group().Count(); ++index) {
+        const auto *sibling = window->findChild<QRadioButton *>(option.Group().Button(index).Name());
+        if (sibling && sibling->group())
+            return *sibling->group();
+    }
+    return *new QButtonGroup(window);
+}
+
+} // namespace tressel

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "controls/TreeModel.h"
+#include "controls/TreeView.h"
+#include "faces/Face.h"
+
+#include <QHash>
+#include <QIcon>
+#include <QTreeView>
+
+namespace tressel {
+
+/// Pictures of the nodes of trees, by the numbers that the nodes bear.
+using NodeIcons = QHash<int, QIcon>;
+
+/// A tree shown by a QTreeView without a header, its rows of one height. A click on a node, or Enter, is
+/// the control's click; opening and closing a node is the user's own affair, which the control notes.
+class TreeFace : public Face {
+public:
+    TreeFace(TreeView &control, QTreeView &widget, const NodeIcons &icons);
+
+protected:
+    void Show() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void ShowExpanded(const QModelIndex &parent);
+    void NoteExpanded(const QModelIndex &index, bool isExpanded);
+
+    TreeView &tree;
+    QTreeView &view;
+    TreeModel model;
+};
+
+} // namespace tressel

@@ -1,0 +1,174 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "faces/WindowFace.h"
+
+#include "faces/FaceUpdates.h"
+#include "faces/Twips.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QScopedValueRollback>
+
+using namespace Qt::StringLiterals;
+
+namespace tressel {
+
+WindowFace::WindowFace(Form &shownForm, QWidget &showingWindow, const FaceMakers &makers, FaceUpdates &when,
+                       CloseBox closeBox)
+    : form(shownForm)
+    , window(showingWindow)
+    , updates(when)
+    , binder(shownForm, showingWindow, makers)
+{
+    if (closeBox == CloseBox::Off)
+        TakeCloseBoxOff();
+    if (form.Width() == 0 && form.Height() == 0)
+        form.SetSize(ToTwips(window.width()), ToTwips(window.height()));
+    window.installEventFilter(this);
+    updates.windows.append(this);
+    form.SetChangeListener([this] { updates.Schedule(); });
+}
+
+WindowFace::~WindowFace()
+{
+    form.SetChangeListener({});
+    updates.windows.removeOne(this);
+    if (updates.lastActive == this)
+        updates.lastActive = nullptr;
+}
+
+void WindowFace::Refresh()
+{
+    const QList<Control *> changed = form.TakeChanged();
+    for (Control *control : changed) {
+        if (Face *face = binder.FaceOf(*control))
+            face->TakeOver();
+    }
+    if (form.TakeFormChanged())
+        ShowForm();
+    if (const Control *focused = form.TakeFocused()) {
+        if (Face *face = binder.FaceOf(*focused))
+            face->TakeFocus();
+    }
+}
+
+void WindowFace::TakeCloseBoxOff()
+{
+    const Qt::WindowFlags flags = window.windowFlags() | Qt::CustomizeWindowHint | Qt::WindowTitleHint
+        | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint;
+    window.setWindowFlags(flags & ~Qt::WindowCloseButtonHint);
+    connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { UnloadForm(); });
+}
+
+void WindowFace::ShowForm()
+{
+    const QScopedValueRollback guard(showing, true);
+    // Qt puts a mark of its own in place of "[*]" in a title.
+    const QString title = QString(form.Caption()).replace(u"[*]"_s, u"[*][*]"_s);
+    if (window.windowTitle() != title)
+        window.setWindowTitle(title);
+    const bool wasShown = form.TakeShown();
+    if (!form.IsVisible()) {
+        window.hide();
+        return;
+    }
+    ShowGeometry();
+    ShowState();
+    if (wasShown)
+        BringToFront();
+}
+
+void WindowFace::ShowGeometry()
+{
+    if (form.State() != WindowState::Normal
+        || (window.windowState() & (Qt::WindowMaximized | Qt::WindowMinimized)))
+        return;
+    const QSize size(ToPixels(form.Width()), ToPixels(form.Height()));
+    if (window.size() != size)
+        window.resize(size);
+    if (form.Left() == shownLeft && form.Top() == shownTop)
+        return;
+    shownLeft = form.Left();
+    shownTop = form.Top();
+    window.move(ToPixels(shownLeft), ToPixels(shownTop));
+}
+
+void WindowFace::ShowState()
+{
+    const Qt::WindowStates others = window.windowState() & ~(Qt::WindowMaximized | Qt::WindowMinimized);
+    const Qt::WindowStates wanted = form.State() == WindowState::Maximised ? Qt::WindowMaximized
+        : form.State() == WindowState::Minimised                           ? Qt::WindowMinimized
+                                                                           : Qt::WindowNoState;
+    if (window.windowState() != (others | wanted))
+        window.setWindowState(others | wanted);
+}
+
+void WindowFace::BringToFront()
+{
+    // The form has raised Activate already; what the desktop says of it later is no news.
+    activationTold = !window.isActiveWindow();
+    if (window.isVisible())
+        window.raise();
+    else
+        window.show();
+    window.activateWindow();
+}
+
+bool WindowFace::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::Close:
+        UnloadForm();
+        // Other windows may come up as this one goes; they must be there before the last one is gone.
+        updates.Flush();
+        event->setAccepted(!form.IsVisible());
+        return true;
+    case QEvent::Resize:
+    case QEvent::Move:
+    case QEvent::WindowStateChange:
+        TellGeometry();
+        break;
+    case QEvent::WindowActivate:
+        TellActivation();
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void WindowFace::TellGeometry()
+{
+    if (!window.isVisible())
+        return;
+    const Qt::WindowStates states = window.windowState();
+    const WindowState state = states & Qt::WindowMinimized ? WindowState::Minimised
+        : states & Qt::WindowMaximized                     ? WindowState::Maximised
+                                                           : WindowState::Normal;
+    // Twips finer than a pixel stay as they are while the pixels are the same.
+    const auto told = [](int twips, int pixels) {
+        return ToPixels(twips) == pixels ? twips : ToTwips(pixels);
+    };
+    const int left = told(form.Left(), window.x());
+    const int top = told(form.Top(), window.y());
+    shownLeft = left;
+    shownTop = top;
+    form.TakeGeometry(left, top, told(form.Width(), window.width()), told(form.Height(), window.height()),
+                      state);
+}
+
+void WindowFace::TellActivation()
+{
+    const bool fromAnother = updates.lastActive && updates.lastActive != this;
+    updates.lastActive = this;
+    if (!std::exchange(activationTold, false) && fromAnother)
+        form.UserActivates();
+}
+
+void WindowFace::UnloadForm()
+{
+    form.Dispatch([this] { form.Unload(); });
+}
+
+} // namespace tressel

@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "controls/ComboBox.h"
+#include "controls/Frame.h"
+#include "controls/Label.h"
+#include "controls/TextBox.h"
+#include "gui/faces/Bound.h"
+
+#include <QComboBox>
+#include <QDialog>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollArea>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QTest>
+
+using namespace tressel;
+using namespace Qt::StringLiterals;
+
+class BinderTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void WholeWindowHasNoStrangers()
+    {
+        Form form(u"f"_s);
+        Frame frame(form, u"fraEst"_s);
+        TextBox box(form, u"txtPath"_s);
+        ComboBox combo(form, u"cboFrom"_s);
+        Bound bound(form);
+        auto &group = bound.Add<QGroupBox>(u"fraEst"_s);
+        auto *area = new QScrollArea(&group);
+        area->setObjectName(u"layoutScroll"_s);
+        auto *content = new QWidget;
+        content->setObjectName(u"layoutContent"_s);
+        auto *edit = new QLineEdit(content);
+        edit->setObjectName(u"txtPath"_s);
+        area->setWidget(content);
+        auto &tabs = bound.Add<QTabWidget>(u"layoutTabs"_s);
+        auto *page = new QComboBox;
+        page->setObjectName(u"cboFrom"_s);
+        page->setEditable(true);
+        tabs.addTab(page, u"one"_s);
+        bound.Bind();
+
+        QCOMPARE(bound.face->Faces().ControlsWithoutFace(), QStringList());
+        QCOMPARE(bound.face->Faces().WidgetsWithoutControl(), QStringList());
+        QCOMPARE(&bound.face->Faces().FaceOf(box)->Widget(), edit);
+    }
+
+    void ControlsWithoutAFaceAreListed()
+    {
+        Form form(u"f"_s);
+        TextBox seen(form, u"txtPath"_s);
+        TextBox unseen(form, u"txtstrSQL"_s);
+        Label wrongKind(form, u"lblTitle"_s);
+        Bound bound(form);
+        bound.Add<QLineEdit>(u"txtPath"_s);
+        bound.Add<QSpinBox>(u"lblTitle"_s);
+        bound.Bind();
+        QCOMPARE(bound.face->Faces().ControlsWithoutFace(), QStringList({u"txtstrSQL"_s, u"lblTitle"_s}));
+        QCOMPARE(bound.face->Faces().WidgetsWithoutControl(), QStringList({u"lblTitle"_s}));
+        QCOMPARE(bound.face->Faces().FaceOf(unseen), nullptr);
+    }
+
+    void WidgetsWithoutAControlAreListed()
+    {
+        Form form(u"f"_s);
+        TextBox box(form, u"txtPath"_s);
+        Bound bound(form);
+        bound.Add<QLineEdit>(u"txtPath"_s);
+        bound.Add<QLineEdit>(u"txtPath"_s);
+        bound.Add<QLabel>(u"lblPaht"_s);
+        bound.Add<QLabel>(QString());
+        auto &other = bound.Add<QDialog>(u"frmOther"_s);
+        auto *inside = new QLabel(&other);
+        inside->setObjectName(u"lblElsewhere"_s);
+        bound.Bind();
+        QCOMPARE(bound.face->Faces().WidgetsWithoutControl(), QStringList({u"txtPath"_s, u"lblPaht"_s}));
+    }
+
+    void TabOrderIsThatOfTheForm()
+    {
+        Form form(u"f"_s);
+        TextBox first(form, u"txtFirst"_s);
+        ComboBox second(form, u"cboSecond"_s);
+        TextBox third(form, u"txtThird"_s);
+        Bound bound(form);
+        bound.Add<QLineEdit>(u"txtThird"_s);
+        bound.Add<QComboBox>(u"cboSecond"_s);
+        auto &start = bound.Add<QLineEdit>(u"txtFirst"_s);
+        bound.Bind();
+        start.setFocus();
+        QStringList order;
+        for (int step = 0; step < 3; ++step) {
+            QWidget *focused = bound.window.focusWidget();
+            order += focused->objectName().isEmpty() ? focused->parentWidget()->objectName()
+                                                     : focused->objectName();
+            QTest::keyClick(focused, Qt::Key_Tab);
+        }
+        QCOMPARE(order, QStringList({u"txtFirst"_s, u"cboSecond"_s, u"txtThird"_s}));
+    }
+
+    void OwnKindsAreAskedFirst()
+    {
+        class Silent : public Face {
+        public:
+            Silent(Label &label, QLabel &widget)
+                : Face(label, widget)
+            {
+            }
+
+        protected:
+            void Show() override { }
+        };
+        Form form(u"f"_s);
+        Label label(form, u"lblTitle"_s, u"text"_s);
+        Bound bound(form);
+        bound.makers.Add<Label, QLabel, Silent>();
+        auto &widget = bound.Add<QLabel>(u"lblTitle"_s);
+        bound.Bind();
+        QCOMPARE(widget.text(), QString());
+        QVERIFY(dynamic_cast<Silent *>(bound.face->Faces().FaceOf(label)));
+    }
+};
+
+QTEST_MAIN(BinderTest)
+#include "BinderTest.moc"

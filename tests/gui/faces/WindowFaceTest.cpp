@@ -1,0 +1,196 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "controls/Label.h"
+#include "gui/faces/Bound.h"
+
+#include <QDialog>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QTest>
+
+using namespace tressel;
+using namespace Qt::StringLiterals;
+
+class WindowFaceTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void CaptionPlaceAndSizeAreShown()
+    {
+        Form form(u"frmMain"_s);
+        form.SetCaption(u"Tressel v5.1450 - saved to ... /a/[*]b"_s);
+        form.Move(1500, 750);
+        form.SetSize(8120, 6825);
+        Bound bound(form);
+        bound.Bind();
+        QVERIFY(bound.window.isVisible());
+        QCOMPARE(bound.window.windowTitle(), u"Tressel v5.1450 - saved to ... /a/[*][*]b"_s);
+        QCOMPARE(bound.window.pos(), QPoint(100, 50));
+        QCOMPARE(bound.window.size(), QSize(542, 455));
+        // Not rounded by having been shown.
+        QCOMPARE(form.Width(), 8120);
+        QCOMPARE(form.Height(), 6825);
+        QCOMPARE(form.Left(), 1500);
+
+        form.SetCaption(u"Option"_s);
+        form.Hide();
+        bound.updates.Flush();
+        QVERIFY(!bound.window.isVisible());
+        form.Show();
+        bound.updates.Flush();
+        QVERIFY(bound.window.isVisible());
+        QCOMPARE(bound.window.windowTitle(), u"Option"_s);
+        QCOMPARE(bound.window.pos(), QPoint(100, 50));
+    }
+
+    void TheUsersGeometryIsTold()
+    {
+        Form form(u"frmMain"_s);
+        form.SetSize(9000, 7500);
+        int resizes = 0;
+        form.Resize.Handle([&] { ++resizes; });
+        Bound bound(form);
+        bound.Bind();
+        bound.window.resize(700, 510);
+        bound.window.move(30, 40);
+        QTRY_COMPARE(form.Width(), 10500);
+        QCOMPARE(form.Height(), 7650);
+        QCOMPARE(form.Left(), 450);
+        QCOMPARE(form.Top(), 600);
+        QCOMPARE(resizes, 1);
+        bound.updates.Flush();
+        QCOMPARE(bound.window.size(), QSize(700, 510));
+        QCOMPARE(bound.window.pos(), QPoint(30, 40));
+    }
+
+    void AHandlerMayRefuseASize()
+    {
+        Form form(u"frmMain"_s);
+        form.SetSize(9000, 7500);
+        form.Resize.Handle([&] {
+            if (form.Width() < 8120)
+                form.SetSize(8120, form.Height());
+        });
+        Bound bound(form);
+        bound.Bind();
+        bound.window.resize(300, 500);
+        QTRY_COMPARE(bound.window.size(), QSize(542, 500));
+        QCOMPARE(form.Width(), 8120);
+    }
+
+    void AFormWithoutASizeTakesTheWindows()
+    {
+        Form form(u"frmTip"_s);
+        Bound bound(form);
+        bound.Bind();
+        QCOMPARE(form.Width(), 600 * 15);
+        QCOMPARE(form.Height(), 400 * 15);
+        QCOMPARE(bound.window.size(), QSize(600, 400));
+    }
+
+    void StatesGoBothWays()
+    {
+        Form form(u"frmMain"_s);
+        form.SetSize(9000, 7500);
+        Bound bound(form);
+        bound.Bind();
+        form.SetState(WindowState::Maximised);
+        bound.updates.Flush();
+        QTRY_VERIFY(bound.window.isMaximized());
+        bound.window.showNormal();
+        QTRY_COMPARE(form.State(), WindowState::Normal);
+        bound.window.showMinimized();
+        QTRY_COMPARE(form.State(), WindowState::Minimised);
+    }
+
+    void ClosingUnloadsTheForm()
+    {
+        Form form(u"frmTip"_s);
+        bool refuse = true;
+        form.Unloading.Handle([&](bool &refused) { refused = refuse; });
+        Bound bound(form);
+        bound.Bind();
+        QVERIFY(!bound.window.close());
+        QVERIFY(bound.window.isVisible());
+        QVERIFY(form.IsLoaded());
+        refuse = false;
+        QVERIFY(bound.window.close());
+        QVERIFY(!bound.window.isVisible());
+        QVERIFY(!form.IsLoaded());
+    }
+
+    void AWindowThatComesUpInsteadIsThereInTime()
+    {
+        Form tip(u"frmTip"_s);
+        Form main(u"frmMain"_s);
+        Bound bound(tip);
+        QWidget mainWindow;
+        WindowFace mainFace(main, mainWindow, bound.makers, bound.updates);
+        bound.Bind();
+        tip.Unloading.Handle([&](bool &) { main.Show(); });
+        bool lastClosed = false;
+        connect(qApp, &QGuiApplication::lastWindowClosed, this, [&] { lastClosed = true; });
+        QVERIFY(bound.window.close());
+        QVERIFY(mainWindow.isVisible());
+        QCoreApplication::processEvents();
+        QVERIFY(!lastClosed);
+    }
+
+    void MainWindowHasNoCloseBox()
+    {
+        Form form(u"frmMain"_s);
+        QWidget window;
+        FaceMakers makers;
+        FaceUpdates updates;
+        WindowFace face(form, window, makers, updates, CloseBox::Off);
+        QVERIFY(!(window.windowFlags() & Qt::WindowCloseButtonHint));
+        QVERIFY(window.windowFlags() & Qt::CustomizeWindowHint);
+        QVERIFY(window.windowFlags() & Qt::WindowMinMaxButtonsHint);
+
+        // A request from the outside still goes to the form.
+        int unloads = 0;
+        form.Unloading.Handle([&](bool &) { ++unloads; });
+        form.Show();
+        updates.Flush();
+        QVERIFY(window.close());
+        QCOMPARE(unloads, 1);
+    }
+
+    void TurningToAnotherFormActivatesIt()
+    {
+        Form first(u"frmMain"_s);
+        Form second(u"frmAbout"_s);
+        QStringList told;
+        first.Activate.Handle([&] { told += u"first"_s; });
+        second.Activate.Handle([&] { told += u"second"_s; });
+        Bound bound(first);
+        QWidget other;
+        WindowFace otherFace(second, other, bound.makers, bound.updates);
+        bound.Bind();
+        second.Show();
+        bound.updates.Flush();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        QCOMPARE(told, QStringList({u"first"_s, u"second"_s}));
+        bound.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&bound.window));
+        QCOMPARE(told, QStringList({u"first"_s, u"second"_s, u"first"_s}));
+    }
+
+    void AFailureInAHandlerGoesToTheFatalHandler()
+    {
+        Form form(u"frmMain"_s);
+        Label label(form, u"lblTitle"_s);
+        label.Click.Handle([] { throw Failure(FailureNumber::TypeMismatch); });
+        int fatal = 0;
+        form.SetFatalHandler([&](const Failure &failure) { fatal = static_cast<int>(failure.number); });
+        Bound bound(form);
+        auto &widget = bound.Add<QLabel>(u"lblTitle"_s);
+        bound.Bind();
+        QTest::mouseClick(&widget, Qt::LeftButton);
+        QCOMPARE(fatal, 13);
+    }
+};
+
+QTEST_MAIN(WindowFaceTest)
+#include "WindowFaceTest.moc"
