@@ -379,7 +379,8 @@ void IsButton::TakeSize(int widthTwips, int heightTwips)
 
 void IsButton::GiveUpTheme()
 {
-    if (own.style == ButtonStyle::SystemTheme)
+    // The theme in its own place would be given up again at each repaint.
+    if (own.style == ButtonStyle::SystemTheme && own.nonThemeStyle != ButtonStyle::SystemTheme)
         SetStyle(own.nonThemeStyle);
 }
 

@@ -402,6 +402,18 @@ TEST(IsButtonTheme, GivenUpTakesTheOtherStyleForGood)
     EXPECT_EQ(button.Style(), ButtonStyle::Pill);
 }
 
+TEST(IsButtonTheme, StaysWhereItIsItsOwnReplacement)
+{
+    Form form {u"frmTest"_s};
+    IsButton button {form, u"btnTest"_s};
+    button.SetNonThemeStyle(ButtonStyle::SystemTheme);
+    button.SetStyle(ButtonStyle::SystemTheme);
+    form.TakeChanged();
+    button.GiveUpTheme();
+    EXPECT_EQ(button.Style(), ButtonStyle::SystemTheme);
+    EXPECT_TRUE(form.TakeChanged().isEmpty());
+}
+
 TEST(IsButtonProperty, EachWritingIsToldAndRepaints)
 {
     Form form{u"frmTest"_s};

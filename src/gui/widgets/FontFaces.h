@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "controls/FontFace.h"
+
+#include <QFont>
+
+namespace tressel {
+
+QFont ToFont(const FontFace &face);
+FontFace ToFontFace(const QFont &font);
+
+} // namespace tressel

@@ -1,0 +1,374 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "widgets/IsButtonWidget.h"
+
+#include "widgets/ButtonAboutBox.h"
+#include "widgets/ButtonPainter.h"
+#include "widgets/ButtonToolTip.h"
+#include "widgets/FontFaces.h"
+#include "widgets/IsButtonAccessible.h"
+
+#include <QAccessible>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QShortcutEvent>
+#include <QStyle>
+
+#include <algorithm>
+
+namespace tressel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int leastPixels = 20;
+constexpr int twipsToPixel = 15;
+
+MouseButton ButtonOf(const QMouseEvent &event)
+{
+    switch (event.button()) {
+    case Qt::LeftButton:
+        return MouseButton::Left;
+    case Qt::RightButton:
+        return MouseButton::Right;
+    case Qt::MiddleButton:
+        return MouseButton::Middle;
+    default:
+        return MouseButton::None;
+    }
+}
+
+bool IsFreshSpace(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_Space && !event.isAutoRepeat()
+        && !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+}
+
+} // namespace
+
+IsButtonWidget::IsButtonWidget(QWidget *parent)
+    : QWidget(parent)
+{
+    InstallButtonAccess();
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_Hover);
+    setMinimumSize(leastPixels, leastPixels);
+    setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+    UseOwnControl();
+}
+
+IsButtonWidget::~IsButtonWidget() = default;
+
+void IsButtonWidget::UseOwnControl()
+{
+    ownForm = std::make_unique<Form>(u"own"_s);
+    ownControl = std::make_unique<IsButton>(*ownForm, u"isButton"_s);
+    control = ownControl.get();
+    control->AboutAsked.Handle([this] { ShowButtonAboutBox(*this); });
+    ownForm->SetChangeListener([this] {
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                if (ownForm) {
+                    ownForm->TakeChanged();
+                    TakeOver();
+                }
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+void IsButtonWidget::SetControl(IsButton *newControl)
+{
+    ownControl.reset();
+    ownForm.reset();
+    if (newControl) {
+        control = newControl;
+        control->AboutAsked.Handle([this] { ShowButtonAboutBox(*this); });
+    } else {
+        UseOwnControl();
+    }
+    control->TakeSize(width() * twipsToPixel, height() * twipsToPixel);
+    control->TakeFocus(hasFocus());
+    if (isVisible())
+        control->FaceShown();
+    TakeOver();
+}
+
+void IsButtonWidget::TakeOver()
+{
+    if (isEnabled() != control->IsEnabled())
+        setEnabled(control->IsEnabled());
+    if (control->Font() && ToFont(*control->Font()) != font())
+        setFont(ToFont(*control->Font()));
+    TakeShape();
+    TakeMnemonic();
+    TellAssistance();
+    updateGeometry();
+    update();
+}
+
+void IsButtonWidget::TakeShape()
+{
+    const QRegion shape = ShapeOf(*control);
+    if (shape.isEmpty())
+        clearMask();
+    else if (shape != mask())
+        setMask(shape);
+}
+
+void IsButtonWidget::TakeMnemonic()
+{
+    if (mnemonicOf == control->Caption())
+        return;
+    mnemonicOf = control->Caption();
+    releaseShortcut(shortcut);
+    shortcut = grabShortcut(QKeySequence::mnemonic(mnemonicOf));
+}
+
+void IsButtonWidget::TellAssistance()
+{
+    if (toldName != control->Caption()) {
+        toldName = control->Caption();
+        QAccessibleEvent changed(this, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&changed);
+    }
+    if (toldValue != control->Value()) {
+        toldValue = control->Value();
+        QAccessible::State state;
+        state.checked = true;
+        QAccessibleStateChangeEvent changed(this, state);
+        QAccessible::updateAccessibility(&changed);
+    }
+}
+
+QString IsButtonWidget::PlainCaption() const
+{
+    QString plain;
+    const QString &caption = control->Caption();
+    for (qsizetype place = 0; place < caption.size(); ++place) {
+        if (caption[place] == u'&' && ++place == caption.size())
+            break;
+        plain += caption[place];
+    }
+    return plain;
+}
+
+void IsButtonWidget::Press()
+{
+    const QPointer<IsButtonWidget> self(this);
+    control->UserClicks();
+    if (!self)
+        return;
+    if (!underMouse())
+        PointerLeft();
+    update();
+}
+
+QSize IsButtonWidget::sizeHint() const
+{
+    constexpr int around = 12;
+    constexpr int iconMargin = 5;
+    const QFontMetrics metrics(Font());
+    QSize size(metrics.horizontalAdvance(PlainCaption()) + 2 * around, metrics.height() + around);
+    if (!control->Icon().IsNone()) {
+        const int icon = control->IconSize() + 2 * iconMargin;
+        const bool above =
+            control->IconAlign() == IconPlace::Top || control->IconAlign() == IconPlace::Bottom;
+        size = above
+            ? QSize(std::max(size.width(), icon), control->IconSize() + iconMargin + metrics.height() + 6)
+            : QSize(size.width() + icon, std::max(size.height(), icon));
+    }
+    return size.expandedTo(minimumSize());
+}
+
+bool IsButtonWidget::event(QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::ToolTip:
+        if (tip)
+            tip->ShowAt(static_cast<QHelpEvent *>(event)->globalPos());
+        return true;
+    case QEvent::Shortcut: {
+        const auto *pressed = static_cast<QShortcutEvent *>(event);
+        if (pressed->shortcutId() != shortcut)
+            break;
+        setFocus(Qt::ShortcutFocusReason);
+        if (!pressed->isAmbiguous())
+            Press();
+        return true;
+    }
+    default:
+        break;
+    }
+    return QWidget::event(event);
+}
+
+void IsButtonWidget::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    const QTransform toScreen = painter.deviceTransform();
+    const QRectF place = toScreen.mapRect(QRectF(rect()));
+    const QPoint corner(qRound(place.left()), qRound(place.top()));
+
+    ButtonSurroundings around;
+    around.palette = palette();
+    around.font = font();
+    around.style = style();
+    around.widget = this;
+    around.scale = devicePixelRatioF();
+    around.screenSize = QSize(qRound(place.right()) - corner.x(), qRound(place.bottom()) - corner.y());
+    around.marksFocus = keyboardFocus;
+    around.underlinesMnemonic = style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) != 0;
+
+    // Pixel on pixel: the toolkit's own scaling would smear it where a place falls between two pixels.
+    painter.setWorldTransform(toScreen.inverted());
+    painter.drawImage(corner, DrawButton(*control, around));
+}
+
+void IsButtonWidget::resizeEvent(QResizeEvent *)
+{
+    control->TakeSize(width() * twipsToPixel, height() * twipsToPixel);
+    TakeShape();
+}
+
+void IsButtonWidget::showEvent(QShowEvent *)
+{
+    control->FaceShown();
+    TakeOver();
+}
+
+void IsButtonWidget::hideEvent(QHideEvent *)
+{
+    if (control->IsHovered())
+        PointerLeft();
+    control->FaceHidden();
+}
+
+void IsButtonWidget::changeEvent(QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::PaletteChange:
+    case QEvent::StyleChange:
+    case QEvent::FontChange:
+    case QEvent::EnabledChange:
+        updateGeometry();
+        update();
+        break;
+    default:
+        break;
+    }
+    QWidget::changeEvent(event);
+}
+
+void IsButtonWidget::PointerCame()
+{
+    const bool wasHovered = control->IsHovered();
+    const QPointer<IsButtonWidget> self(this);
+    control->UserMovesMouse();
+    if (!self || wasHovered || !control->IsHovered())
+        return;
+    tip = std::make_unique<ButtonToolTip>(*control, *this);
+    update();
+}
+
+void IsButtonWidget::PointerLeft()
+{
+    if (tip)
+        tip->hide();
+    const QPointer<IsButtonWidget> self(this);
+    control->UserLeaves();
+    if (self)
+        update();
+}
+
+void IsButtonWidget::enterEvent(QEnterEvent *)
+{
+    PointerCame();
+}
+
+void IsButtonWidget::leaveEvent(QEvent *)
+{
+    PointerLeft();
+}
+
+void IsButtonWidget::mouseMoveEvent(QMouseEvent *event)
+{
+    // While a mouse button is held the toolkit reports no leave, only moves.
+    if (rect().contains(event->position().toPoint()))
+        PointerCame();
+    else if (control->IsHovered())
+        PointerLeft();
+}
+
+void IsButtonWidget::mousePressEvent(QMouseEvent *event)
+{
+    if (tip)
+        tip->hide();
+    control->UserPressesMouse(ButtonOf(*event));
+    update();
+}
+
+void IsButtonWidget::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    control->UserDoubleClicks(ButtonOf(*event));
+    update();
+}
+
+void IsButtonWidget::mouseReleaseEvent(QMouseEvent *event)
+{
+    const QPointer<IsButtonWidget> self(this);
+    const bool inside = rect().contains(event->position().toPoint());
+    control->UserReleasesMouse(ButtonOf(*event));
+    if (inside)
+        control->UserEndsClick();
+    else
+        PointerLeft();
+    if (self)
+        update();
+}
+
+void IsButtonWidget::keyPressEvent(QKeyEvent *event)
+{
+    if (!IsFreshSpace(*event)) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    const QPointer<IsButtonWidget> self(this);
+    control->UserPressesSpace();
+    repaint();
+    control->UserTypesSpace();
+    if (self)
+        update();
+}
+
+void IsButtonWidget::keyReleaseEvent(QKeyEvent *event)
+{
+    if (!IsFreshSpace(*event)) {
+        QWidget::keyReleaseEvent(event);
+        return;
+    }
+    control->UserReleasesSpace();
+    update();
+}
+
+void IsButtonWidget::focusInEvent(QFocusEvent *event)
+{
+    keyboardFocus = event->reason() != Qt::MouseFocusReason;
+    control->TakeFocus(true);
+    update();
+}
+
+void IsButtonWidget::focusOutEvent(QFocusEvent *)
+{
+    keyboardFocus = false;
+    control->TakeFocus(false);
+    update();
+}
+
+} // namespace tressel

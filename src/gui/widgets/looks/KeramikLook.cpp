@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "widgets/looks/Look.h"
+
+namespace tressel {
+
+namespace {
+
+/// What a state adds to the face's colour in the two halves of the glaze.
+struct Glaze {
+    int top;
+    int aboveMiddle;
+    int belowMiddle;
+    int bottom;
+};
+
+Glaze GlazeOf(LookState state)
+{
+    switch (state) {
+    case LookState::Hover:
+        return {37, 5, 5, 37};
+    case LookState::Pressed:
+        return {-53, -32, -37, -21};
+    case LookState::Normal:
+    case LookState::Disabled:
+        break;
+    }
+    return {32, -21, -32, 5};
+}
+
+/// Glazed like a tile: a bright upper half, a darker middle, and a deep frame.
+class Keramik : public Look {
+public:
+    bool DrawFace(Canvas &canvas, const ButtonFace &face) const override
+    {
+        const int w = canvas.Width();
+        const int h = canvas.Height();
+        const QColor &base = face.back;
+        const Glaze glaze = GlazeOf(face.state);
+        const int middle = h / 2;
+        canvas.GradientFill(ShiftColor(base, glaze.top), ShiftColor(base, glaze.aboveMiddle), 0, -1, w - 1,
+                            middle);
+        canvas.GradientFill(ShiftColor(base, glaze.belowMiddle), ShiftColor(base, glaze.bottom), 0,
+                            middle - 1, w - 1, h - middle);
+        DrawEdges(canvas, base, face.state == LookState::Pressed);
+        const bool pale = face.state == LookState::Disabled;
+        canvas.RoundFrame(0, 0, w - 1, h - 1, cornerRadius, ShiftColor(base, pale ? -53 : -128));
+        canvas.RoundCorners(cornerRadius);
+        return true;
+    }
+    int Margin() const override { return 7; }
+    QRegion Shape(QSize size) const override { return OctagonShape(size); }
+
+private:
+    static void DrawEdges(Canvas &canvas, const QColor &base, bool pressed)
+    {
+        const int w = canvas.Width();
+        const int h = canvas.Height();
+        const QColor shine = ShiftColor(base, pressed ? -48 : 128);
+        const QColor shade = ShiftColor(base, pressed ? -53 : -48);
+        canvas.GradientColumn(shine, ShiftColor(base, -37), 1, 1, h - 2);
+        canvas.GradientColumn(ShiftColor(base, -21), shade, w - 2, 1, h - 2);
+        canvas.DrawLine(1, 1, w - 2, 1, shine);
+        canvas.DrawLine(1, h - 2, w - 2, h - 2, shade);
+    }
+
+    static constexpr qreal cornerRadius = 4.5;
+};
+
+} // namespace
+
+const Look &KeramikLook()
+{
+    static const Keramik look;
+    return look;
+}
+
+} // namespace tressel

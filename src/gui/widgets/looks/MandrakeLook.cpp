@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "widgets/looks/Look.h"
+
+namespace tressel {
+
+namespace {
+
+/// A soft slope between a light line above and dark ones below, in an eight-cornered frame.
+class Mandrake : public Look {
+public:
+    bool DrawFace(Canvas &canvas, const ButtonFace &face) const override
+    {
+        const int w = canvas.Width();
+        const int h = canvas.Height();
+        const QColor base = face.state == LookState::Hover ? ShiftColor(face.back, 21) : face.back;
+        const bool pressed = face.state == LookState::Pressed;
+        const QColor light = ShiftColor(base, 96);
+        const QColor dark = ShiftColor(base, -48);
+
+        canvas.FillBox(0, 0, w, h, base);
+        canvas.GradientFill(ShiftColor(base, pressed ? -15 : 15), ShiftColor(base, pressed ? 15 : -15), 2, 2,
+                            w - 3, h - 6);
+        canvas.DrawLine(1, h - 3, w - 2, h - 3, ShiftColor(base, -15));
+        canvas.DrawLine(1, 2, w - 2, 2, ShiftColor(base, pressed ? -15 : 21));
+        canvas.DrawLine(1, 1, 1, h - 2, pressed ? dark : light);
+        canvas.DrawLine(w - 2, 1, w - 2, h - 2, pressed ? light : dark);
+        canvas.DrawLine(1, 1, w - 2, 1, pressed ? dark : light);
+        canvas.DrawLine(1, h - 2, w - 2, h - 2, pressed ? light : dark);
+        const bool pale = face.state == LookState::Disabled;
+        canvas.RoundFrame(0, 0, w - 1, h - 1, cornerRadius, ShiftColor(face.back, pale ? -48 : -96));
+        canvas.RoundCorners(cornerRadius);
+        return true;
+    }
+    QRegion Shape(QSize size) const override { return OctagonShape(size); }
+
+private:
+    static constexpr qreal cornerRadius = 4;
+};
+
+} // namespace
+
+const Look &MandrakeLook()
+{
+    static const Mandrake look;
+    return look;
+}
+
+} // namespace tressel

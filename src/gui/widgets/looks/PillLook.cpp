@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "widgets/looks/Look.h"
+#include "widgets/looks/PillCorners.h"
+
+#include <algorithm>
+
+namespace tressel {
+
+namespace {
+
+const PillColours &ColoursOf(const ButtonFace &face)
+{
+    if (face.state == LookState::Pressed)
+        return pressedPill;
+    if (face.state == LookState::Hover || face.focused)
+        return hoverPill;
+    return normalPill;
+}
+
+/// The side on which a corner stands decides which part of it a small button cuts off.
+void DrawCorner(Canvas &canvas, const QImage &corner, bool atRight, bool atBottom)
+{
+    const QSize whole = canvas.OnScreen(QRect(0, 0, canvas.Width(), canvas.Height())).size();
+    const int w = std::min(corner.width(), atRight ? whole.width() / 2 : (whole.width() + 1) / 2);
+    const int h = std::min(corner.height(), atBottom ? whole.height() / 2 : (whole.height() + 1) / 2);
+    const QPoint target(atRight ? whole.width() - w : 0, atBottom ? whole.height() - h : 0);
+    const QPoint source(atRight ? corner.width() - w : 0, atBottom ? corner.height() - h : 0);
+    canvas.Painter().drawImage(target, corner, QRect(source, QSize(w, h)));
+}
+
+/// The pill: fixed colours in four corners that are pictures and four sides that stretch.
+class Pill : public Look {
+public:
+    bool DrawFace(Canvas &canvas, const ButtonFace &face) const override
+    {
+        const int w = canvas.Width();
+        const int h = canvas.Height();
+        const PillColours &colours = ColoursOf(face);
+        canvas.FillBox(18, 11, w - 34, h - 19, QColor(colours.body));
+        DrawSides(canvas, colours);
+        return true;
+    }
+    int Margin() const override { return 7; }
+    QRegion Shape(QSize size) const override
+    {
+        constexpr int diameter = 18;
+        const int w = size.width();
+        const int h = size.height();
+        if (w < diameter || h < diameter)
+            return QRegion(QRect(QPoint(), size), QRegion::Ellipse);
+        QRegion shape(0, diameter / 2, w, h - diameter);
+        shape += QRegion(diameter / 2, 0, w - diameter, h);
+        for (const int x : {0, w - diameter}) {
+            shape += QRegion(x, 0, diameter, diameter, QRegion::Ellipse);
+            shape += QRegion(x, h - diameter, diameter, diameter, QRegion::Ellipse);
+        }
+        return shape;
+    }
+    bool HasLightFace(const ButtonFace &) const override { return true; }
+    bool ShowsFocus() const override { return true; }
+
+private:
+    static void DrawSides(Canvas &canvas, const PillColours &colours)
+    {
+        const int w = canvas.Width();
+        const int h = canvas.Height();
+        const PillCorners &corners = CornersOf(colours, canvas.Scale());
+        DrawCorner(canvas, corners.topLeft, false, false);
+        DrawCorner(canvas, corners.topRight, true, false);
+        DrawCorner(canvas, corners.bottomLeft, false, true);
+        DrawCorner(canvas, corners.bottomRight, true, true);
+        for (int line = 0; line < 18; ++line)
+            canvas.DrawLine(line, 11, line, h - 10, QColor(colours.left[static_cast<std::size_t>(line)]));
+        for (int line = 0; line < 17; ++line)
+            canvas.DrawLine(w - 17 + line, 11, w - 17 + line, h - 10,
+                            QColor(colours.right[static_cast<std::size_t>(line)]));
+        for (int line = 0; line < 12; ++line)
+            canvas.DrawLine(17, line, w - 17, line, QColor(colours.top[static_cast<std::size_t>(line)]));
+        for (int line = 0; line < 12; ++line)
+            canvas.DrawLine(17, h - 11 + line, w - 17, h - 11 + line,
+                            QColor(colours.bottom[static_cast<std::size_t>(line)]));
+    }
+};
+
+} // namespace
+
+const Look &PillLook()
+{
+    static const Pill look;
+    return look;
+}
+
+} // namespace tressel
