@@ -67,7 +67,7 @@ void SideBar::SetTitleFont(const FontChoice &font)
     NoteLook();
 }
 
-void SideBar::SetTitleColor(quint32 colour)
+void SideBar::SetTitleColor(ColourNumber colour)
 {
     titleFont.colour = colour;
     NoteLook();
@@ -79,7 +79,7 @@ void SideBar::SetCaptionFont(const FontChoice &font)
     NoteLook();
 }
 
-void SideBar::SetCaptionColor(quint32 colour)
+void SideBar::SetCaptionColor(ColourNumber colour)
 {
     captionFont.colour = colour;
     NoteLook();
@@ -97,7 +97,7 @@ void SideBar::SetColors(const SideBarColours &palette)
     SetOutlookColors(true);
 }
 
-void SideBar::SetPageBackColor(quint32 colour)
+void SideBar::SetPageBackColor(ColourNumber colour)
 {
     pageBackColor = colour;
     NoteLook();

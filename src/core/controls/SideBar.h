@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "controls/Colours.h"
 #include "controls/Control.h"
 #include "controls/SideBarItems.h"
 #include "machine/Dialogs.h"
@@ -30,8 +31,7 @@ enum class SideBarColour {
     Hover, ///< ground of an entry under the mouse
 };
 
-/// Colour numbers, 0x00BBGGRR or a system colour's number with the high bit set.
-using SideBarColours = std::array<quint32, 11>;
+using SideBarColours = std::array<ColourNumber, 11>;
 
 /// The side bar: a header with the caption of the open entry, its page, and below that the strip of
 /// entries.
@@ -89,13 +89,13 @@ public:
     /// desktop's own.
     const FontChoice &TitleFont() const { return titleFont; }
     void SetTitleFont(const FontChoice &font);
-    quint32 TitleColor() const { return titleFont.colour; }
-    void SetTitleColor(quint32 colour);
+    ColourNumber TitleColor() const { return titleFont.colour; }
+    void SetTitleColor(ColourNumber colour);
     /// Font of the header; its colour is CaptionColor.
     const FontChoice &CaptionFont() const { return captionFont; }
     void SetCaptionFont(const FontChoice &font);
-    quint32 CaptionColor() const { return captionFont.colour; }
-    void SetCaptionColor(quint32 colour);
+    ColourNumber CaptionColor() const { return captionFont.colour; }
+    void SetCaptionColor(ColourNumber colour);
 
     /// False: the desktop's own colours. True: those of SetColors, or blue ones before its first call.
     bool OutlookColors() const { return outlookColors; }
@@ -104,8 +104,8 @@ public:
     const std::optional<SideBarColours> &Colors() const { return colours; }
     /// Takes a palette over and shows it: OutlookColors becomes true.
     void SetColors(const SideBarColours &palette);
-    quint32 PageBackColor() const { return pageBackColor; }
-    void SetPageBackColor(quint32 colour);
+    ColourNumber PageBackColor() const { return pageBackColor; }
+    void SetPageBackColor(ColourNumber colour);
 
     /// Whether the user has a menu to show and hide entries.
     bool ShowMenu() const { return showMenu; }
@@ -170,7 +170,7 @@ private:
     int LastFirst() const;
 
     static constexpr int allRows = std::numeric_limits<int>::max();
-    static constexpr quint32 lightPage = 0x00F5F5F5;
+    static constexpr ColourNumber lightPage = 0x00F5F5F5;
 
     SideBarItems items{*this};
     SideBarItem *selected = nullptr;
@@ -185,7 +185,7 @@ private:
     FontChoice captionFont;
     bool outlookColors = false;
     std::optional<SideBarColours> colours;
-    quint32 pageBackColor = lightPage;
+    ColourNumber pageBackColor = lightPage;
     bool showMenu = false;
     int pageWidth = 0;
     int pageHeight = 0;

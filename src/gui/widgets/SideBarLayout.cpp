@@ -8,6 +8,13 @@
 
 namespace tressel {
 
+namespace {
+
+/// A page of this height leaves any more to the rows.
+constexpr int comfortablePage = 320;
+
+} // namespace
+
 SideBarLayout::SideBarLayout(const QSize &size, const SideBarHeights &heights, const SideBarView &view)
     : rowHeight(heights.row)
     , shownCount(static_cast<int>(view.Shown().size()))
@@ -39,7 +46,9 @@ SideBarLayout::SideBarLayout(const QSize &size, const SideBarHeights &heights, c
 
 void SideBarLayout::PlaceBar(const SideBarView &view)
 {
-    int room = bar.width();
+    // So the first small icon stands below the icons of the rows.
+    constexpr int indent = 4;
+    int room = bar.width() - indent;
     if (view.canScrollUp || view.canScrollDown) {
         constexpr int scrollWidth = 22;
         scrollDown = QRect(bar.right() + 1 - scrollWidth, bar.top(), scrollWidth, rowHeight);
@@ -48,7 +57,7 @@ void SideBarLayout::PlaceBar(const SideBarView &view)
     }
     const auto count = static_cast<int>(view.rest.size());
     const int cell = std::min(rowHeight + 6, std::max(room, 0) / count);
-    QRect place(bar.left(), bar.top(), cell, rowHeight);
+    QRect place(bar.left() + indent, bar.top(), cell, rowHeight);
     for (const int number : view.rest) {
         entries.insert(number, place);
         place.translate(cell, 0);
@@ -70,7 +79,7 @@ void SideBarLayout::Mirror(int width)
 int SideBarLayout::Room(int height, const SideBarHeights &heights, int shownCount, int pageMinimum)
 {
     const int shared = height - 2 * border - heights.header - gripHeight;
-    const int forPage = std::max(pageMinimum, static_cast<int>(std::lround(shared * 2 / 3.0)));
+    const int forPage = std::max(pageMinimum, std::min(shared * 2 / 3, comfortablePage));
     const int stripRows = std::max(shared - forPage, 0) / heights.row;
     return stripRows >= shownCount ? shownCount : std::max(stripRows - 1, 0);
 }

@@ -28,9 +28,9 @@ struct SideBarHeights {
 /// Where everything is in a side bar of a given size. From the top: header, page, grip, rows, and the
 /// bar of small icons if there is an entry that no row shows.
 ///
-/// The page has the first claim on the height: the rows get what is left when it has two thirds and at
-/// least its own minimum. The bar is always there when it is needed, so that every entry can be reached
-/// in a side bar of any size.
+/// The page has the first claim on the height: the rows get what is left when it has two thirds, or as
+/// much as is comfortable if that is less, and at least its own minimum. The bar is always there when it is
+/// needed, so that every entry can be reached in a side bar of any size.
 class SideBarLayout {
 public:
     SideBarLayout() = default;

@@ -26,8 +26,9 @@ double Luminance(const QColor &colour)
 /// Contrast ratio after WCAG 2.1, 1 to 21.
 double Contrast(const QColor &one, const QColor &other)
 {
-    const auto [darker, lighter] = std::minmax(Luminance(one), Luminance(other));
-    return (lighter + 0.05) / (darker + 0.05);
+    const double first = Luminance(one);
+    const double second = Luminance(other);
+    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
 }
 
 QFont FontOf(const FontChoice &choice, QFont font)
@@ -70,8 +71,10 @@ constexpr std::array<QRgb, 11> blue{0xC9DDF4, 0x7B9CC4, 0xF3F8FE, 0x7391B5, 0xCB
 
 } // namespace
 
-QColor PlainColour(quint32 number)
+QColor PlainColour(ColourNumber number, const QPalette &)
 {
+    if (IsSystemColour(number))
+        return {};
     return QColor(static_cast<int>(number & 0xFF), static_cast<int>(number >> 8 & 0xFF),
                   static_cast<int>(number >> 16 & 0xFF));
 }
@@ -89,13 +92,14 @@ SideBarLook::SideBarLook(const SideBar &bar, const QPalette &desktop, const QFon
                          const ColourReader &reader)
     : titleFont(FontOf(bar.TitleFont(), base))
     , captionFont(FontOf(bar.CaptionFont(), base))
-    , title(reader(bar.TitleColor()))
-    , caption(reader(bar.CaptionColor()))
+    , title(reader(bar.TitleColor(), desktop))
+    , caption(reader(bar.CaptionColor(), desktop))
 {
+    const auto read = [&](ColourNumber number) { return reader(number, desktop); };
     if (!bar.OutlookColors())
         colours = DesktopColours(desktop);
     else if (bar.Colors())
-        std::ranges::transform(*bar.Colors(), colours.begin(), reader);
+        std::ranges::transform(*bar.Colors(), colours.begin(), read);
     else
         std::ranges::transform(blue, colours.begin(), [](QRgb rgb) { return QColor(rgb); });
 }
@@ -118,8 +122,9 @@ QPalette SideBarLook::PagePalette(const QColor &ground, const QPalette &desktop)
 
 QColor SideBarLook::Readable(const QColor &wanted, const QColor &ground)
 {
-    constexpr double hardlyLegible = 2.0;
-    if (Contrast(wanted, ground) >= hardlyLegible)
+    // The least that WCAG 2.1 lets pass for large text.
+    constexpr double legible = 3.0;
+    if (Contrast(wanted, ground) >= legible)
         return wanted;
     return Contrast(Qt::black, ground) > Contrast(Qt::white, ground) ? Qt::black : Qt::white;
 }

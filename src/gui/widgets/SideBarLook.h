@@ -15,11 +15,11 @@
 
 namespace tressel {
 
-/// Gives the colour of a colour number.
-using ColourReader = std::function<QColor(quint32)>;
+/// Gives the colour that a number stands for in a desktop's palette.
+using ColourReader = std::function<QColor(ColourNumber, const QPalette &)>;
 
-/// The colour of a plain colour number, 0x00BBGGRR.
-QColor PlainColour(quint32 number);
+/// Reads plain numbers; a system colour's number gives an invalid colour.
+QColor PlainColour(ColourNumber number, const QPalette &desktop);
 
 /// Colours and fonts of a side bar, resolved for one desktop palette.
 class SideBarLook {

@@ -45,6 +45,11 @@ SideBarWidget::SideBarWidget(QWidget *parent)
 void SideBarWidget::SetControl(SideBar *sideBar)
 {
     control = sideBar;
+    view = {};
+    layout = {};
+    for (const HostedPage &page : std::as_const(pages))
+        page.widget->hide();
+    update();
     Refresh();
 }
 
@@ -84,7 +89,8 @@ void SideBarWidget::Arrange()
 {
     const SideBarHeights heights = look.Heights();
     // May run the form's layout, so that the control is read only afterwards.
-    control->TakeRoom(SideBarLayout::Room(height(), heights, control->ShownCount(), PageMinimum()));
+    pageMinimum = PageMinimum();
+    control->TakeRoom(SideBarLayout::Room(height(), heights, control->ShownCount(), pageMinimum));
     const SideBarView before = std::exchange(view, ViewOf(*control));
     layout = SideBarLayout(size(), heights, view);
     ApplyPagePalette();
@@ -97,7 +103,7 @@ void SideBarWidget::Arrange()
 
 void SideBarWidget::ApplyPagePalette()
 {
-    const QColor wanted = reader(control->PageBackColor());
+    const QColor wanted = reader(control->PageBackColor(), palette());
     if (wanted == pageGround)
         return;
     pageGround = wanted;
@@ -146,7 +152,7 @@ int SideBarWidget::PageMinimum() const
 {
     int least = 0;
     for (const HostedPage &page : pages)
-        least = std::max(least, page.widget->minimumSizeHint().height());
+        least = std::max({least, page.widget->minimumSizeHint().height(), page.widget->minimumHeight()});
     return least;
 }
 
@@ -206,6 +212,8 @@ bool SideBarWidget::eventFilter(QObject *watched, QEvent *event)
     // A widget isn't told that the mouse left it for a child.
     if (event->type() == QEvent::Enter)
         SetHover({});
+    else if (event->type() == QEvent::LayoutRequest && PageMinimum() != pageMinimum)
+        Refresh();
     return QWidget::eventFilter(watched, event);
 }
 
@@ -220,12 +228,20 @@ void SideBarWidget::changeEvent(QEvent *event)
 void SideBarWidget::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    Refresh();
+    // The form may answer a layout event with a new size, in the middle of arranging.
+    if (arranging)
+        QMetaObject::invokeMethod(this, &SideBarWidget::Refresh, Qt::QueuedConnection);
+    else
+        Refresh();
 }
 
 void SideBarWidget::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
+    if (layout.Header().isEmpty()) {
+        painter.fillRect(rect(), palette().window());
+        return;
+    }
     SideBarPainter(painter, view, layout, look, touch, icons).Paint(size(), pageGround);
 }
 

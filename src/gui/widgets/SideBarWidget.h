@@ -129,6 +129,7 @@ private:
     QColor pageGround;
     int gripOffset = 0;
     int wheelRest = 0;
+    int pageMinimum = 0; ///< as it was when the rows were counted last
     bool arranging = false;
 };
 

@@ -1,0 +1,647 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "widgets/SideBarStage.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QHelpEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QTest>
+#include <QToolTip>
+#include <QWheelEvent>
+
+#include <memory>
+
+using namespace tressel;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QStringList warnings;
+
+void NoteWarning(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    // Said by the platform without a display about every window that pops up.
+    const bool isPlatforms = message.startsWith(u"This plugin does not support"_s);
+    if (type != QtDebugMsg && type != QtInfoMsg && !isPlatforms)
+        warnings.append(message);
+}
+
+} // namespace
+
+class SideBarWidgetTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void ClickOpensAnEntryAndItsPage();
+    void ReleaseElsewhereOpensNothing();
+    void ClickOnASmallIconOpensWithoutMovingIt();
+    void TheWheelScrollsTheRows();
+    void ChevronsScrollByOneRow();
+    void ArrowsHomeAndEndOpenEntries();
+    void LeftAndRightAreMirrored();
+    void LettersOpenTheNextEntryThatStartsWithThem();
+    void ControlTabCyclesFromInsideAPage();
+    void KeysOfAPageAreNotTaken();
+    void ControlArrowsAndTheGripSetTheRows();
+    void TheFocusStaysWithTheSideBarWhenAPageGoes();
+    void FocusIsShownForKeysOnly();
+    void AssistantsSeeATabList();
+    void AssistantsCanOpenAndFocusAnEntry();
+    void HiddenEntriesHaveNoPlace();
+    void AllHiddenShowsNeitherCaptionNorPage();
+    void MirroringTurnsMarkAndIcons();
+    void AllEntriesHaveAPlaceOfTheirOwnAtAnySize_data();
+    void AllEntriesHaveAPlaceOfTheirOwnAtAnySize();
+    void TheLeastWindowLeavesThePageMostOfTheRoom();
+    void RedrawOffKeepsThePicture();
+    void ToldColoursAreAtTheirPlaces();
+    void UnreadableTextColoursGiveWay();
+    void PagesStayLightOnADarkDesktop();
+    void TheMenuShowsAndHidesEntries();
+    void WithoutShowMenuThereIsNoMenu();
+    void CutAndIconEntriesHaveToolTips();
+    void DisabledLooksDifferentAndTakesNoClicks();
+    void PropertiesTellTheState();
+    void UnknownFontsFallBack();
+    void ThePageRoomIsToldInTwips();
+    void ASizeSetByTheFormsAnswerIsTakenOver();
+    void AHigherPageTakesItsRoomFromTheRows();
+    void WithoutAControlItIsEmpty();
+
+private:
+    SideBar &Bar() { return stage->bar; }
+    SideBarWidget &Widget() { return stage->widget; }
+    QPoint Middle(int number) { return Widget().EntryRect(number).center(); }
+    void Click(const QPoint &point) { QTest::mouseClick(&Widget(), Qt::LeftButton, {}, point); }
+    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::keyClick(&Widget(), key, modifiers);
+    }
+    /// The cursor of a display without one may be anywhere, so the event comes straight to the widget.
+    void MoveMouse(const QPoint &point);
+    void Wheel(const QPoint &point, int delta);
+    QImage Picture() { return Widget().grab().toImage(); }
+    QAccessibleInterface *Tabs() { return QAccessible::queryAccessibleInterface(&Widget()); }
+    /// The numbers of the pages that are seen.
+    QList<int> ShownPages();
+
+    std::unique_ptr<SideBarStage> stage;
+};
+
+void SideBarWidgetTest::init()
+{
+    warnings.clear();
+    qInstallMessageHandler(NoteWarning);
+    stage = std::make_unique<SideBarStage>();
+    Widget().resize(340, 640);
+    Widget().show();
+    Widget().activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&Widget()));
+    Widget().setFocus(Qt::MouseFocusReason);
+    QCOMPARE(Widget().Rows(), 7);
+}
+
+void SideBarWidgetTest::cleanup()
+{
+    stage.reset();
+    qInstallMessageHandler(nullptr);
+    QVERIFY2(warnings.isEmpty(), qPrintable(warnings.join(u"|"_s)));
+}
+
+void SideBarWidgetTest::MoveMouse(const QPoint &point)
+{
+    QMouseEvent event(QEvent::MouseMove, point, Widget().mapToGlobal(point), Qt::NoButton, {}, {});
+    QApplication::sendEvent(&Widget(), &event);
+}
+
+void SideBarWidgetTest::Wheel(const QPoint &point, int delta)
+{
+    QWheelEvent event(point, Widget().mapToGlobal(point), {}, {0, delta}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&Widget(), &event);
+}
+
+QList<int> SideBarWidgetTest::ShownPages()
+{
+    QList<int> shown;
+    for (int number = 1; number <= 7; ++number) {
+        if (stage->pages.at(number - 1)->isVisible())
+            shown.append(number);
+    }
+    return shown;
+}
+
+void SideBarWidgetTest::ClickOpensAnEntryAndItsPage()
+{
+    QCOMPARE(ShownPages(), QList<int>{1});
+    Click(Middle(5));
+    QCOMPARE(stage->opened, QList<int>{5});
+    QCOMPARE(ShownPages(), QList<int>{5});
+    QCOMPARE(stage->pages.at(4)->geometry(), Widget().PageRect());
+    QCOMPARE(Widget().Caption(), u"Load from Database"_s);
+}
+
+void SideBarWidgetTest::ReleaseElsewhereOpensNothing()
+{
+    QTest::mousePress(&Widget(), Qt::LeftButton, {}, Middle(5));
+    QTest::mouseRelease(&Widget(), Qt::LeftButton, {}, Middle(6));
+    QTest::mouseClick(&Widget(), Qt::RightButton, {}, Middle(4));
+    QCOMPARE(stage->opened, QList<int>());
+    QCOMPARE(Widget().SelectedIndex(), 1);
+}
+
+void SideBarWidgetTest::ClickOnASmallIconOpensWithoutMovingIt()
+{
+    Bar().SetVisibleItems(2);
+    Widget().Refresh();
+    const QRect place = Widget().EntryRect(6);
+    QVERIFY(Widget().Places().Bar().contains(place));
+    Click(place.center());
+    QCOMPARE(stage->opened, QList<int>{6});
+    QCOMPARE(Widget().EntryRect(6), place);
+}
+
+void SideBarWidgetTest::TheWheelScrollsTheRows()
+{
+    Bar().SetVisibleItems(3);
+    Widget().Refresh();
+    Wheel(Middle(1), -120);
+    QCOMPARE(Widget().View().rows, (QList<int>{2, 3, 4}));
+    Wheel(Middle(2), -60);
+    QCOMPARE(Widget().View().rows, (QList<int>{2, 3, 4}));
+    Wheel(Middle(2), -60);
+    QCOMPARE(Widget().View().rows, (QList<int>{3, 4, 5}));
+    Wheel(Middle(3), 1200);
+    QCOMPARE(Widget().View().rows, (QList<int>{1, 2, 3}));
+    Wheel(Widget().Places().Header().center(), -120);
+    QCOMPARE(Widget().View().rows, (QList<int>{1, 2, 3}));
+    QCOMPARE(stage->opened, QList<int>());
+}
+
+void SideBarWidgetTest::ChevronsScrollByOneRow()
+{
+    Bar().SetVisibleItems(6);
+    Widget().Refresh();
+    Click(Widget().Places().ScrollUp().center());
+    QCOMPARE(Widget().View().rows.first(), 1);
+    Click(Widget().Places().ScrollDown().center());
+    QCOMPARE(Widget().View().rows.first(), 2);
+    Click(Widget().Places().ScrollUp().center());
+    QCOMPARE(Widget().View().rows.first(), 1);
+}
+
+void SideBarWidgetTest::ArrowsHomeAndEndOpenEntries()
+{
+    Bar().Items()[2].SetVisible(false);
+    Widget().Refresh();
+    Key(Qt::Key_Down);
+    Key(Qt::Key_Right);
+    Key(Qt::Key_End);
+    Key(Qt::Key_Down);
+    Key(Qt::Key_Up);
+    Key(Qt::Key_Left);
+    Key(Qt::Key_Home);
+    Key(Qt::Key_Up);
+    QCOMPARE(stage->opened, (QList<int>{3, 4, 7, 6, 5, 1}));
+    QCOMPARE(ShownPages(), QList<int>{1});
+}
+
+void SideBarWidgetTest::LeftAndRightAreMirrored()
+{
+    Bar().SetRightToLeft(true);
+    Widget().Refresh();
+    Key(Qt::Key_Left);
+    QCOMPARE(Widget().SelectedIndex(), 2);
+    Key(Qt::Key_Right);
+    QCOMPARE(Widget().SelectedIndex(), 1);
+}
+
+void SideBarWidgetTest::LettersOpenTheNextEntryThatStartsWithThem()
+{
+    Key(Qt::Key_F);
+    Key(Qt::Key_F, Qt::ShiftModifier);
+    Key(Qt::Key_X);
+    Key(Qt::Key_M, Qt::ControlModifier);
+    Key(Qt::Key_M);
+    QCOMPARE(stage->opened, (QList<int>{4, 7, 3}));
+}
+
+void SideBarWidgetTest::ControlTabCyclesFromInsideAPage()
+{
+    stage->fields.first()->setFocus();
+    QTest::keyClick(stage->fields.first(), Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(Widget().SelectedIndex(), 7);
+    stage->fields.last()->setFocus();
+    QTest::keyClick(stage->fields.last(), Qt::Key_Tab, Qt::ControlModifier);
+    QCOMPARE(Widget().SelectedIndex(), 1);
+    stage->fields.first()->setFocus();
+    QTest::keyClick(stage->fields.first(), Qt::Key_PageDown, Qt::ControlModifier);
+    QTest::keyClick(stage->fields.first(), Qt::Key_PageUp, Qt::ControlModifier);
+    QCOMPARE(stage->opened, (QList<int>{7, 1, 2, 1}));
+}
+
+void SideBarWidgetTest::KeysOfAPageAreNotTaken()
+{
+    stage->fields.first()->setFocus();
+    for (const auto key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_F})
+        QTest::keyClick(stage->fields.first(), key);
+    QCOMPARE(stage->opened, QList<int>());
+    QVERIFY(stage->fields.first()->text().endsWith(u'f'));
+}
+
+void SideBarWidgetTest::ControlArrowsAndTheGripSetTheRows()
+{
+    Key(Qt::Key_Down, Qt::ControlModifier);
+    QCOMPARE(Widget().Rows(), 6);
+    QCOMPARE(Widget().VisibleItems(), 6);
+    Key(Qt::Key_Up, Qt::ControlModifier);
+    QCOMPARE(Widget().Rows(), 7);
+    const QPoint grip = Widget().Places().Grip().center();
+    const int rowHeight = Widget().EntryRect(1).height();
+    QTest::mousePress(&Widget(), Qt::LeftButton, {}, grip);
+    MoveMouse(grip + QPoint(0, 3 * rowHeight));
+    QCOMPARE(Widget().Rows(), 3);
+    MoveMouse(grip + QPoint(0, 20 * rowHeight));
+    QCOMPARE(Widget().Rows(), 0);
+    MoveMouse(grip);
+    QTest::mouseRelease(&Widget(), Qt::LeftButton, {}, grip);
+    QCOMPARE(Widget().Rows(), 7);
+}
+
+void SideBarWidgetTest::TheFocusStaysWithTheSideBarWhenAPageGoes()
+{
+    stage->fields.first()->setFocus();
+    Click(Middle(3));
+    QCOMPARE(QApplication::focusWidget(), &Widget());
+    QVERIFY(stage->opened == QList<int>{3});
+    stage->fields.at(2)->setFocus();
+    Bar().Items()[6].SetSelected(true);
+    Widget().Refresh();
+    QCOMPARE(QApplication::focusWidget(), &Widget());
+}
+
+void SideBarWidgetTest::FocusIsShownForKeysOnly()
+{
+    const QImage clicked = Picture();
+    stage->fields.first()->setFocus();
+    Widget().setFocus(Qt::TabFocusReason);
+    const QImage tabbed = Picture();
+    QVERIFY(clicked.copy(Widget().EntryRect(1)) != tabbed.copy(Widget().EntryRect(1)));
+    QCOMPARE(clicked.copy(Widget().EntryRect(2)), tabbed.copy(Widget().EntryRect(2)));
+}
+
+void SideBarWidgetTest::AssistantsSeeATabList()
+{
+    Bar().Items()[3].SetVisible(false);
+    Widget().Refresh();
+    QAccessibleInterface *tabs = Tabs();
+    QVERIFY(tabs);
+    QCOMPARE(tabs->role(), QAccessible::PageTabList);
+    QCOMPARE(tabs->text(QAccessible::Name), u"Browse Files"_s);
+    const QStringList names{u"Browse Files"_s,      u"Get Text, File List, Safe Erase"_s,
+                            u"File Splitter"_s,     u"Load from Database"_s,
+                            u"Empty Dir Remover"_s, u"Filerename Utility"_s};
+    QVERIFY(tabs->childCount() > names.size());
+    for (int index = 0; index < names.size(); ++index) {
+        QAccessibleInterface *tab = tabs->child(index);
+        QCOMPARE(tab->role(), QAccessible::PageTab);
+        QCOMPARE(tab->text(QAccessible::Name), names.at(index));
+        QCOMPARE(tab->parent(), tabs);
+        QCOMPARE(tabs->indexOfChild(tab), index);
+        QCOMPARE(static_cast<bool>(tab->state().selected), index == 0);
+        QCOMPARE(static_cast<bool>(tab->state().focused), index == 0);
+        const QPoint middle = tab->rect().center();
+        QCOMPARE(tabs->childAt(middle.x(), middle.y()), tab);
+    }
+    QCOMPARE(tabs->focusChild(), tabs->child(0));
+    QAccessibleInterface *page = tabs->child(6);
+    QCOMPARE(page->object(), stage->pages.first());
+    QCOMPARE(tabs->indexOfChild(page), 6);
+    QVERIFY(!tabs->child(tabs->childCount()));
+}
+
+void SideBarWidgetTest::AssistantsCanOpenAndFocusAnEntry()
+{
+    stage->fields.first()->setFocus();
+    QAccessibleInterface *tab = Tabs()->child(4);
+    QAccessibleActionInterface *actions = tab->actionInterface();
+    QVERIFY(actions);
+    QVERIFY(actions->actionNames().contains(QAccessibleActionInterface::pressAction()));
+    actions->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(stage->opened, QList<int>{5});
+    QVERIFY(tab->state().selected);
+    actions->doAction(QAccessibleActionInterface::setFocusAction());
+    QVERIFY(tab->state().focused);
+    Bar().Items()[5].SetVisible(false);
+    Widget().Refresh();
+    QVERIFY(!tab->isValid());
+    actions->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(Widget().SelectedIndex(), 6);
+}
+
+void SideBarWidgetTest::HiddenEntriesHaveNoPlace()
+{
+    const QRect second = Widget().EntryRect(2);
+    Bar().Items()[1].SetVisible(false);
+    Bar().Items()[4].SetVisible(false);
+    Widget().Refresh();
+    QVERIFY(Widget().EntryRect(1).isEmpty());
+    QVERIFY(Widget().EntryRect(4).isEmpty());
+    QVERIFY(Widget().EntryRect(8).isEmpty());
+    QVERIFY(Widget().EntryRect(2).top() > second.top());
+    QCOMPARE(Widget().Rows(), 5);
+    QCOMPARE(ShownPages(), QList<int>{2});
+}
+
+void SideBarWidgetTest::AllHiddenShowsNeitherCaptionNorPage()
+{
+    for (int number = 1; number <= 7; ++number)
+        Bar().Items()[number].SetVisible(false);
+    Widget().Refresh();
+    Picture();
+    QCOMPARE(Widget().Caption(), QString());
+    QCOMPARE(ShownPages(), QList<int>());
+    QCOMPARE(Widget().SelectedIndex(), 0);
+    QVERIFY(Widget().Places().Strip().isEmpty());
+}
+
+void SideBarWidgetTest::MirroringTurnsMarkAndIcons()
+{
+    Bar().SetColors(SideBarStage::FirstPalette());
+    Bar().SetVisibleItems(3);
+    Widget().Refresh();
+    const QColor mark = Widget().Look().Colour(SideBarColour::OpenMark);
+    const QRect row = Widget().EntryRect(1);
+    const QPoint left(row.left() + 1, row.center().y());
+    const QPoint right(row.right() - 1, row.center().y());
+    QCOMPARE(Picture().pixelColor(left), mark);
+    QVERIFY(Picture().pixelColor(right) != mark);
+    QVERIFY(Widget().EntryRect(4).center().x() < Widget().width() / 2);
+    Bar().SetRightToLeft(true);
+    Widget().Refresh();
+    QCOMPARE(Picture().pixelColor(right), mark);
+    QVERIFY(Picture().pixelColor(left) != mark);
+    QVERIFY(Widget().EntryRect(4).center().x() > Widget().width() / 2);
+    QVERIFY(Widget().EntryRect(5).right() < Widget().EntryRect(4).left());
+}
+
+void SideBarWidgetTest::AllEntriesHaveAPlaceOfTheirOwnAtAnySize_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("wanted");
+    for (const QSize &size : {QSize(340, 296), QSize(340, 365), QSize(140, 150), QSize(900, 900)}) {
+        for (const int wanted : {0, 1, 3, 11})
+            QTest::addRow("%dx%d, %d rows", size.width(), size.height(), wanted) << size << wanted;
+    }
+}
+
+void SideBarWidgetTest::AllEntriesHaveAPlaceOfTheirOwnAtAnySize()
+{
+    QFETCH(QSize, size);
+    QFETCH(int, wanted);
+    Bar().SetVisibleItems(wanted);
+    Widget().setMinimumSize(0, 0);
+    Widget().resize(size);
+    Widget().Refresh();
+    QVERIFY(Widget().Rows() <= wanted);
+    QRegion taken;
+    for (int number = 1; number <= 7; ++number) {
+        const QRect place = Widget().EntryRect(number);
+        QVERIFY(place.width() >= 10 && place.height() >= 20);
+        QVERIFY(Widget().rect().contains(place));
+        QVERIFY(!taken.intersects(place));
+        taken += place;
+        Click(place.center());
+        QCOMPARE(Widget().SelectedIndex(), number);
+    }
+}
+
+void SideBarWidgetTest::TheLeastWindowLeavesThePageMostOfTheRoom()
+{
+    Widget().resize(340, 296);
+    QVERIFY2(Widget().PageRect().height() > 296 / 2,
+             qPrintable(QString::number(Widget().PageRect().height())));
+    stage->pages.at(6)->setMinimumHeight(230);
+    Widget().Refresh();
+    QCOMPARE(Widget().Rows(), 0);
+}
+
+void SideBarWidgetTest::RedrawOffKeepsThePicture()
+{
+    const QImage before = Picture();
+    Bar().SetRedraw(false);
+    Bar().Items().Clear();
+    Bar().Items().Add(u"new"_s, u"New one"_s);
+    Bar().SetColors({});
+    Widget().Refresh();
+    QCOMPARE(Picture(), before);
+    QCOMPARE(Widget().Count(), 7);
+    QCOMPARE(ShownPages(), QList<int>{1});
+    Bar().SetRedraw(true);
+    Widget().Refresh();
+    QCOMPARE(Widget().Count(), 1);
+    QCOMPARE(Widget().Caption(), u"New one"_s);
+    QCOMPARE(ShownPages(), QList<int>());
+}
+
+void SideBarWidgetTest::ToldColoursAreAtTheirPlaces()
+{
+    Bar().SetColors(SideBarStage::FirstPalette());
+    Bar().SetVisibleItems(3);
+    Widget().Refresh();
+    MoveMouse(Middle(2));
+    QTest::mousePress(&Widget(), Qt::LeftButton, {}, Middle(3));
+    MoveMouse(Middle(3));
+    QImage picture = Picture();
+    const SideBarLayout &places = Widget().Places();
+    const auto nearEnd = [](const QRect &rect) { return QPoint(rect.right() - 4, rect.center().y()); };
+    QCOMPARE(picture.pixelColor(0, 0), QColor(0x7B7B7B));
+    QCOMPARE(picture.pixelColor(nearEnd(places.Header())), QColor(0xDEDEDE));
+    QCOMPARE(picture.pixelColor(places.Header().topLeft()), QColor(0xFFFFFF));
+    QCOMPARE(picture.pixelColor(places.Header().bottomLeft()), QColor(0x8C8C8C));
+    QCOMPARE(picture.pixelColor(nearEnd(places.Grip())), QColor(0xDFDFDF));
+    QCOMPARE(picture.pixelColor(nearEnd(Widget().EntryRect(1))), QColor(0xFAE2B6));
+    QCOMPARE(picture.pixelColor(nearEnd(Widget().EntryRect(2))), QColor(0xFFFFFF));
+    QCOMPARE(picture.pixelColor(nearEnd(Widget().EntryRect(3))), QColor(0xF3B94D));
+    QTest::mouseRelease(&Widget(), Qt::LeftButton, {}, Middle(1));
+    MoveMouse(Middle(2));
+    QCOMPARE(Picture().pixelColor(nearEnd(Widget().EntryRect(2))), QColor(0xFAE2B6));
+    Bar().SetOutlookColors(false);
+    Widget().Refresh();
+    QCOMPARE(Picture().pixelColor(places.Bar().center()), Widget().palette().color(QPalette::Window));
+}
+
+void SideBarWidgetTest::UnreadableTextColoursGiveWay()
+{
+    Bar().SetTitleColor(0x0000FF);
+    Widget().Refresh();
+    QCOMPARE(Widget().Look().TitleOn(Qt::white), QColor(Qt::red));
+    Bar().SetTitleColor(0xFFFFFF);
+    Widget().Refresh();
+    QCOMPARE(Widget().Look().TitleOn(Qt::white), QColor(Qt::black));
+    Bar().SetCaptionColor(0);
+    Widget().Refresh();
+    QCOMPARE(Widget().Look().CaptionOn(QColor(0x202020)), QColor(Qt::white));
+}
+
+void SideBarWidgetTest::PagesStayLightOnADarkDesktop()
+{
+    Widget().setPalette(SideBarStage::DarkDesktop());
+    const QPalette palette = stage->pages.first()->palette();
+    QCOMPARE(palette.color(QPalette::Window), QColor(0xF5F5F5));
+    QVERIFY(palette.color(QPalette::WindowText).lightness() < 64);
+    QVERIFY(stage->fields.first()->palette().color(QPalette::Text).lightness() < 64);
+    QVERIFY(stage->fields.first()->palette().color(QPalette::Base).lightness() > 200);
+    QVERIFY(palette.color(QPalette::PlaceholderText).lightness() < 160);
+    const QPoint corner = Widget().PageRect().topLeft() + QPoint(2, 2);
+    QCOMPARE(Picture().pixelColor(corner), QColor(0xF5F5F5));
+    QVERIFY(Picture().pixelColor(Widget().EntryRect(3).bottomRight() - QPoint(4, 4)).lightness() < 80);
+}
+
+void SideBarWidgetTest::TheMenuShowsAndHidesEntries()
+{
+    Bar().SetShowMenu(true);
+    Widget().Refresh();
+    Click(Widget().Places().MenuButton().center());
+    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    QVERIFY(menu);
+    QCOMPARE(menu->actions().size(), 7);
+    QCOMPARE(menu->actions().at(1)->text(), u"Get Text, File List, Safe Erase"_s);
+    QVERIFY(menu->actions().at(1)->isChecked());
+    menu->actions().at(1)->trigger();
+    QVERIFY(!Bar().Items()[2].IsVisible());
+    QVERIFY(Widget().EntryRect(2).isEmpty());
+    menu->close();
+
+    QContextMenuEvent byKey(QContextMenuEvent::Keyboard, {}, {});
+    QApplication::sendEvent(&Widget(), &byKey);
+    menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    QVERIFY(menu);
+    QVERIFY(!menu->actions().at(1)->isChecked());
+    menu->actions().at(1)->trigger();
+    QVERIFY(Bar().Items()[2].IsVisible());
+    menu->close();
+    QCOMPARE(stage->opened, QList<int>());
+}
+
+void SideBarWidgetTest::WithoutShowMenuThereIsNoMenu()
+{
+    QVERIFY(Widget().Places().MenuButton().isEmpty());
+    QContextMenuEvent event(QContextMenuEvent::Mouse, Middle(2), Widget().mapToGlobal(Middle(2)));
+    QApplication::sendEvent(&Widget(), &event);
+    QVERIFY(!event.isAccepted());
+    QVERIFY(!QApplication::activePopupWidget());
+}
+
+void SideBarWidgetTest::CutAndIconEntriesHaveToolTips()
+{
+    Bar().SetVisibleItems(4);
+    Widget().resize(200, 640);
+    Widget().Refresh();
+    const auto tipAt = [this](int number) {
+        QHelpEvent event(QEvent::ToolTip, Middle(number), Widget().mapToGlobal(Middle(number)));
+        QApplication::sendEvent(&Widget(), &event);
+        return QToolTip::isVisible() ? QToolTip::text() : QString();
+    };
+    QCOMPARE(tipAt(1), QString());
+    QCOMPARE(tipAt(2), u"Get Text, File List, Safe Erase"_s);
+    QCOMPARE(tipAt(6), u"Empty Dir Remover"_s);
+    QToolTip::hideText();
+}
+
+void SideBarWidgetTest::DisabledLooksDifferentAndTakesNoClicks()
+{
+    const QImage enabled = Picture();
+    Bar().SetEnabled(false);
+    Widget().Refresh();
+    QVERIFY(Picture() != enabled);
+    Click(Middle(3));
+    QCOMPARE(stage->opened, QList<int>());
+    QVERIFY(Tabs()->child(0)->state().disabled);
+}
+
+void SideBarWidgetTest::PropertiesTellTheState()
+{
+    QCOMPARE(Widget().objectName(), u"EyeDropper1"_s);
+    QVERIFY(Widget().setProperty("SelectedIndex", 4));
+    QCOMPARE(stage->opened, QList<int>{4});
+    QCOMPARE(Widget().property("SelectedIndex").toInt(), 4);
+    QCOMPARE(Widget().property("Caption").toString(), u"File Splitter"_s);
+    QCOMPARE(Widget().property("text").toString(), u"File Splitter"_s);
+    QCOMPARE(Widget().property("Count").toInt(), 7);
+    QCOMPARE(Widget().property("VisibleItems").toInt(), 11);
+    QVERIFY(Widget().setProperty("VisibleItems", 2));
+    QCOMPARE(Widget().property("Rows").toInt(), 2);
+    QCOMPARE(Bar().VisibleItems(), 2);
+    QVERIFY(!Widget().property("RightToLeft").toBool());
+    QVERIFY(!Widget().property("OutlookColors").toBool());
+    QVERIFY(!Widget().property("ShowMenu").toBool());
+    Bar().SetRightToLeft(true);
+    Bar().SetOutlookColors(true);
+    Bar().SetShowMenu(true);
+    Widget().Refresh();
+    for (const char *name : {"RightToLeft", "OutlookColors", "ShowMenu"})
+        QVERIFY2(Widget().property(name).toBool(), name);
+    QRect place;
+    QVERIFY(QMetaObject::invokeMethod(&Widget(), "EntryRect", Q_RETURN_ARG(QRect, place), Q_ARG(int, 2)));
+    QCOMPARE(place, Widget().EntryRect(2));
+}
+
+void SideBarWidgetTest::UnknownFontsFallBack()
+{
+    Bar().SetTitleFont({u"0"_s, 10});
+    Bar().SetCaptionFont({u"DejaVu Sans"_s, 20, true});
+    Widget().Refresh();
+    QCOMPARE(Widget().Look().TitleFont().family(), Widget().font().family());
+    QCOMPARE(Widget().Look().TitleFont().pointSizeF(), 10.0);
+    QCOMPARE(Widget().Look().CaptionFont().pointSizeF(), 20.0);
+    QVERIFY(Widget().Look().CaptionFont().bold());
+    QVERIFY(Widget().Places().Header().height() >= QFontMetrics(Widget().Look().CaptionFont()).height());
+}
+
+void SideBarWidgetTest::ThePageRoomIsToldInTwips()
+{
+    int resizes = 0;
+    Bar().PageResize.Handle([&] { ++resizes; });
+    Widget().resize(400, 600);
+    QCOMPARE(resizes, 1);
+    QCOMPARE(Bar().PageWidth(), Widget().PageRect().width() * 15);
+    QCOMPARE(Bar().PageHeight(), Widget().PageRect().height() * 15);
+}
+
+void SideBarWidgetTest::ASizeSetByTheFormsAnswerIsTakenOver()
+{
+    Bar().StripResize.Handle([this] { Widget().resize(500, 640); });
+    Bar().SetVisibleItems(2);
+    Bar().TakeRoom(1);
+    Widget().Refresh();
+    QTRY_COMPARE(Widget().PageRect().width(), 498);
+}
+
+void SideBarWidgetTest::AHigherPageTakesItsRoomFromTheRows()
+{
+    stage->fields.first()->setMinimumHeight(400);
+    QTRY_VERIFY(Widget().Rows() < 7);
+    QVERIFY(Widget().PageRect().height() >= stage->pages.first()->minimumSizeHint().height());
+}
+
+void SideBarWidgetTest::WithoutAControlItIsEmpty()
+{
+    Widget().SetControl(nullptr);
+    Picture();
+    Key(Qt::Key_Down);
+    Click(QPoint(20, 600));
+    QCOMPARE(Widget().Count(), 0);
+    QCOMPARE(ShownPages(), QList<int>());
+    QCOMPARE(stage->opened, QList<int>());
+}
+
+QTEST_MAIN(SideBarWidgetTest)
+#include "SideBarWidgetTest.moc"
