@@ -30,6 +30,7 @@ MainForm::MainForm(const Machine &onMachine, Settings &stored, Session &shared, 
     , textLists(area, machine.files, machine.dialogs, clickSound, listFile, session)
     , creation(area, browse.DirList, machine.files, machine.events, machine.dialogs, session)
     , numbered(*this, browse.DirList, options, clickSound, machine.files, machine.events, settings)
+    , listing(area, machine, clickSound, listFile, settings, session)
 {
     SetCaption(u"Tressel"_s);
     TieToolbar();
@@ -99,6 +100,8 @@ void MainForm::btnGBToolbarExit_Click()
 void MainForm::chkExtension_Click()
 {
     // Each flag is tested on its own, after what the one before has done.
+    if (session.ListFromReport)
+        listing.OpenResult();
     if (session.ListFromTextFile) {
         listFile.LoadList();
         // Kept: the tree is built twice.

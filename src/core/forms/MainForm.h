@@ -15,6 +15,7 @@
 #include "tools/folders/FolderListFile.h"
 #include "tools/folders/FolderTree.h"
 #include "tools/folders/TextListTool.h"
+#include "tools/listing/ListingPage.h"
 #include "tools/numbered/NumberedPage.h"
 #include "settings/Settings.h"
 
@@ -51,6 +52,7 @@ public:
     TextListTool textLists;
     FolderCreation creation;
     NumberedPage numbered;
+    ListingPage listing;
 
     QString OpenDBPath; ///< where the database dialog opens, kept from session to session
 
