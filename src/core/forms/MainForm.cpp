@@ -49,6 +49,7 @@ MainForm::MainForm(const Machine &onMachine, Settings &stored, Session &shared,
     , browse(area, machine.files, tree, listFile, session)
     , FrameXPMenu6(*this, u"FrameXPMenu(6)"_s)
     , textLists(area, machine.files, machine.dialogs, clickSound, listFile, session)
+    , listing(area, machine, clickSound, listFile, settings, session)
     , erase(*this)
     , creation(area, browse.DirList, machine.files, machine.events, machine.dialogs, session)
     , numbered(*this, browse.DirList, options, clickSound, machine.files, machine.events, settings)
@@ -163,6 +164,8 @@ void MainForm::btnGBToolbarExit_Click()
 void MainForm::chkExtension_Click()
 {
     // Each flag is tested on its own, after what the one before has done.
+    if (session.ListFromReport)
+        listing.OpenResult();
     if (session.ListFromTextFile) {
         listFile.LoadList();
         // Kept: the tree is built twice.

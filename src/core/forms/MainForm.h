@@ -21,6 +21,7 @@
 #include "tools/folders/FolderListFile.h"
 #include "tools/folders/FolderTree.h"
 #include "tools/folders/TextListTool.h"
+#include "tools/listing/ListingPage.h"
 #include "tools/numbered/NumberedPage.h"
 #include "tools/rename/RenamePage.h"
 #include "tools/splitter/SplitterPage.h"
@@ -64,6 +65,7 @@ public:
     BrowsePage browse;
     Frame FrameXPMenu6; ///< the page of three tools: text lists, listings and erasing
     TextListTool textLists;
+    ListingPage listing;
     ErasePage erase;
     FolderCreation creation;
     NumberedPage numbered;

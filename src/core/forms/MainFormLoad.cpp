@@ -35,6 +35,8 @@ void MainForm::LoadForm()
     area.TVList.Clear();
     steps.Do([&] { area.TVList.AddRoot(u"main"_s, u"CD Content"_s, 4); });
     tree.RefreshFolderTree();
+    listing.LoadRecentPaths();
+    listing.Restore(steps);
     RestorePlace(steps, KeyReader::Later);
 }
 
@@ -57,6 +59,9 @@ void MainForm::UnloadForm(bool &)
         settings.Write(keys::MainWidth, Width());
         settings.Write(keys::MainHeight, Height());
     }
+    Steps steps;
+    listing.Save(steps);
+    listing.SaveRecentPath();
     settings.Write(keys::FilePath, area.txtStrtPath.Text());
     settings.Write(keys::FileExt, QString::number(area.chkExtension.Value()));
     settings.Write(keys::ButtonBar, QString::number(area.chkButtonBar.Value()));
@@ -64,7 +69,6 @@ void MainForm::UnloadForm(bool &)
     settings.Write(keys::LastDBPath, browse.DirList.Path());
     settings.Write(keys::OpenTXTPath, textLists.OpenTXTPath);
     settings.Write(keys::OpenDBPath, OpenDBPath);
-    Steps steps;
     numbered.Save(steps);
 }
 

@@ -7,6 +7,21 @@
 
 namespace tressel {
 
+namespace {
+
+bool HasDriveLetters(const FileSystem &files)
+{
+    return files.Separator() == u'\\';
+}
+
+/// How paths compare: names on drives with letters keep their case and compare without it.
+Qt::CaseSensitivity SensitivityOf(const FileSystem &files)
+{
+    return HasDriveLetters(files) ? Qt::CaseInsensitive : Qt::CaseSensitive;
+}
+
+} // namespace
+
 QString WithSeparator(const FileSystem &files, const QString &path)
 {
     return path.endsWith(files.Separator()) ? path : path + files.Separator();
@@ -52,21 +67,23 @@ QString FolderOf(FileSystem &files, const QString &path)
 QString DriveOf(FileSystem &files, const QString &path)
 {
     const QString whole = WithSeparator(files, path);
-    const Qt::CaseSensitivity sensitivity =
-        files.Separator() == u'\\' ? Qt::CaseInsensitive : Qt::CaseSensitive;
     QString best;
     const QList<Volume> volumes = files.Volumes();
     for (const Volume &volume : volumes) {
-        if (whole.startsWith(volume.root, sensitivity) && volume.root.size() > best.size())
+        if (whole.startsWith(volume.root, SensitivityOf(files)) && volume.root.size() > best.size())
             best = volume.root;
     }
     return best.isEmpty() && !volumes.isEmpty() ? volumes.first().root : best;
 }
 
+bool IsDriveRoot(FileSystem &files, const QString &path)
+{
+    return path.endsWith(files.Separator()) && path.compare(DriveOf(files, path), SensitivityOf(files)) == 0;
+}
+
 QString OnDriveC(const FileSystem &files, const QString &path)
 {
-    const bool hasDriveLetters = files.Separator() == u'\\';
-    if (hasDriveLetters || !path.startsWith(QStringLiteral("C:"), Qt::CaseInsensitive))
+    if (HasDriveLetters(files) || !path.startsWith(QStringLiteral("C:"), Qt::CaseInsensitive))
         return path;
     return EntryToPath(files, path.mid(2));
 }

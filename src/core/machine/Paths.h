@@ -35,6 +35,9 @@ QString FolderOf(FileSystem &files, const QString &path);
 /// platform with drive letters "C:\". The first volume's root if none fits.
 QString DriveOf(FileSystem &files, const QString &path);
 
+/// True for the root of a volume as the volume itself spells it, with the separator at its end.
+bool IsDriveRoot(FileSystem &files, const QString &path);
+
 /// A path on drive C:, which rules fall back on, in the form of the platform. Without drive letters that
 /// drive is the root: "C:\a" becomes "/a", and "C:" the empty text that stands before a "/name". Any
 /// other path stays as it is.

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "machine/FolderWalk.h"
+
+#include "machine/FileSystem.h"
+
+namespace tressel {
+
+FolderWalk::FolderWalk(const FileSystem &files, const QString &folder, const QStringList &names)
+    : separator(files.Separator())
+    , path(folder)
+{
+    Enter(names);
+}
+
+std::optional<QString> FolderWalk::Next()
+{
+    while (!levels.empty() && levels.back().next == levels.back().names.size())
+        levels.pop_back();
+    if (levels.empty())
+        return {};
+    Level &level = levels.back();
+    path.truncate(level.length);
+    path += level.names.at(level.next++);
+    return path;
+}
+
+void FolderWalk::Enter(const QStringList &names)
+{
+    if (!path.endsWith(separator))
+        path += separator;
+    levels.push_back({path.size(), names});
+}
+
+} // namespace tressel

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "machine/MoveFile.h"
+
+#include "base/Steps.h"
+#include "machine/FileSystem.h"
+
+namespace tressel {
+
+namespace {
+
+constexpr qint64 copiedAtOnce = 1 << 20;
+
+void CopyContents(OpenFile &source, OpenFile &target)
+{
+    for (QByteArray piece = source.Read(copiedAtOnce); !piece.isEmpty(); piece = source.Read(copiedAtOnce))
+        target.Write(piece);
+    target.Close();
+}
+
+} // namespace
+
+void MoveFile(FileSystem &files, const QString &from, const QString &to)
+{
+    try {
+        files.Rename(from, to);
+        return;
+    } catch (const Failure &failure) {
+        // The number for another volume, among other things; a copy finds out.
+        if (failure.number != FailureNumber::PathFileAccessError)
+            throw;
+    }
+    const auto source = files.Open(from, OpenFor::Reading);
+    const auto target = files.Open(to, OpenFor::Creating);
+    try {
+        CopyContents(*source, *target);
+        source->Close();
+        files.RemoveFile(from);
+    } catch (const Failure &) {
+        Steps undoing;
+        undoing.Do([&] { target->Close(); });
+        undoing.Do([&] { files.RemoveFile(to); });
+        throw;
+    }
+}
+
+} // namespace tressel

@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "machine/Machine.h"
+#include "tools/WorkArea.h"
+#include "tools/listing/ReportFile.h"
+
+#include <functional>
+
+namespace tressel {
+
+class FolderListFile;
+class ListingPage;
+class Settings;
+struct Session;
+
+/// The run that writes the names of a folder tree into a report, which stays as a file or becomes the
+/// folder list. The button that starts it cancels it too: while it runs it lets events run, and a second
+/// call of MakeList, which reads from the button's caption that a run is under way, has the first one stop.
+///
+/// A step that fails ends the run with a box, but for the first refusal to write (70): the report then goes
+/// to drive C:, the walk stops, and every later failure is ignored.
+class FolderListing {
+public:
+    FolderListing(ListingPage &page, WorkArea &area, const Machine &machine, FolderListFile &listFile,
+                  Settings &settings, Session &session);
+
+    void MakeList();
+
+    QString ListSourcePath; ///< the folder that is listed
+
+private:
+    class Guard;
+
+    void ListFolders(Guard &guard);
+    void TakeSource(Guard &guard);
+    void StartReport(Guard &guard);
+    void StartProgress();
+    void WalkFolders();
+    void KeepReport();
+    void TakeReportAsList(Guard &guard);
+    void TellFallback();
+    void EndAsFailed(const Failure &failure);
+
+    QStringList Makelisting(const QString &path);
+    void folderlist(const QString &path, const QStringList &folders);
+    void ListFiles(const QString &path, const QList<FolderEntry> &entries,
+                   const std::function<void(const QString &)> &write);
+    void ShowFolderSize(const QString &path);
+    void EnableResult(bool enabled);
+    bool HasHeader() const;
+    QString TemporaryPath() const;
+
+    ListingPage &page;
+    WorkArea &area;
+    Machine machine;
+    FileSystem &files;
+    FolderListFile &listFile;
+    Settings &settings;
+    Session &session;
+
+    ReportFile report;
+    bool StopListing = false;
+    double FolderSizeTotal = 0; ///< bytes
+    QString MakeListCaption; ///< of the button while it reads "Cancel"
+};
+
+} // namespace tressel

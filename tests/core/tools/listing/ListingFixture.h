@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "base/Steps.h"
+#include "controls/OptionGroup.h"
+#include "language/Session.h"
+#include "settings/Settings.h"
+#include "support/MemoryMachine.h"
+#include "support/Text.h"
+#include "tools/ClickSound.h"
+#include "tools/folders/FolderListFile.h"
+#include "tools/folders/FolderTree.h"
+#include "tools/listing/ListingPage.h"
+
+#include <gtest/gtest.h>
+
+namespace tressel {
+
+/// The listing tool on a form of its own, with the path set to D:\Music, which holds two files of 3 and 5
+/// bytes and the folder Live with one of 7.
+class ListingFixture : public testing::Test {
+protected:
+    ListingFixture()
+    {
+        machine.files.AddDrive(u'D');
+        machine.files.PutFile(QStringLiteral("D:\\Music\\a.mp3"), "123");
+        machine.files.PutFile(QStringLiteral("D:\\Music\\b.mp3"), "12345");
+        machine.files.PutFile(QStringLiteral("D:\\Music\\Live\\c.mp3"), "1234567");
+        page.CboFilePath.SetText(QStringLiteral("D:\\Music"));
+        page.ChckValg.SetChecked(true);
+    }
+
+    void Make() { page.btnGBMakeList.UserClicks(); }
+    /// The report of that number in D:\Music on the day on which the clock stands.
+    QByteArray Report(const QString &number = QStringLiteral("01"))
+    {
+        return machine.files.Bytes(ReportPath(number));
+    }
+    static QString ReportPath(const QString &number = QStringLiteral("01"))
+    {
+        return QStringLiteral("D:\\Music\\List-%1 2004-03-31.txt").arg(number);
+    }
+    /// Text of a file with these lines.
+    static QByteArray Lines(const QList<QByteArray> &lines) { return lines.join("\r\n") + "\r\n"; }
+    void ExpectFailureBox(const QString &text)
+    {
+        machine.dialogs.ExpectBox({text, QStringLiteral("Tressel"), BoxIcon::Exclamation});
+    }
+
+    MemoryMachine machine;
+    Settings settings{machine.machine};
+    Session session;
+    Form form{QStringLiteral("frmMain")};
+    WorkArea area{form};
+    FolderTree tree{area, machine.events, session};
+    FolderListFile listFile{area, tree, machine.files, machine.events, machine.dialogs, settings, session};
+    Form optionForm{QStringLiteral("frmOption")};
+    OptionGroup OptSound{
+        optionForm, QStringLiteral("OptSound"), {QStringLiteral("On"), QStringLiteral("Off")}};
+    ClickSound clickSound{machine.sound, machine.files, machine.program, OptSound};
+    ListingPage page{area, machine.machine, clickSound, listFile, settings, session};
+};
+
+} // namespace tressel
