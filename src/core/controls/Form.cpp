@@ -51,6 +51,12 @@ void Form::SetState(WindowState newState)
     NoteFormChanged();
 }
 
+void Form::SetCloseBox(bool hasOne)
+{
+    closeBox = hasOne;
+    NoteFormChanged();
+}
+
 void Form::Show()
 {
     EnsureLoaded();

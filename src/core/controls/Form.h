@@ -55,6 +55,10 @@ public:
     WindowState State() const { return state; }
     void SetState(WindowState newState);
 
+    /// Whether the title bar offers to close the window. On unless a form takes it away.
+    bool HasCloseBox() const { return closeBox; }
+    void SetCloseBox(bool hasOne);
+
     bool IsVisible() const { return visible; }
     /// Shows the form, or brings it to the front; raises Load first if it wasn't loaded.
     void Show();
@@ -119,6 +123,7 @@ private:
     int borderWidth = 0;
     int borderHeight = 0;
     WindowState state = WindowState::Normal;
+    bool closeBox = true;
     bool visible = false;
     bool loaded = false;
     bool formChanged = true;

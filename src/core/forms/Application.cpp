@@ -78,7 +78,7 @@ MainForm &Application::frmMain()
 {
     if (mainForm)
         return *mainForm;
-    return Adopt(mainForm, std::make_unique<MainForm>(machine, settings, session, frmOption().Live()));
+    return Adopt(mainForm, std::make_unique<MainForm>(machine, settings, session, frmOption()));
 }
 
 TipForm &Application::frmTip()

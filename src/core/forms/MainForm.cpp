@@ -3,6 +3,7 @@
 
 #include "forms/MainForm.h"
 
+#include "forms/OptionForm.h"
 #include "machine/Dialogs.h"
 #include "machine/Paths.h"
 #include "machine/Shell.h"
@@ -24,13 +25,13 @@ constexpr int gripHeight = 43 * 15;
 
 } // namespace
 
-MainForm::MainForm(const Machine &onMachine, Settings &stored, Session &shared,
-                   const LiveOptions &liveOptions)
+MainForm::MainForm(const Machine &onMachine, Settings &stored, Session &shared, OptionForm &allOptions)
     : Form(u"frmMain"_s)
     , machine(onMachine)
     , settings(stored)
     , session(shared)
-    , options(liveOptions)
+    , optionForm(allOptions)
+    , options(allOptions.Live())
     , clickSound(machine.sound, machine.files, machine.program, options.OptSound)
     , FrmeToolbar(*this, u"FrmeToolbar"_s)
     , btnGBToolbarCreate(*this, u"btnGBToolbarCreate"_s, u"Create"_s)
@@ -73,6 +74,7 @@ MainForm::MainForm(const Machine &onMachine, Settings &stored, Session &shared,
     TieSideBar();
     TieLayout();
     Load.Handle([this] { LoadForm(); });
+    QueryUnload.Handle([this](bool &) { SaveSplitterPage(); });
     Unloading.Handle([this](bool &refused) { UnloadForm(refused); });
     Unloaded.Handle([this] { EndProgram(); });
 }

@@ -30,18 +30,20 @@
 
 namespace tressel {
 
+class OptionForm;
 class Steps;
 
 /// The main window: the toolbar, the path row, the pages with the tools, the tree and the list, and the
 /// status line. It restores every tool's last state when it loads and writes it back when it goes.
 class MainForm : public Form {
 public:
-    MainForm(const Machine &machine, Settings &settings, Session &session, const LiveOptions &options);
+    MainForm(const Machine &machine, Settings &settings, Session &session, OptionForm &options);
 
 private:
     Machine machine;
     Settings &settings;
     Session &session;
+    OptionForm &optionForm;
     LiveOptions options;
     ClickSound clickSound;
 
@@ -85,6 +87,15 @@ public:
     const std::array<Frame *, 8> FrameXPMenu; ///< the pages by their numbers
 
     QString OpenDBPath; ///< where the database dialog opens, kept from session to session
+
+    // MainFormAppearance.cpp
+
+    /// Brings the side bar, its palette and the window's place into the state that the settings hold.
+    void ApplyAppearance();
+    /// Gives all buttons of the window the look of the selected entry of optButtonStyle.
+    void ApplyStyleToMain();
+    /// The buttons of the window, in the order in which they are given their look.
+    QList<IsButton *> Buttons();
 
     // MainFormSideBar.cpp
 
@@ -133,11 +144,41 @@ private:
     void btnGBToolbarExit_Click();
     void chkExtension_Click();
 
-    // MainFormLoad.cpp: restoring, writing back and going, in their fixed orders.
+    // MainFormLoad.cpp: restoring, in its fixed order.
     void LoadForm();
+    void SetListingToolTips();
+    void RestoreEmptyFoldersPage(Steps &steps);
+    void RestoreDatabasePage(Steps &steps);
     void RestorePlace(Steps &steps, KeyReader reader);
+    void RestoreBrowsePage(Steps &steps);
+    void RestoreBarWidth(Steps &steps);
+    void ShowFirstTree(Steps &steps);
+    void TakeCommandLine();
+    void FillSplitSizes();
+    void RestoreSplitterPage();
+    void RestoreItemVisibility();
+
+    // MainFormAppearance.cpp
+    OptionForm &frmOption() { return optionForm; }
+    void RestoreSwatches(Steps &steps);
+    void ApplyPalette(const QString &choice);
+
+    // MainFormUnload.cpp: writing back and going, in their fixed orders.
+    void SaveSplitterPage();
     void UnloadForm(bool &refused);
+    bool ExitsThoughUpdateLoads();
+    void FoldUp();
+    static int FoldStep(const TextBox &twips);
     void EndProgram();
+
+    static constexpr int menuCount = 7;
+    std::array<QString, menuCount> menus; ///< kept from session to session, and nothing else
+    QString customColor; ///< which palette the side bar has: "1", "2" or none of the two
+    QString databaseTable; ///< what the settings hold of the database page's two lists
+    QString databaseField;
 };
+
+/// The look that an entry of optButtonStyle stands for.
+ButtonStyle StyleOfEntry(int entry);
 
 } // namespace tressel

@@ -3,10 +3,10 @@
 
 #include "base/Steps.h"
 #include "forms/MainForm.h"
-#include "machine/Events.h"
+#include "forms/OptionForm.h"
+#include "machine/Paths.h"
 #include "machine/Program.h"
 #include "machine/Screen.h"
-#include "machine/SettingsHive.h"
 #include "settings/Settings.h"
 
 namespace tressel {
@@ -15,29 +15,68 @@ using namespace Qt::StringLiterals;
 
 void MainForm::LoadForm()
 {
+    // In this part a step that fails is ignored and the next one runs ...
     Steps steps;
+    SetCloseBox(false);
+    SetListingToolTips();
+    emptyFolders.ResetFoundList(area.lblStatusLine);
+    RestoreEmptyFoldersPage(steps);
+    RestoreDatabasePage(steps);
     numbered.FillNumberCombos();
     numbered.Restore(steps);
     RestorePlace(steps, KeyReader::First);
     steps.Do([&] { area.txtStrtPath.SetText(settings.ReadText(keys::FilePath)); });
     steps.Do([&] { area.chkExtension.SetValue(settings.ReadInt32(keys::FileExt)); });
     steps.Do([&] { area.chkButtonBar.SetValue(settings.ReadInt32(keys::ButtonBar)); });
+    steps.Do([&] { rename.txtCurrentPath.SetText(settings.ReadText(keys::LastPath)); });
     steps.Do([&] { session.ListFile = settings.ReadText(keys::LastFile); });
-    steps.Do([&] { browse.DirList.SetPath(settings.ReadText(keys::LastDBPath)); });
-    steps.Do([&] { browse.DrvList.SetDrive(browse.DirList.Path()); });
-    steps.Do([&] { browse.FileList.SetPath(browse.DirList.Path()); });
+    RestoreBrowsePage(steps);
     steps.Do([&] { textLists.OpenTXTPath = settings.ReadText(keys::OpenTXTPath); });
     steps.Do([&] { OpenDBPath = settings.ReadText(keys::OpenDBPath); });
+    RestoreBarWidth(steps);
     session.RunNumber = 1;
     area.txtStrtPath.SetTakesDrops(true);
     steps.Do([&] { listFile.StartList(); });
     session.ListFromTextFile = true;
-    area.TVList.Clear();
-    steps.Do([&] { area.TVList.AddRoot(u"main"_s, u"CD Content"_s, 4); });
-    tree.RefreshFolderTree();
+    ShowFirstTree(steps);
+    steps.Do([&] { ApplyStyleToMain(); });
     listing.LoadRecentPaths();
     listing.Restore(steps);
-    RestorePlace(steps, KeyReader::Later);
+    steps.Do([&] { EyeDropper1.SetPageBackColor(0xF5F5F5); });
+
+    // ... and from here on a failure ends the load without a word. What was done stays.
+    try {
+        TakeCommandLine();
+        FillSplitSizes();
+        RestoreSplitterPage();
+        frmOption().EnsureLoaded();
+        ApplyAppearance();
+        RestoreItemVisibility();
+        for (int number = 1; number <= menuCount; ++number)
+            menus[static_cast<size_t>(number - 1)] = settings.ReadText(keys::Menu.At(number));
+    } catch (const Failure &) {
+        return;
+    }
+}
+
+void MainForm::SetListingToolTips()
+{
+    listing.btnGBBrowse.SetToolTip(u" Browse... "_s);
+    listing.btnGBMakeList.SetToolTip(u" Start Make list "_s);
+    listing.btnGBResult.SetToolTip(u" Open List from textfile or show list direct to folder list "_s);
+}
+
+void MainForm::RestoreEmptyFoldersPage(Steps &steps)
+{
+    steps.Do([&] { emptyFolders.DirListRemove.SetPath(settings.ReadText(keys::SearchPath)); });
+    steps.Do([&] { emptyFolders.DrvListRemove.SetDrive(emptyFolders.DirListRemove.Path()); });
+}
+
+void MainForm::RestoreDatabasePage(Steps &steps)
+{
+    steps.Do([&] { database.txtDatabaseFile.SetText(settings.ReadText(keys::DatabaseFile)); });
+    steps.Do([&] { databaseTable = settings.ReadText(keys::SQLString); });
+    steps.Do([&] { databaseField = settings.ReadText(keys::Table); });
 }
 
 void MainForm::RestorePlace(Steps &steps, KeyReader reader)
@@ -51,31 +90,59 @@ void MainForm::RestorePlace(Steps &steps, KeyReader reader)
         Move((machine.screen.Width() - Width()) / 2, (machine.screen.Height() - Height()) / 2);
 }
 
-void MainForm::UnloadForm(bool &)
+void MainForm::RestoreBrowsePage(Steps &steps)
 {
-    if (State() == WindowState::Normal) {
-        settings.Write(keys::MainLeft, Left());
-        settings.Write(keys::MainTop, Top());
-        settings.Write(keys::MainWidth, Width());
-        settings.Write(keys::MainHeight, Height());
-    }
-    Steps steps;
-    listing.Save(steps);
-    listing.SaveRecentPath();
-    settings.Write(keys::FilePath, area.txtStrtPath.Text());
-    settings.Write(keys::FileExt, QString::number(area.chkExtension.Value()));
-    settings.Write(keys::ButtonBar, QString::number(area.chkButtonBar.Value()));
-    settings.Write(keys::LastFile, session.ListFile);
-    settings.Write(keys::LastDBPath, browse.DirList.Path());
-    settings.Write(keys::OpenTXTPath, textLists.OpenTXTPath);
-    settings.Write(keys::OpenDBPath, OpenDBPath);
-    numbered.Save(steps);
+    steps.Do([&] { browse.DirList.SetPath(settings.ReadText(keys::LastDBPath)); });
+    steps.Do([&] { browse.DrvList.SetDrive(browse.DirList.Path()); });
+    steps.Do([&] { browse.FileList.SetPath(browse.DirList.Path()); });
 }
 
-void MainForm::EndProgram()
+void MainForm::RestoreBarWidth(Steps &steps)
 {
-    machine.hive.Flush();
-    machine.program.End(0);
+    constexpr int widthWithoutOne = 1980;
+    steps.Do([&] { PicStrip.SetWidth(settings.ReadInt32(keys::Separate)); });
+    if (PicStrip.Width() == 0)
+        PicStrip.SetWidth(widthWithoutOne);
+}
+
+void MainForm::ShowFirstTree(Steps &steps)
+{
+    // Seen only if the rebuild fails.
+    area.TVList.Clear();
+    steps.Do([&] { area.TVList.AddRoot(u"main"_s, u"CD Content"_s, 4); });
+    tree.RefreshFolderTree();
+}
+
+void MainForm::TakeCommandLine()
+{
+    const QString commandLine = machine.program.CommandLine();
+    if (!commandLine.isEmpty() && FileExists(machine.files, commandLine))
+        splitter.cboFileName.SetText(commandLine);
+}
+
+void MainForm::FillSplitSizes()
+{
+    splitter.cmbSplitSize.SetItems({u"5"_s, u"10"_s, u"50"_s, u"100"_s, u"500"_s, u"1000"_s, u"1200"_s,
+                                    u"1440"_s, u"2000"_s, u"3000"_s});
+}
+
+void MainForm::RestoreSplitterPage()
+{
+    // Overruled again by the appearance.
+    Move(settings.ReadInt32(keys::WindowLeft), settings.ReadInt32(keys::WindowTop));
+    splitter.cmbSplitSize.SetText(settings.ReadText(keys::SplitSize));
+    splitter.txtSplitCount.SetText(settings.ReadText(keys::SplitCount));
+    if (settings.ReadBoolean(keys::SplitOption))
+        splitter.optSplit.Select(SplitterPage::FileCount);
+    splitter.chkDeleteParts.SetValue(settings.ReadInt32(keys::DeleteParts));
+    splitter.chkOpenExplorer.SetValue(settings.ReadInt32(keys::OpenExplorer));
+    splitter.chkCopyToFloppy.SetValue(settings.ReadInt32(keys::CopyToFloppy));
+}
+
+void MainForm::RestoreItemVisibility()
+{
+    for (int number = 1; number <= EyeDropper1.Items().Count(); ++number)
+        EyeDropper1.Items()[number].SetVisible(settings.ReadBoolean(keys::Chk.At(number)));
 }
 
 } // namespace tressel

@@ -8,6 +8,7 @@
 #include "controls/IsButton.h"
 #include "controls/Label.h"
 #include "controls/OptionGroup.h"
+#include "controls/PictureBox.h"
 #include "controls/TextBox.h"
 #include "tools/LiveOptions.h"
 
@@ -26,6 +27,14 @@ public:
     /// Enables or disables what the closing animation asks for.
     void EnableAnimation(bool enabled);
 
+    // The side bar's two palettes of eleven swatches each: PicColor(0) to (10) and (11) to (21).
+    static constexpr int secondPalette = 11;
+    static constexpr int swatchCount = 22;
+    /// Fails with 9 outside the two palettes.
+    PictureBox &Swatch(int index);
+    /// Puts the default colours into the second palette.
+    void SetDefaultColors();
+
     Frame FrmeButtonStyle;
     OptionGroup optButtonStyle;
     CheckBox ChkAutoOption;
@@ -40,6 +49,10 @@ public:
     IsButton btnGBDefault;
     Frame FrmeSound;
     OptionGroup OptSound;
+    std::vector<std::unique_ptr<PictureBox>> PicColor;
+    IsButton btnGBColor1;
+    IsButton btnGBColor2;
+    IsButton btnGBColorSystem;
 };
 
 } // namespace tressel

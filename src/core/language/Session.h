@@ -22,6 +22,8 @@ struct Session {
     bool ListFromReport = false;
     bool ListFromTextFile = false;
     bool ListFromFileList = false;
+
+    bool UpdateLoading = false; ///< kept: nothing ever sets it
 };
 
 } // namespace tressel

@@ -6,6 +6,8 @@
 #include "machine/NameText.h"
 #include "machine/posix/UserFolders.h"
 
+#include <QByteArrayList>
+
 #include <algorithm>
 #include <array>
 #include <climits>

@@ -27,4 +27,13 @@ EmptyFoldersPage::EmptyFoldersPage(Form &form, FileSystem &files)
     btnGBToolbarCopy.SetEnabled(false);
 }
 
+void EmptyFoldersPage::ResetFoundList(Label &lblStatusLine)
+{
+    for (IsButton *button :
+         {&btnGBToolbarOpenDir, &btnGBToolbarDelDir, &btnGBToolbarDeleteAll, &btnGBToolbarCopy})
+        button->SetEnabled(false);
+    ListRemove.Clear();
+    lblStatusLine.SetCaption(u"Ready"_s);
+}
+
 } // namespace tressel

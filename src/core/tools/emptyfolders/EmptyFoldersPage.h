@@ -7,6 +7,7 @@
 #include "controls/FolderList.h"
 #include "controls/Frame.h"
 #include "controls/IsButton.h"
+#include "controls/Label.h"
 #include "controls/ListBox.h"
 
 namespace tressel {
@@ -15,6 +16,10 @@ namespace tressel {
 class EmptyFoldersPage {
 public:
     EmptyFoldersPage(Form &form, FileSystem &files);
+
+    /// Nothing is found yet: empties the list, turns off the buttons that need one, and puts "Ready" into
+    /// the status line.
+    void ResetFoundList(Label &lblStatusLine);
 
     Frame page;
     DriveList DrvListRemove;

@@ -1,0 +1,151 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "base/Numbers.h"
+#include "base/Steps.h"
+#include "forms/MainForm.h"
+#include "forms/OptionForm.h"
+#include "settings/Settings.h"
+
+#include <array>
+
+namespace tressel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The look of each entry of optButtonStyle. Kept: the two orders differ.
+constexpr std::array<int, 9> styleOfEntry{0, 2, 10, 5, 4, 8, 9, 7, 3};
+
+/// The keys of one of the side bar's two fonts.
+struct FontKeys {
+    const KeyEntry &family;
+    const KeyEntry &size;
+    const KeyEntry &bold;
+    const KeyEntry &italic;
+    const KeyEntry &underline;
+    const KeyEntry &colour;
+};
+
+constexpr FontKeys titleKeys{keys::TitleBarFont,   keys::TitleBarSize,      keys::TitleBarBold,
+                             keys::TitleBarItalic, keys::TitleBarUnderline, keys::TitleBarColor};
+constexpr FontKeys captionKeys{keys::TitleCapFont,   keys::TitleCapSize,      keys::TitleCapBold,
+                               keys::TitleCapItalic, keys::TitleCapUnderline, keys::TitleCapTextCol};
+
+FontChoice ReadFont(Settings &settings, Steps &steps, const FontKeys &font, FontChoice choice)
+{
+    steps.Do([&] { choice.family = settings.ReadText(font.family); });
+    steps.Do([&] { choice.points = ToNumber(settings.Read(font.size)); });
+    steps.Do([&] { choice.bold = settings.ReadBoolean(font.bold); });
+    steps.Do([&] { choice.italic = settings.ReadBoolean(font.italic); });
+    steps.Do([&] { choice.underline = settings.ReadBoolean(font.underline); });
+    steps.Do([&] { choice.colour = static_cast<quint32>(settings.ReadInt32(font.colour)); });
+    return choice;
+}
+
+} // namespace
+
+ButtonStyle StyleOfEntry(int entry)
+{
+    return static_cast<ButtonStyle>(styleOfEntry.at(static_cast<size_t>(entry)));
+}
+
+void MainForm::ApplyStyleToMain()
+{
+    const int entry = frmOption().optButtonStyle.Selected();
+    if (entry < 0)
+        return;
+    for (IsButton *button : Buttons())
+        button->SetStyle(StyleOfEntry(entry));
+}
+
+QList<IsButton *> MainForm::Buttons()
+{
+    return {&textLists.btnGBLoadFile,
+            &textLists.btnGBSaveFile,
+            &database.btnGBLoadList,
+            &database.btnGBOpenDatabase,
+            &numbered.btnGBMake,
+            &listing.btnGBBrowse,
+            &numbered.btnGBDelete,
+            &btnGBToolbarExit,
+            &btnGBToolbarOption,
+            &btnGBToolbarLoadList,
+            &btnGBToolbarBrowse,
+            &btnGBToolbarCreate,
+            &btnGBToolbarUpdate,
+            &btnGBToolbarAbout,
+            &emptyFolders.btnGBToolbarSearch,
+            &emptyFolders.btnGBToolbarOpenDir,
+            &emptyFolders.btnGBToolbarDelDir,
+            &emptyFolders.btnGBToolbarDeleteAll,
+            &emptyFolders.btnGBToolbarCopy,
+            &listing.btnGBMakeList,
+            &listing.btnGBResult,
+            &splitter.btnGBSplitFile,
+            &splitter.btnGBJoinFile,
+            &splitter.btnBrowse,
+            &erase.btnGBErase,
+            &rename.btnGBBrowsePath,
+            &rename.btnGBRename,
+            &rename.btnGBReplace,
+            &rename.btnGBExtension,
+            &rename.btnGBCancel};
+}
+
+void MainForm::ApplyAppearance()
+{
+    // Whatever fails brings the default palette. On a first start the number of visible entries does,
+    // so that the palette is there before it is needed.
+    Steps steps([this](const Failure &) { frmOption().SetDefaultColors(); });
+    EyeDropper1.Reset();
+    steps.Do([&] { EyeDropper1.SetRightToLeft(settings.ReadBoolean(keys::RightToLeft)); });
+    RestoreSwatches(steps);
+    RestorePlace(steps, KeyReader::Later);
+    steps.Do([&] { LoadItems(); });
+    frmOption().btnGBColorSystem.SetValue(true);
+    frmOption().btnGBColor2.SetValue(true);
+    steps.Do([&] { EyeDropper1.SetVisibleItems(settings.ReadInt32(keys::VisibleItems)); });
+    steps.Do([&] { PicStrip.SetLeft(settings.ReadInt32(keys::TabStrip)); });
+    EyeDropper1.SetTitleFont(ReadFont(settings, steps, titleKeys, EyeDropper1.TitleFont()));
+    EyeDropper1.SetCaptionFont(ReadFont(settings, steps, captionKeys, EyeDropper1.CaptionFont()));
+    EyeDropper1.SetRedraw(true);
+    FormResize();
+    steps.Do([&] { EyeDropper1.SetOutlookColors(settings.ReadBoolean(keys::OutlookColors)); });
+    steps.Do([&] { ApplyPalette(settings.ReadText(keys::CustomColor)); });
+    EyeDropper1.SetShowMenu(false);
+    EyeDropper1.SetRedraw(true);
+}
+
+void MainForm::RestoreSwatches(Steps &steps)
+{
+    // A swatch without a colour of its own fails and so brings the default palette, first of all, for it
+    // must not take away what the user chose for another.
+    const auto takeAll = [&](Steps &taking) {
+        for (int swatch = OptionForm::secondPalette; swatch < OptionForm::swatchCount; ++swatch) {
+            taking.Do([&] {
+                const std::int32_t colour = settings.ReadInt32(keys::Color.At(swatch));
+                frmOption().Swatch(swatch).SetBackColor(static_cast<ColourNumber>(colour));
+            });
+        }
+    };
+    takeAll(steps);
+    Steps again;
+    takeAll(again);
+}
+
+void MainForm::ApplyPalette(const QString &choice)
+{
+    customColor = choice;
+    if (customColor != u'1' && customColor != u'2')
+        return;
+    const int first = customColor == u'1' ? 0 : OptionForm::secondPalette;
+    SideBarColours colours;
+    for (int slot = 0; slot < static_cast<int>(colours.size()); ++slot)
+        colours[static_cast<size_t>(slot)] = frmOption().Swatch(first + slot).BackColor();
+    EyeDropper1.SetColors(colours);
+    settings.Write(keys::CustomColor, customColor);
+}
+
+} // namespace tressel

@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "base/Numbers.h"
+#include "base/Steps.h"
+#include "forms/MainForm.h"
+#include "forms/OptionForm.h"
+#include "machine/Dialogs.h"
+#include "machine/Events.h"
+#include "machine/Program.h"
+#include "machine/Screen.h"
+#include "settings/Settings.h"
+
+namespace tressel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The closing animation folds the window up to these, in twips.
+constexpr int foldedHeight = 420;
+constexpr int foldedWidth = 1700;
+
+} // namespace
+
+void MainForm::SaveSplitterPage()
+{
+    settings.Write(keys::WindowLeft, QString::number(Left()));
+    settings.Write(keys::WindowTop, QString::number(Top()));
+    settings.Write(keys::SplitSize, splitter.cmbSplitSize.Text());
+    settings.Write(keys::SplitCount, splitter.txtSplitCount.Text());
+    settings.WriteBoolean(keys::SplitOption, splitter.optSplit.IsSelected(SplitterPage::FileCount));
+    settings.Write(keys::DeleteParts, QString::number(splitter.chkDeleteParts.Value()));
+    settings.Write(keys::OpenExplorer, QString::number(splitter.chkOpenExplorer.Value()));
+    settings.Write(keys::CopyToFloppy, QString::number(splitter.chkCopyToFloppy.Value()));
+}
+
+void MainForm::UnloadForm(bool &refused)
+{
+    // A minimised or maximised window keeps the place of its last normal state.
+    if (State() == WindowState::Normal) {
+        settings.Write(keys::MainLeft, Left());
+        settings.Write(keys::MainTop, Top());
+        settings.Write(keys::MainWidth, Width());
+        settings.Write(keys::MainHeight, Height());
+    }
+    settings.Write(keys::VisibleItems, EyeDropper1.VisibleItems());
+    settings.Write(keys::TabStrip, PicStrip.Left());
+    for (int number = 1; number <= menuCount; ++number)
+        settings.Write(keys::Menu.At(number), menus[static_cast<size_t>(number - 1)]);
+    Steps steps;
+    listing.Save(steps);
+    listing.SaveRecentPath();
+    settings.Write(keys::SearchPath, emptyFolders.DirListRemove.Path());
+    settings.Write(keys::DatabaseFile, database.txtDatabaseFile.Text());
+    settings.Write(keys::SQLString, databaseTable);
+    settings.Write(keys::Table, databaseField);
+    settings.Write(keys::FilePath, area.txtStrtPath.Text());
+    settings.Write(keys::FileExt, QString::number(area.chkExtension.Value()));
+    settings.Write(keys::ButtonBar, QString::number(area.chkButtonBar.Value()));
+    settings.Write(keys::Separate, QString::number(PicStrip.Width()));
+    settings.Write(keys::LastFile, session.ListFile);
+    settings.Write(keys::LastPath, rename.txtCurrentPath.Text());
+    settings.Write(keys::LastDBPath, browse.DirList.Path());
+    settings.Write(keys::OpenTXTPath, textLists.OpenTXTPath);
+    settings.Write(keys::OpenDBPath, OpenDBPath);
+    numbered.Save(steps);
+    if (session.UpdateLoading && !ExitsThoughUpdateLoads()) {
+        refused = true;
+        return;
+    }
+    if (State() != WindowState::Minimised && options.ChkAnimOption.IsChecked())
+        FoldUp();
+}
+
+bool MainForm::ExitsThoughUpdateLoads()
+{
+    // Kept: nothing ever says that an update is loading, so this box doesn't come up.
+    return machine.dialogs.Show({u"You try to exit before Update manager is loaded wait to this is finished\n"
+                                 "Chose \"Yes\" if you Will Exit now or \"No\" if you will wait..."_s,
+                                 u"Message"_s, BoxIcon::None, BoxButtons::YesNo})
+        == BoxAnswer::Yes;
+}
+
+void MainForm::FoldUp()
+{
+    // Kept: a text that is no number leaves its fold out.
+    Steps steps;
+    steps.Do([&] {
+        while (Height() > foldedHeight) {
+            SetSize(Width(), Height() - FoldStep(options.txtHeight));
+            Move(Left(), (machine.screen.Height() - Height()) / 2);
+            machine.events.LetEventsRun();
+        }
+    });
+    steps.Do([&] {
+        while (Width() > foldedWidth) {
+            SetSize(Width() - FoldStep(options.txtWidth), Height());
+            Move((machine.screen.Width() - Width()) / 2, Top());
+            machine.events.LetEventsRun();
+        }
+    });
+}
+
+int MainForm::FoldStep(const TextBox &twips)
+{
+    const std::int32_t step = ToInt32(twips.Text());
+    // A window that doesn't get smaller would never be gone.
+    if (step <= 0)
+        throw Failure(FailureNumber::InvalidProcedureCall);
+    return step;
+}
+
+void MainForm::EndProgram()
+{
+    settings.Flush();
+    machine.program.End(0);
+}
+
+} // namespace tressel
