@@ -38,6 +38,9 @@ void MainForm::LoadForm()
     listing.LoadRecentPaths();
     listing.Restore(steps);
     RestorePlace(steps, KeyReader::Later);
+    LoadItems();
+    steps.Do([&] { PicStrip.SetLeft(settings.ReadInt32(keys::TabStrip, KeyReader::Later)); });
+    FormResize();
 }
 
 void MainForm::RestorePlace(Steps &steps, KeyReader reader)
@@ -59,6 +62,7 @@ void MainForm::UnloadForm(bool &)
         settings.Write(keys::MainWidth, Width());
         settings.Write(keys::MainHeight, Height());
     }
+    settings.Write(keys::TabStrip, PicStrip.Left());
     Steps steps;
     listing.Save(steps);
     listing.SaveRecentPath();
