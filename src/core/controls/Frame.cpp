@@ -19,7 +19,7 @@ void Frame::SetCaption(const QString &text)
     NoteChanged();
 }
 
-void Frame::SetBackColor(quint32 colour)
+void Frame::SetBackColor(ColourNumber colour)
 {
     backColor = colour;
     NoteChanged();

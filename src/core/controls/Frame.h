@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "controls/Colours.h"
 #include "controls/Control.h"
 
 namespace tressel {
@@ -15,13 +16,13 @@ public:
     const QString &Caption() const { return caption; }
     void SetCaption(const QString &text);
 
-    /// The colour number of its ground: 0x00BBGGRR, or a system colour's number with the high bit set.
-    quint32 BackColor() const { return backColor; }
-    void SetBackColor(quint32 colour);
+    /// The colour of its ground.
+    ColourNumber BackColor() const { return backColor; }
+    void SetBackColor(ColourNumber colour);
 
 private:
     QString caption;
-    quint32 backColor = 0x8000000F; // button face
+    ColourNumber backColor = NumberOf(SystemColour::ButtonFace);
 };
 
 } // namespace tressel

@@ -22,7 +22,7 @@ void Label::SetCaption(const QString &text)
     Change.Raise();
 }
 
-void Label::SetForeColor(quint32 colour)
+void Label::SetForeColor(ColourNumber colour)
 {
     foreColor = colour;
     NoteChanged();

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "controls/Colours.h"
 #include "controls/Control.h"
 
 namespace tressel {
@@ -16,9 +17,9 @@ public:
     /// Raises Change when the text differs.
     void SetCaption(const QString &text);
 
-    /// The colour number of its text: 0x00BBGGRR, or a system colour's number with the high bit set.
-    quint32 ForeColor() const { return foreColor; }
-    void SetForeColor(quint32 colour);
+    /// The colour of its text.
+    ColourNumber ForeColor() const { return foreColor; }
+    void SetForeColor(ColourNumber colour);
 
     Event<> Change;
     Event<> Click;
@@ -31,7 +32,7 @@ public:
 
 private:
     QString caption;
-    quint32 foreColor = 0x80000012; // button text
+    ColourNumber foreColor = NumberOf(SystemColour::ButtonText);
 };
 
 } // namespace tressel

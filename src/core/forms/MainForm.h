@@ -128,7 +128,8 @@ private:
     void PlaceFolderPages();
     void PlaceDatabaseAndEmptyFolders();
     void PlaceRenamePage();
-    void PlaceTextPage();
+    void PlaceErasePart();
+    void PlaceListingPart();
     void PlaceSplitterPage();
     void DragBar(int buttons, int x);
     void PlaceUpdateNotice();

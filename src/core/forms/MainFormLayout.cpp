@@ -17,8 +17,8 @@ constexpr int leastHeight = 6825;
 
 constexpr int leastBarLeft = 5100;
 constexpr int leastRightOfBar = 3500; ///< from the bar's left edge to the window's right one
-constexpr quint32 restColour = 0x8000000F; // button face
-constexpr quint32 dragColour = 0x80000011; // grey text
+constexpr ColourNumber restColour = NumberOf(SystemColour::ButtonFace);
+constexpr ColourNumber dragColour = NumberOf(SystemColour::GrayText);
 
 constexpr int lowPage = 4000;
 constexpr int leastPageHeight = 4100;
@@ -172,7 +172,8 @@ void MainForm::LayoutPanes()
     PlaceFolderPages();
     PlaceDatabaseAndEmptyFolders();
     PlaceRenamePage();
-    PlaceTextPage();
+    PlaceErasePart();
+    PlaceListingPart();
     PlaceSplitterPage();
 }
 
@@ -274,7 +275,7 @@ void MainForm::PlaceRenamePage()
     });
 }
 
-void MainForm::PlaceTextPage()
+void MainForm::PlaceErasePart()
 {
     const int left = PicStrip.Left();
     PlaceAll({
@@ -287,6 +288,22 @@ void MainForm::PlaceTextPage()
     const bool isLow = FitLists(FrameXPMenu6, {&erase.lstErase}, 5500);
     // Kept: neither distance is the list's height.
     erase.PicProgress.SetTop(erase.lstErase.Top() + (isLow ? 1100 : 4800));
+}
+
+void MainForm::PlaceListingPart()
+{
+    const int left = PicStrip.Left();
+    PlaceAll({
+        {listing.btnGBBrowse, Side::Left, left - 1300},
+        {listing.btnGBMakeList, Side::Left, left - 1300},
+        {listing.btnGBResult, Side::Left, left - 1300},
+        {listing.lblFilePath, Side::Width, left - 1700},
+        {listing.lblRSaved, Side::Width, left - 1700},
+        {listing.lblWStatus, Side::Width, left - 1700},
+        {listing.CboFilePath, Side::Width, left - 1700},
+        {listing.txtReport, Side::Width, left - 1700},
+        {listing.ProgressBar1, Side::Width, left - 1700},
+    });
 }
 
 void MainForm::PlaceSplitterPage()

@@ -5,11 +5,11 @@
 
 #include "controls/CheckBox.h"
 #include "controls/ComboBox.h"
+#include "controls/CtlProgress.h"
 #include "controls/Frame.h"
 #include "controls/IsButton.h"
 #include "controls/Label.h"
 #include "controls/OptionGroup.h"
-#include "controls/ProgressBar.h"
 #include "controls/TextBox.h"
 
 #include <array>
@@ -50,7 +50,7 @@ public:
     Label lblElapsed;
     Label lblFileCount;
 
-    ProgressBar ctlProgress1;
+    CtlProgress ctlProgress1;
     IsButton btnGBSplitFile;
     IsButton btnGBJoinFile;
 
