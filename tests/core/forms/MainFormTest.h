@@ -19,7 +19,7 @@ protected:
     Settings settings{machine.machine};
     Session session;
     OptionForm options;
-    MainForm form{machine.machine, settings, session, options.Live()};
+    MainForm form{machine.machine, settings, session, options};
 };
 
 } // namespace tressel
