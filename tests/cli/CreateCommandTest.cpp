@@ -1,0 +1,256 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <sched.h>
+#include <set>
+#include <string>
+#include <vector>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Outcome {
+    int status = -1;
+    std::string out;
+    std::string err;
+};
+
+/// Runs the built program in a fresh home.
+class CreateCommand : public testing::Test {
+protected:
+    CreateCommand()
+    {
+        std::string pattern = (fs::temp_directory_path() / "tressel-cli-XXXXXX").string();
+        folder = mkdtemp(pattern.data());
+        fs::create_directories(folder / "home");
+    }
+    ~CreateCommand() override { fs::remove_all(folder); }
+
+    fs::path Put(const std::string &name, const std::string &contents)
+    {
+        std::ofstream(folder / name, std::ios::binary) << contents;
+        return folder / name;
+    }
+
+    Outcome Run(const std::vector<std::string> &arguments, uid_t asUser = 0)
+    {
+        const fs::path out = folder / "stdout";
+        const fs::path err = folder / "stderr";
+        const pid_t child = fork();
+        if (child == 0) {
+            if (asUser != 0 && setuid(asUser) != 0)
+                _exit(99);
+            Replace(STDOUT_FILENO, out);
+            Replace(STDERR_FILENO, err);
+            setenv("HOME", (folder / "home").c_str(), 1);
+            setenv("XDG_CONFIG_HOME", (folder / "home/.config").c_str(), 1);
+            std::vector<char *> words {const_cast<char *>(TRESSEL_CLI)};
+            for (const std::string &argument : arguments)
+                words.push_back(const_cast<char *>(argument.c_str()));
+            words.push_back(nullptr);
+            execv(TRESSEL_CLI, words.data());
+            _exit(98);
+        }
+        if (!interruptAfter.empty()) {
+            while (!fs::exists(interruptAfter) && waitpid(child, nullptr, WNOHANG) == 0)
+                sched_yield();
+            kill(child, SIGINT);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status), Contents(out), Contents(err)};
+    }
+
+    static void Replace(int descriptor, const fs::path &path)
+    {
+        const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
+        dup2(file, descriptor);
+    }
+    static std::string Contents(const fs::path &path)
+    {
+        std::ifstream file(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+    std::set<std::string> Made(const std::string &below = "out")
+    {
+        std::set<std::string> made;
+        for (const auto &entry : fs::recursive_directory_iterator(folder / below))
+            made.insert(fs::relative(entry.path(), folder / below).string());
+        return made;
+    }
+    std::string To() const { return (folder / "out").string(); }
+
+    fs::path folder;
+    fs::path interruptAfter; ///< the run is interrupted as soon as this is there
+};
+
+TEST_F(CreateCommand, MakesTheNamedFolders)
+{
+    const Outcome outcome = Run({"create", "--to", To(), "one", "two: 2", "a\\b", "\xC3\xA9t\xC3\xA9"});
+    EXPECT_EQ(outcome.out, "made 5, already there 0, failed 0\n");
+    EXPECT_EQ(outcome.err, "");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(Made(), (std::set<std::string> {"one", "two_ 2", "a", "a/b", "\xC3\xA9t\xC3\xA9"}));
+}
+
+TEST_F(CreateCommand, SecondRunSaysWhatWasThere)
+{
+    Run({"create", "--to", To(), "a", "b"});
+    const Outcome outcome = Run({"create", "--to", To(), "a", "b"});
+    EXPECT_EQ(outcome.out, "made 1, already there 2, failed 0\n");
+    EXPECT_EQ(outcome.status, 0);
+}
+
+TEST_F(CreateCommand, ListFileIsReadByTheWindowsRules)
+{
+    const fs::path list = Put("names.txt", "; comment\r\n\r\nreport.txt\r\nSales\\Q1\r\n");
+    const Outcome outcome = Run({"create", "--to", To(), "--list", list});
+    EXPECT_EQ(outcome.out, "made 3, already there 0, failed 0\n");
+    EXPECT_EQ(Made(), (std::set<std::string> {"report.txt", "Sales", "Sales/Q1"}));
+}
+
+TEST_F(CreateCommand, NamesOfAFolderAreItsFiles)
+{
+    fs::create_directories(folder / "music/sub");
+    Put("music/a.mp3", "");
+    Put("music/b\xFF.mp3", "");
+    const Outcome outcome = Run({"create", "--to", To(), "--remove-ext", "--names-of", folder / "music"});
+    EXPECT_EQ(outcome.out, "made 2, already there 0, failed 0\n");
+    EXPECT_EQ(Made(), (std::set<std::string> {"a", "b\xFF"}));
+}
+
+TEST_F(CreateCommand, ShortEntryWithRemoveExtLeavesTheRestUnmadeAndSaysSo)
+{
+    const Outcome outcome = Run({"create", "--to", To(), "--remove-ext", "one.txt", "abc", "two.txt"});
+    EXPECT_EQ(outcome.out, "made 1, already there 0, failed 2\n");
+    EXPECT_EQ(outcome.status, 1);
+}
+
+TEST_F(CreateCommand, NameTooLongFailsAndTheRestIsMade)
+{
+    const Outcome outcome =
+        Run({"create", "--to", To(), std::string(255, 'x'), std::string(256, 'y'), "z"});
+    EXPECT_EQ(outcome.out, "made 2, already there 0, failed 1\n");
+    EXPECT_EQ(outcome.status, 1);
+}
+
+TEST_F(CreateCommand, FileInTheWayIsLeftAlone)
+{
+    fs::create_directories(folder / "out");
+    Put("out/taken", "precious");
+    const Outcome outcome = Run({"create", "--to", To(), "taken"});
+    EXPECT_EQ(outcome.out, "made 0, already there 0, failed 1\n");
+    EXPECT_EQ(Contents(folder / "out/taken"), "precious");
+}
+
+TEST_F(CreateCommand, MissingListFileIsAClearSentence)
+{
+    const Outcome outcome = Run({"create", "--to", To(), "--list", folder / "none.txt"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.err.find("none.txt can't be read: File not found"), std::string::npos) << outcome.err;
+    EXPECT_FALSE(fs::exists(folder / "out"));
+}
+
+TEST_F(CreateCommand, FolderAsListFileIsAClearSentence)
+{
+    fs::create_directories(folder / "list");
+    const Outcome outcome = Run({"create", "--to", To(), "--list", folder / "list"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.err.find("can't be read"), std::string::npos) << outcome.err;
+}
+
+TEST_F(CreateCommand, DestinationThatIsAFileIsAClearSentence)
+{
+    Put("out", "precious");
+    const Outcome outcome = Run({"create", "--to", To(), "a"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.err.find("is no folder and can't be made"), std::string::npos) << outcome.err;
+    EXPECT_EQ(Contents(folder / "out"), "precious");
+}
+
+TEST_F(CreateCommand, DestinationWithoutRightsIsTold)
+{
+    if (getuid() != 0)
+        GTEST_SKIP() << "only root can give its rights up";
+    fs::create_directories(folder / "closed");
+    chmod((folder / "closed").c_str(), 0755);
+    chmod(folder.c_str(), 0777);
+    const Outcome outcome = Run({"create", "--to", folder / "closed", "a"}, 65534);
+    EXPECT_EQ(outcome.out, "made 0, already there 0, failed 1\n");
+    EXPECT_EQ(outcome.status, 1);
+}
+
+TEST_F(CreateCommand, QuietSaysNothing)
+{
+    const Outcome outcome = Run({"create", "--quiet", "--to", To(), "a"});
+    EXPECT_EQ(outcome.out + outcome.err, "");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_TRUE(fs::exists(folder / "out/a"));
+}
+
+TEST_F(CreateCommand, BinaryListFileDoesNoHarm)
+{
+    std::string bytes;
+    for (int byte = 0; byte < 4096; ++byte)
+        bytes += static_cast<char>(byte * 7 % 256);
+    const Outcome outcome = Run({"create", "--to", To(), "--list", Put("binary", bytes)});
+    EXPECT_TRUE(outcome.status == 0 || outcome.status == 1) << outcome.status;
+    EXPECT_EQ(outcome.out.substr(0, 5), "made ");
+}
+
+TEST_F(CreateCommand, LongestListIsMade)
+{
+    std::string lines;
+    for (int line = 0; line < 32767; ++line)
+        lines += std::to_string(line) + "\n";
+    const Outcome outcome = Run({"create", "--to", To(), "--list", Put("long.txt", lines)});
+    EXPECT_EQ(outcome.out, "made 32767, already there 0, failed 0\n");
+}
+
+TEST_F(CreateCommand, WrongUsageIsStatusTwo)
+{
+    EXPECT_EQ(Run({"create"}).status, 2);
+    EXPECT_EQ(Run({}).status, 2);
+    EXPECT_NE(Run({"create", "--bogus"}).err, "");
+}
+
+TEST_F(CreateCommand, HelpAndVersionAreOnStandardOutput)
+{
+    EXPECT_NE(Run({"--help"}).out.find("tressel-cli create --to DIR"), std::string::npos);
+    EXPECT_EQ(Run({"--version"}).out, "tressel-cli 5.0.1450\n");
+}
+
+TEST_F(CreateCommand, InterruptionKeepsWhatWasMadeAndSaysSo)
+{
+    std::string lines;
+    for (int line = 0; line < 30000; ++line)
+        lines += std::to_string(line) + "\n";
+    const fs::path list = Put("long.txt", lines);
+    fs::create_directories(folder / "out");
+    interruptAfter = folder / "out/100";
+    const Outcome outcome = Run({"create", "--to", To(), "--list", list});
+    EXPECT_EQ(outcome.status, 130);
+    const auto made = static_cast<std::size_t>(std::stoi(outcome.out.substr(5)));
+    EXPECT_EQ(outcome.out, "made " + std::to_string(made) + ", already there 0, failed 0\n");
+    EXPECT_EQ(Made().size(), made);
+    EXPECT_LT(made, 30000U);
+}
+
+TEST_F(CreateCommand, SettingsOfTheWindowStayUntouched)
+{
+    Run({"create", "--to", To(), "a"});
+    EXPECT_FALSE(fs::exists(folder / "home/.config/tressel"));
+}
+
+} // namespace

@@ -1,0 +1,355 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "support/StartedProgram.h"
+#include "support/Text.h"
+
+#include <gtest/gtest.h>
+
+using namespace tressel;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString mainKey = u"Software\\Halven Software\\Tressel\\Main"_s;
+
+/// "Main\\FilePath": a setting without what all have in front.
+QString Short(const QString &setting)
+{
+    return setting.section(u'\\', -2);
+}
+
+class MainFormLoad : public testing::Test, protected StartedProgram {
+protected:
+    QStringList Settings(const QString &what)
+    {
+        QStringList names;
+        for (const QString &about : machine.journal.About(what))
+            names += Short(about);
+        return names;
+    }
+    void Store(const QString &name, const HiveValue &value)
+    {
+        machine.hive.Write(SettingsHive::Root::User, mainKey, name, value);
+    }
+    void Leave() { EXPECT_THROW(Form().btnGBToolbarExit.UserClicks(), ProcessEnded); }
+};
+
+TEST_F(MainFormLoad, ReadsTheSettingsInItsOrder)
+{
+    Start();
+    const QStringList read = Settings(u"ReadSetting"_s);
+    const QStringList order = {
+        u"Options\\ButtonStyle"_s, u"Options\\ShowDigit"_s, u"Options\\EnableAnimation"_s,
+        u"Options\\DigitType"_s, u"Options\\Sound"_s, u"Options\\Show Tips at Startup"_s,
+        u"Options\\AnimHeight"_s, u"Options\\AnimWidth"_s,
+        // The main window: the pages, the first look at its place, the list.
+        u"Main\\SearchPath"_s, u"Main\\DatabaseFile"_s, u"Main\\SQLString"_s, u"Main\\Table"_s,
+        u"Options\\MakeDel"_s, u"Options\\FromDir"_s, u"Options\\ToDir"_s, u"Options\\Folder"_s,
+        u"Options\\SubFolder"_s, u"Options\\LastNumPath"_s, u"Main\\MainWidth"_s, u"Main\\MainHeight"_s,
+        u"Main\\MainLeft"_s, u"Main\\MainTop"_s, u"Main\\FilePath"_s, u"Main\\FileExt"_s, u"Main\\ButtonBar"_s,
+        u"Main\\LastPath"_s, u"Main\\LastFile"_s, u"Main\\LastDBPath"_s, u"Main\\OpenTXTPath"_s,
+        u"Main\\OpenDBPath"_s, u"Main\\Separate"_s, u"Main\\RecentPath 0"_s, u"Main\\OnlyListFilename"_s,
+        u"Main\\GenLastPath"_s, u"Main\\LastSavePath"_s,
+        // The second store, then the appearance with the second look at the place.
+        u"Settings\\WindowLeft"_s, u"Settings\\WindowTop"_s, u"Settings\\SplitSize"_s,
+        u"Settings\\SplitCount"_s, u"Settings\\SplitOption"_s, u"Settings\\DeleteParts"_s,
+        u"Settings\\OpenExplorer"_s, u"Settings\\CopyToFloppy"_s, u"Main\\RightToLeft"_s, u"Main\\Color11"_s,
+        u"Main\\Color21"_s, u"Main\\MainWidth"_s, u"Main\\MainHeight"_s, u"Main\\MainLeft"_s, u"Main\\MainTop"_s,
+        u"Main\\IndxBar"_s, u"Main\\VisibleItems"_s, u"Main\\TabStrip"_s, u"Main\\TitleBarFont"_s,
+        u"Main\\TitleCapTextCol"_s, u"Main\\OutlookColors"_s, u"Main\\CustomColor"_s, u"Main\\chk1"_s,
+        u"Main\\chk7"_s, u"Main\\Menu1"_s, u"Main\\Menu7"_s};
+    qsizetype from = 0;
+    for (const QString &name : order) {
+        const qsizetype at = read.indexOf(name, from);
+        EXPECT_GE(at, 0) << name.toStdString() << " isn't read in its turn";
+        from = std::max(from, at + 1);
+    }
+}
+
+TEST_F(MainFormLoad, WritesTheSettingsInItsOrder)
+{
+    Start();
+    machine.journal.Clear();
+    Leave();
+    QStringList written = Settings(u"WriteSetting"_s);
+    const QStringList order = {
+        u"Settings\\WindowLeft"_s, u"Settings\\WindowTop"_s, u"Settings\\SplitSize"_s,
+        u"Settings\\SplitCount"_s, u"Settings\\SplitOption"_s, u"Settings\\DeleteParts"_s,
+        u"Settings\\OpenExplorer"_s, u"Settings\\CopyToFloppy"_s, u"Main\\MainLeft"_s, u"Main\\MainTop"_s,
+        u"Main\\MainWidth"_s, u"Main\\MainHeight"_s, u"Main\\VisibleItems"_s, u"Main\\TabStrip"_s,
+        u"Main\\Menu1"_s, u"Main\\Menu2"_s, u"Main\\Menu3"_s, u"Main\\Menu4"_s, u"Main\\Menu5"_s,
+        u"Main\\Menu6"_s, u"Main\\Menu7"_s, u"Main\\OnlyListFilename"_s, u"Main\\GenLastPath"_s,
+        u"Main\\LastSavePath"_s, u"Main\\SearchPath"_s, u"Main\\DatabaseFile"_s, u"Main\\SQLString"_s,
+        u"Main\\Table"_s, u"Main\\FilePath"_s, u"Main\\FileExt"_s, u"Main\\ButtonBar"_s, u"Main\\Separate"_s,
+        u"Main\\LastFile"_s, u"Main\\LastPath"_s, u"Main\\LastDBPath"_s, u"Main\\OpenTXTPath"_s,
+        u"Main\\OpenDBPath"_s, u"Options\\MakeDel"_s, u"Options\\FromDir"_s, u"Options\\ToDir"_s,
+        u"Options\\Folder"_s, u"Options\\SubFolder"_s, u"Options\\LastNumPath"_s};
+    EXPECT_EQ(written, order);
+    EXPECT_EQ(machine.journal.About(u"End"_s), QStringList {u"0"_s});
+}
+
+TEST_F(MainFormLoad, FirstStartIsCentredInItsLaterSize)
+{
+    machine.hive.Write(SettingsHive::Root::User, mainKey, u"FileExt"_s, u"1"_s);
+    Start();
+    EXPECT_EQ(Form().Width(), 10830);
+    EXPECT_EQ(Form().Height(), 7860);
+    EXPECT_EQ(Form().Left(), (machine.screen.Width() - 10830) / 2);
+    EXPECT_EQ(Form().Top(), (machine.screen.Height() - 7860) / 2);
+    EXPECT_TRUE(Area().chkExtension.IsChecked());
+    EXPECT_FALSE(Form().HasCloseBox());
+}
+
+TEST_F(MainFormLoad, EmptyStoreStartsInTheProgramFolder)
+{
+    Application fresh(machine.machine);
+    fresh.settings.Write(keys::FilePath, u""_s);
+    fresh.Start();
+    fresh.frmTip().cmdOK.UserClicks();
+    EXPECT_EQ(fresh.frmMain().browse.DirList.Path(), u"C:\\Tressel"_s);
+    EXPECT_EQ(fresh.frmMain().textLists.OpenTXTPath, u"C:\\Tressel"_s);
+    EXPECT_EQ(fresh.frmMain().OpenDBPath, u"C:\\Tressel"_s);
+    EXPECT_EQ(fresh.frmMain().area.LstItem.ListCount(), 0);
+}
+
+TEST_F(MainFormLoad, PlaceAtZeroIsTakenForNeverStored)
+{
+    const QList<std::array<int, 2>> stored = {{0, 100}, {100, 0}, {-300, 40}};
+    for (const auto &[left, top] : stored) {
+        StartedProgram program;
+        program.application.settings.Write(keys::MainLeft, left);
+        program.application.settings.Write(keys::MainTop, top);
+        program.Start();
+        EXPECT_EQ(program.Form().Left(), left);
+        EXPECT_EQ(program.Form().Top(), top);
+    }
+}
+
+TEST_F(MainFormLoad, SecondStoresPlaceIsOverruled)
+{
+    application.settings.Write(keys::MainLeft, 300);
+    application.settings.Write(keys::MainTop, 400);
+    application.settings.Write(keys::WindowLeft, u"50"_s);
+    application.settings.Write(keys::WindowTop, u"60"_s);
+    Start();
+    EXPECT_EQ(Form().Left(), 300);
+    EXPECT_EQ(Form().Top(), 400);
+}
+
+TEST_F(MainFormLoad, WrongValuesInTheFirstPartArePassedOver)
+{
+    for (const char16_t *name : {u"MainWidth", u"FileExt", u"ButtonBar", u"OnlyListFilename", u"Separate"})
+        Store(QString::fromUtf16(name), u"abc"_s);
+    application.settings.Write(keys::LastDBPath, u"C:\\Gone"_s);
+    Start();
+    EXPECT_TRUE(Form().IsVisible());
+    EXPECT_EQ(Area().chkExtension.Value(), 0);
+    // The later part still ran to its end.
+    EXPECT_EQ(machine.journal.About(u"ReadSetting"_s).last(), mainKey + u"\\Menu7"_s);
+}
+
+TEST_F(MainFormLoad, WrongValueInTheSecondPartEndsTheLoadWithoutAWord)
+{
+    application.settings.Write(keys::WindowLeft, u"abc"_s);
+    Start();
+    EXPECT_TRUE(Form().IsVisible());
+    EXPECT_EQ(Form().splitter.cmbSplitSize.ListCount(), 10);
+    EXPECT_EQ(Form().EyeDropper1.Items().Count(), 0);
+}
+
+TEST_F(MainFormLoad, SplitterPageComesFromTheSecondStore)
+{
+    application.settings.Write(keys::SplitSize, u"500"_s);
+    application.settings.Write(keys::SplitCount, u"7"_s);
+    application.settings.Write(keys::SplitOption, u"True"_s);
+    application.settings.Write(keys::DeleteParts, u"0"_s);
+    application.settings.Write(keys::CopyToFloppy, u"1"_s);
+    Start();
+    const SplitterPage &page = Form().splitter;
+    EXPECT_EQ(page.cmbSplitSize.Text(), u"500"_s);
+    EXPECT_EQ(page.txtSplitCount.Text(), u"7"_s);
+    EXPECT_EQ(page.optSplit.Selected(), 1);
+    EXPECT_FALSE(page.chkDeleteParts.IsChecked());
+    EXPECT_TRUE(page.chkOpenExplorer.IsChecked());
+    EXPECT_TRUE(page.chkCopyToFloppy.IsChecked());
+    Leave();
+    EXPECT_EQ(application.settings.ReadText(keys::SplitOption), u"True"_s);
+}
+
+TEST_F(MainFormLoad, CommandLineNamesTheFileToSplit)
+{
+    machine.files.PutFile(u"C:\\Docs\\big one.iso"_s, "x");
+    machine.program.commandLine = u"C:\\Docs\\big one.iso"_s;
+    Start();
+    EXPECT_EQ(Form().splitter.cboFileName.Text(), u"C:\\Docs\\big one.iso"_s);
+}
+
+TEST_F(MainFormLoad, CommandLineThatNamesNoFileIsIgnored)
+{
+    machine.files.PutFile(u"C:\\Docs\\big.iso"_s, "x");
+    for (const QString &commandLine : {u""_s, u"\"C:\\Docs\\big.iso\""_s, u"C:\\Docs\\none"_s, u"C:\\Docs"_s}) {
+        StartedProgram program;
+        program.machine.program.commandLine = commandLine;
+        program.Start();
+        EXPECT_EQ(program.Form().splitter.cboFileName.Text(), u""_s) << commandLine.toStdString();
+    }
+}
+
+TEST_F(MainFormLoad, HiddenEntriesAreHidden)
+{
+    application.settings.Write(keys::Chk.At(3), u"0"_s);
+    Start();
+    EXPECT_FALSE(Form().EyeDropper1.Items()[3].IsVisible());
+    EXPECT_TRUE(Form().EyeDropper1.Items()[4].IsVisible());
+}
+
+TEST_F(MainFormLoad, FirstStartInstallsTheSecondPalette)
+{
+    Start();
+    ASSERT_TRUE(Form().EyeDropper1.Colors());
+    EXPECT_EQ(Form().EyeDropper1.Colors()->at(0), 0xDEDEDEU);
+    EXPECT_EQ(Form().EyeDropper1.Colors()->at(4), 0xB6E2FAU);
+    EXPECT_EQ(application.settings.ReadText(keys::CustomColor), u"2"_s);
+    EXPECT_TRUE(application.frmOption().btnGBColorSystem.Value());
+    EXPECT_TRUE(application.frmOption().btnGBColor2.Value());
+}
+
+TEST_F(MainFormLoad, StoredColoursSurviveARestart)
+{
+    application.settings.Write(keys::VisibleItems, 5);
+    application.settings.Write(keys::Color.At(12), u"255"_s);
+    Start();
+    EXPECT_EQ(Form().EyeDropper1.Colors()->at(1), 255U);
+    EXPECT_EQ(Form().EyeDropper1.Colors()->at(0), 0xDEDEDEU);
+    EXPECT_EQ(Form().EyeDropper1.VisibleItems(), 5);
+}
+
+TEST_F(MainFormLoad, PaletteOfNeitherNumberLeavesTheSideBarItsOwn)
+{
+    application.settings.Write(keys::CustomColor, u"3"_s);
+    Start();
+    EXPECT_FALSE(Form().EyeDropper1.Colors());
+}
+
+TEST_F(MainFormLoad, EntryOfButtonStyleGivesAllButtonsTheirLook)
+{
+    const QList<int> styles = {0, 2, 10, 5, 4, 8, 9, 7, 3};
+    for (int entry = 0; entry < styles.size(); ++entry) {
+        StartedProgram program;
+        program.application.settings.Write(keys::ButtonStyle, entry);
+        program.Start();
+        EXPECT_EQ(program.Form().Buttons().size(), 30);
+        for (const IsButton *button : program.Form().Buttons())
+            EXPECT_EQ(static_cast<int>(button->Style()), styles.at(entry)) << button->Name().toStdString();
+    }
+}
+
+TEST_F(MainFormLoad, SecondInstanceSharesTheStoreAndTheLastToCloseWins)
+{
+    Start();
+    Application second(machine.machine);
+    second.Start();
+    Area().txtStrtPath.SetText(u"C:\\First"_s);
+    second.frmMain().area.txtStrtPath.SetText(u"C:\\Second"_s);
+    EXPECT_THROW(second.frmMain().Unload(), ProcessEnded);
+    Leave();
+    EXPECT_EQ(application.settings.ReadText(keys::FilePath), u"C:\\First"_s);
+}
+
+TEST_F(MainFormLoad, ListOfTheLastSessionComesBack)
+{
+    machine.files.PutFile(u"C:\\Lists\\names.txt"_s, "one\r\ntwo\r\n");
+    application.settings.Write(keys::LastFile, u"C:\\Lists\\names.txt"_s);
+    Start();
+    EXPECT_EQ(Area().LstItem.Items(), (QStringList {u"one"_s, u"two"_s}));
+    EXPECT_EQ(Area().TVList.Nodes().at(0).text, u"Create 2 Main Folders"_s);
+}
+
+class MainFormUnload : public MainFormLoad { };
+
+TEST_F(MainFormUnload, WindowThatIsntNormalKeepsTheOldPlace)
+{
+    for (const WindowState state : {WindowState::Maximised, WindowState::Minimised}) {
+        StartedProgram program;
+        program.application.settings.Write(keys::MainLeft, 300);
+        program.application.settings.Write(keys::MainTop, 400);
+        program.Start();
+        program.Form().TakeGeometry(0, 0, 20000, 15000, state);
+        EXPECT_THROW(program.Form().Unload(), ProcessEnded);
+        EXPECT_EQ(program.application.settings.ReadInt32(keys::MainLeft), 300);
+        EXPECT_EQ(program.application.settings.ReadInt32(keys::MainWidth), 8120);
+    }
+}
+
+TEST_F(MainFormUnload, UpdateThatLoadsAsksAndMayKeepTheWindow)
+{
+    Start();
+    const QString text = u"You try to exit before Update manager is loaded wait to this is finished\n"
+                         "Chose \"Yes\" if you Will Exit now or \"No\" if you will wait..."_s;
+    application.session.UpdateLoading = true;
+    machine.dialogs.ExpectBox({text, u"Message"_s, BoxIcon::None, BoxButtons::YesNo}, BoxAnswer::No);
+    Area().txtStrtPath.SetText(u"C:\\Kept"_s);
+    Form().btnGBToolbarExit.UserClicks();
+    EXPECT_TRUE(Form().IsVisible());
+    EXPECT_EQ(application.settings.ReadText(keys::FilePath), u"C:\\Kept"_s);
+
+    machine.dialogs.ExpectBox(text, BoxAnswer::Yes);
+    Leave();
+}
+
+TEST_F(MainFormUnload, AnimationFoldsHeightThenWidth)
+{
+    Start();
+    application.frmOption().ChkAnimOption.SetChecked(true);
+    QList<QSize> sizes;
+    machine.events.When([&] {
+        sizes += QSize(Form().Width(), Form().Height());
+        return Form().Width() <= 1700;
+    }, [] { });
+    Leave();
+    ASSERT_FALSE(sizes.isEmpty());
+    EXPECT_EQ(sizes.first(), QSize(10830, 7860 - 500));
+    EXPECT_LE(sizes.last().height(), 420);
+    EXPECT_LE(sizes.last().width(), 1700);
+    EXPECT_TRUE(sizes.contains(QSize(10830, 360)));
+    EXPECT_EQ(Form().Left(), (machine.screen.Width() - Form().Width()) / 2);
+    EXPECT_FALSE(Form().IsVisible());
+}
+
+TEST_F(MainFormUnload, AnimationTextThatIsNoNumberLeavesItsFoldOut)
+{
+    Start();
+    application.frmOption().ChkAnimOption.SetChecked(true);
+    application.frmOption().txtHeight.SetText(u""_s);
+    Leave();
+    EXPECT_EQ(Form().Height(), 7860);
+    EXPECT_LE(Form().Width(), 1700);
+}
+
+TEST_F(MainFormUnload, AnimationThatWouldNeverEndIsLeftOut)
+{
+    Start();
+    application.frmOption().ChkAnimOption.SetChecked(true);
+    application.frmOption().txtHeight.SetText(u"0"_s);
+    application.frmOption().txtWidth.SetText(u"-5"_s);
+    Leave();
+    EXPECT_EQ(Form().Height(), 7860);
+    EXPECT_EQ(Form().Width(), 10830);
+}
+
+TEST_F(MainFormUnload, NothingFoldsWhenMinimisedOrOff)
+{
+    Start();
+    Leave();
+    EXPECT_EQ(Form().Height(), 7860);
+
+    StartedProgram program;
+    program.Start();
+    program.application.frmOption().ChkAnimOption.SetChecked(true);
+    program.Form().TakeGeometry(0, 0, 9000, 7000, WindowState::Minimised);
+    EXPECT_THROW(program.Form().Unload(), ProcessEnded);
+    EXPECT_EQ(program.Form().Height(), 7000);
+}
+
+} // namespace
