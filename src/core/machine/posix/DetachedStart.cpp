@@ -26,7 +26,7 @@ bool IsExecutable(const QByteArray &path)
 }
 
 /// What the grandchild does. Only calls that are safe between fork and exec.
-[[noreturn]] void Become(char *const *arguments, const char *folder, int report)
+[[noreturn]] void Become(char *const *arguments, int report)
 {
     const int nowhere = open("/dev/null", O_RDWR | O_CLOEXEC);
     if (nowhere >= 0)
@@ -34,8 +34,7 @@ bool IsExecutable(const QByteArray &path)
     sigset_t none{};
     sigemptyset(&none);
     sigprocmask(SIG_SETMASK, &none, nullptr);
-    if (*folder == '\0' || chdir(folder) == 0)
-        execv(arguments[0], arguments);
+    execv(arguments[0], arguments);
     const int error = errno;
     // Nobody is left to be told if this fails too.
     if (write(report, &error, sizeof error) < 0)
@@ -56,7 +55,7 @@ QByteArray FindCommand(const QByteArray &name)
     return {};
 }
 
-bool StartDetached(const QByteArrayList &arguments, const QByteArray &folder)
+bool StartDetached(const QByteArrayList &arguments)
 {
     // All that needs memory is done before the fork.
     std::vector<char *> words;
@@ -74,7 +73,7 @@ bool StartDetached(const QByteArrayList &arguments, const QByteArray &folder)
         setsid();
         const pid_t grandchild = fork();
         if (grandchild == 0)
-            Become(words.data(), folder.constData(), reporting.Number());
+            Become(words.data(), reporting.Number());
         _exit(grandchild > 0 ? 0 : 1);
     }
     reporting = Descriptor();

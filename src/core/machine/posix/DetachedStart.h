@@ -12,8 +12,8 @@ namespace tressel {
 QByteArray FindCommand(const QByteArray &name);
 
 /// Starts a program that lives on by itself, in a session of its own and without this one's open files,
-/// and returns at once; no shell reads the arguments. The first is the program's whole path. `folder` is
-/// where it starts; empty for this process's own. False if it can't be started.
-bool StartDetached(const QByteArrayList &arguments, const QByteArray &folder = {});
+/// and returns at once; no shell reads the arguments. The first is the program's whole path.
+/// False if it can't be started.
+bool StartDetached(const QByteArrayList &arguments);
 
 } // namespace tressel

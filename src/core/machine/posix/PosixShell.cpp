@@ -16,9 +16,14 @@ namespace tressel {
 
 namespace {
 
-QByteArray BytesOf(const QString &path)
+/// A path as an argument that can't be taken for an option; empty if it can't be a path.
+QByteArray ArgumentOf(const QString &path, const QByteArray &folder = ".")
 {
-    return NativePath{QStringView(path)}.Bytes().toByteArray();
+    const NativePath native{QStringView(path)};
+    if (native.Problem())
+        return {};
+    const QByteArray bytes = native.Bytes().toByteArray();
+    return bytes.startsWith('/') ? bytes : folder + '/' + bytes;
 }
 
 bool IsThere(const QByteArray &path)
@@ -34,33 +39,27 @@ bool IsAddress(const QString &target)
     return target.contains(scheme);
 }
 
-bool OpenWithDesktop(const QByteArray &target, const QByteArray &folder = {})
+bool OpenWithDesktop(const QByteArray &target)
 {
     const QByteArray opener = FindCommand("xdg-open");
-    return !opener.isEmpty() && StartDetached({opener, target}, folder);
+    return !opener.isEmpty() && StartDetached({opener, target});
 }
 
 } // namespace
 
 bool PosixShell::Open(const QString &target, const QString &folder)
 {
-    const NativePath path{QStringView(target)};
-    if (path.Problem())
-        return false;
-    // A name that a person typed may begin with a hyphen; with its folder before it, it is no option.
-    QByteArray whole = path.Bytes().toByteArray();
-    if (!whole.startsWith('/'))
-        whole = (folder.isEmpty() ? QByteArray(".") : BytesOf(folder)) + '/' + whole;
-    if (IsThere(whole))
-        return OpenWithDesktop(whole);
-    return IsAddress(target) && OpenWithDesktop(path.Bytes().toByteArray());
+    const QByteArray path = ArgumentOf(target, folder.isEmpty() ? QByteArray(".") : ArgumentOf(folder));
+    if (IsThere(path))
+        return OpenWithDesktop(path);
+    return IsAddress(target) && OpenWithDesktop(target.toUtf8());
 }
 
 bool PosixShell::EditText(const QString &file)
 {
     static const std::array<QByteArray, 7> editors{"gnome-text-editor", "gedit",      "kwrite", "kate",
                                                    "mousepad",          "featherpad", "xed"};
-    const QByteArray path = BytesOf(file);
+    const QByteArray path = ArgumentOf(file);
     if (!IsThere(path))
         return false;
     for (const QByteArray &name : editors) {
@@ -73,7 +72,7 @@ bool PosixShell::EditText(const QString &file)
 
 bool PosixShell::BrowseFolder(const QString &folder)
 {
-    const QByteArray path = BytesOf(folder);
+    const QByteArray path = ArgumentOf(folder);
     struct stat status = {};
     return stat(path.constData(), &status) == 0 && S_ISDIR(status.st_mode) && OpenWithDesktop(path);
 }

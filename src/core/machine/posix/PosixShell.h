@@ -11,7 +11,7 @@ namespace tressel {
 class PosixShell : public Shell {
 public:
     bool Open(const QString &target, const QString &folder) override;
-    /// Through the program that the desktop knows for the file, or the first known editor that is installed.
+    /// The first known editor that is installed, else the program that the desktop knows for the file.
     bool EditText(const QString &file) override;
     bool BrowseFolder(const QString &folder) override;
 };
