@@ -278,6 +278,7 @@ TEST_F(MainFormTest, TheTimerFiresTenTimesASecond)
 
 TEST_F(MainFormTest, SplitSizesAreListedInTheirOrder)
 {
+    form.EnsureLoaded();
     EXPECT_EQ(form.splitter.cmbSplitSize.Items(),
               (QStringList{u"5"_s, u"10"_s, u"50"_s, u"100"_s, u"500"_s, u"1000"_s, u"1200"_s, u"1440"_s,
                            u"2000"_s, u"3000"_s}));
