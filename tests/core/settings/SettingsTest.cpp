@@ -114,6 +114,7 @@ const Row Rows[] = {
     {Main, u"GenLastPath"_s, Text, u""_s},
     {Main, u"LastSavePath"_s, Text, u""_s},
     {Main, u"ReportFile"_s, Text, u""_s},
+    {Main, u"RecentPath 0"_s, Text, u""_s},
     {Main, u"RecentPath 1"_s, Text, u""_s},
     {Main, u"RecentPath 2"_s, Text, u""_s},
     {Main, u"RecentPath 3"_s, Text, u""_s},
