@@ -105,7 +105,8 @@ public:
     // MainFormLayout.cpp: geometry in twips. A control that can't take a size keeps its own.
 
     /// The answer to each change of the window's size: keeps the least size, places the bands and then
-    /// the panes. Does nothing but note that there is something to lay out while the window can't be seen.
+    /// the panes. Does nothing but note that there is something to lay out while the window can't be seen
+    /// or folds up.
     void FormResize();
     /// Keeps the split bar within its limits and places what follows it: side bar, pages, tree.
     void LayoutPanes();
@@ -116,6 +117,7 @@ public:
 
 private:
     bool layoutPending = false;
+    bool foldsUp = false; ///< the window is closing and gets smaller than its least size
 
     void SetFirstValues();
     void TieSideBar();

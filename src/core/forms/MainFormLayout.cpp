@@ -93,7 +93,7 @@ void MainForm::TieLayout()
 void MainForm::FormResize()
 {
     layoutPending = true;
-    if (!IsVisible() || State() == WindowState::Minimised)
+    if (!IsVisible() || State() == WindowState::Minimised || foldsUp)
         return;
     KeepLeastSize();
     if (area.chkButtonBar.IsChecked())

@@ -84,6 +84,7 @@ bool MainForm::ExitsThoughUpdateLoads()
 
 void MainForm::FoldUp()
 {
+    foldsUp = true;
     // Kept: a text that is no number leaves its fold out.
     Steps steps;
     steps.Do([&] {

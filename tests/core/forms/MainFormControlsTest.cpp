@@ -151,12 +151,15 @@ const Row rows[] = {
     {Is<IsButton>, u"btnGBToolbarDelDir", u"Del current", u"", State::Resting},
     {Is<IsButton>, u"btnGBToolbarDeleteAll", u"Delete All", u"", State::Resting},
     {Is<IsButton>, u"btnGBToolbarCopy", u"Clipboard", u"", State::Resting},
-    {Is<CheckBox>, u"ChckDir", u"List only folders", u" If checked List only folders without filename and no info only folder structures "},
-    {Is<CheckBox>, u"ChckValg", u"List to filename", u" If checked List to filename or not checked list and show direct to folder list "},
+    {Is<CheckBox>, u"ChckDir", u"List only folders",
+     u" If checked List only folders without filename and no info only folder structures "},
+    {Is<CheckBox>, u"ChckValg", u"List to filename",
+     u" If checked List to filename or not checked list and show direct to folder list "},
     {Is<ComboBox>, u"CboFilePath", u""},
     {Is<TextBox>, u"txtReport", u""},
     {Is<IsButton>, u"btnGBMakeList", u"Make List", u" Start Make list "},
-    {Is<IsButton>, u"btnGBResult", u"Open List", u" Open List from textfile or show list direct to folder list "},
+    {Is<IsButton>, u"btnGBResult", u"Open List",
+     u" Open List from textfile or show list direct to folder list "},
     {Is<IsButton>, u"btnGBBrowse", u". . .", u" Browse... "},
     {Is<ProgressBar>, u"ProgressBar1", u""},
     {Is<Label>, u"lblFilePath", u"Choose Path"},
@@ -275,6 +278,7 @@ TEST_F(MainFormTest, TheTimerFiresTenTimesASecond)
 
 TEST_F(MainFormTest, SplitSizesAreListedInTheirOrder)
 {
+    form.EnsureLoaded();
     EXPECT_EQ(form.splitter.cmbSplitSize.Items(),
               (QStringList{u"5"_s, u"10"_s, u"50"_s, u"100"_s, u"500"_s, u"1000"_s, u"1200"_s, u"1440"_s,
                            u"2000"_s, u"3000"_s}));

@@ -432,4 +432,15 @@ TEST_F(MainFormLayout, TheUpdateNoticeStandsRightOfTheStatusText)
     EXPECT_EQ(form.PicUpdate.Left(), 900);
 }
 
+TEST_F(MainFormLayout, AWindowThatFoldsUpMayGetSmallerThanItsLeastSize)
+{
+    options.ChkAnimOption.SetValue(1);
+    const int callsBefore = machine.events.Calls();
+    EXPECT_THROW(form.Unload(), ProcessEnded);
+    // 9000 down to 420 by 500, then 12000 down to 1700 by 200.
+    EXPECT_EQ(machine.events.Calls() - callsBefore, 18 + 52);
+    EXPECT_EQ(form.Height(), 0);
+    EXPECT_EQ(form.Width(), 1600);
+}
+
 } // namespace

@@ -36,8 +36,6 @@ SplitterPage::SplitterPage(Form &form)
     , btnGBJoinFile(form, u"btnGBJoinFile"_s, u"Join File"_s)
 {
     cboFileName.SetToolTip(u" For Clear the list Set cursor in list and push F12 "_s);
-    cmbSplitSize.SetItems({u"5"_s, u"10"_s, u"50"_s, u"100"_s, u"500"_s, u"1000"_s, u"1200"_s, u"1440"_s,
-                           u"2000"_s, u"3000"_s});
     optSplit.Click.Handle([this](int) { optSplit_Click(); });
     optSplit.Select(FileSize);
     btnBrowse.SetEnabled(false);
