@@ -3,6 +3,8 @@
 
 #include "widgets/SideBarLook.h"
 
+#include "widgets/SystemColours.h"
+
 #include <QFontDatabase>
 #include <QFontMetrics>
 
@@ -71,14 +73,6 @@ constexpr std::array<QRgb, 11> blue{0xC9DDF4, 0x7B9CC4, 0xF3F8FE, 0x7391B5, 0xCB
 
 } // namespace
 
-QColor PlainColour(ColourNumber number, const QPalette &)
-{
-    if (IsSystemColour(number))
-        return {};
-    return QColor(static_cast<int>(number & 0xFF), static_cast<int>(number >> 8 & 0xFF),
-                  static_cast<int>(number >> 16 & 0xFF));
-}
-
 QColor Mixed(const QColor &ground, const QColor &over, double share)
 {
     const auto mix = [share](double from, double to) {
@@ -88,14 +82,13 @@ QColor Mixed(const QColor &ground, const QColor &over, double share)
                             mix(ground.blueF(), over.blueF()));
 }
 
-SideBarLook::SideBarLook(const SideBar &bar, const QPalette &desktop, const QFont &base,
-                         const ColourReader &reader)
+SideBarLook::SideBarLook(const SideBar &bar, const QPalette &desktop, const QFont &base)
     : titleFont(FontOf(bar.TitleFont(), base))
     , captionFont(FontOf(bar.CaptionFont(), base))
-    , title(reader(bar.TitleColor(), desktop))
-    , caption(reader(bar.CaptionColor(), desktop))
+    , title(TranslateColour(bar.TitleColor(), desktop))
+    , caption(TranslateColour(bar.CaptionColor(), desktop))
 {
-    const auto read = [&](ColourNumber number) { return reader(number, desktop); };
+    const auto read = [&](ColourNumber number) { return TranslateColour(number, desktop); };
     if (!bar.OutlookColors())
         colours = DesktopColours(desktop);
     else if (bar.Colors())

@@ -11,21 +11,14 @@
 #include <QPalette>
 
 #include <array>
-#include <functional>
 
 namespace tressel {
-
-/// Gives the colour that a number stands for in a desktop's palette.
-using ColourReader = std::function<QColor(ColourNumber, const QPalette &)>;
-
-/// Reads plain numbers; a system colour's number gives an invalid colour.
-QColor PlainColour(ColourNumber number, const QPalette &desktop);
 
 /// Colours and fonts of a side bar, resolved for one desktop palette.
 class SideBarLook {
 public:
     SideBarLook() = default;
-    SideBarLook(const SideBar &bar, const QPalette &desktop, const QFont &base, const ColourReader &reader);
+    SideBarLook(const SideBar &bar, const QPalette &desktop, const QFont &base);
 
     QColor Colour(SideBarColour slot) const { return colours[static_cast<std::size_t>(slot)]; }
     const QFont &TitleFont() const { return titleFont; }

@@ -5,7 +5,9 @@
 
 #include "controls/Frame.h"
 #include "controls/SideBar.h"
+#include "faces/Twips.h"
 #include "widgets/SideBarAccessible.h"
+#include "widgets/SystemColours.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -25,15 +27,8 @@ namespace tressel {
 
 using Kind = SideBarPart::Kind;
 
-namespace {
-
-constexpr int twipsPerPixel = 15;
-
-}
-
 SideBarWidget::SideBarWidget(QWidget *parent)
     : QWidget(parent)
-    , reader(PlainColour)
 {
     InstallSideBarAccessible();
     setFocusPolicy(Qt::StrongFocus);
@@ -59,12 +54,6 @@ void SideBarWidget::SetIcons(IconProvider provider)
     update();
 }
 
-void SideBarWidget::SetColourReader(ColourReader colourReader)
-{
-    reader = std::move(colourReader);
-    Refresh();
-}
-
 void SideBarWidget::AddPage(QWidget *page, const QString &controlName)
 {
     page->setParent(this);
@@ -81,7 +70,7 @@ void SideBarWidget::Refresh()
     if (!control || !control->Redraw() || arranging)
         return;
     const QScopedValueRollback guard(arranging, true);
-    look = SideBarLook(*control, palette(), font(), reader);
+    look = SideBarLook(*control, palette(), font());
     Arrange();
 }
 
@@ -95,7 +84,7 @@ void SideBarWidget::Arrange()
     layout = SideBarLayout(size(), heights, view);
     ApplyPagePalette();
     ShowPages();
-    control->TakePageSize(layout.Page().width() * twipsPerPixel, layout.Page().height() * twipsPerPixel);
+    control->TakePageSize(ToTwips(layout.Page().width()), ToTwips(layout.Page().height()));
     update();
     TellAssistants(before);
     Q_EMIT Changed();
@@ -103,7 +92,7 @@ void SideBarWidget::Arrange()
 
 void SideBarWidget::ApplyPagePalette()
 {
-    const QColor wanted = reader(control->PageBackColor(), palette());
+    const QColor wanted = TranslateColour(control->PageBackColor(), palette());
     if (wanted == pageGround)
         return;
     pageGround = wanted;

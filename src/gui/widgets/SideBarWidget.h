@@ -46,8 +46,6 @@ public:
     SideBar *Control() const { return control; }
     /// Where the icons of the control's image list come from.
     void SetIcons(IconProvider provider);
-    /// Who reads colour numbers; at first only plain ones can be read.
-    void SetColourReader(ColourReader colourReader);
     /// Hosts a page, the face of the control of that name, and owns it from then on. A page has light
     /// ground and dark text by PageBackColor, whatever the desktop's palette is.
     void AddPage(QWidget *page, const QString &controlName);
@@ -120,7 +118,6 @@ private:
 
     SideBar *control = nullptr;
     IconProvider icons;
-    ColourReader reader;
     QList<HostedPage> pages;
     SideBarView view;
     SideBarLayout layout;

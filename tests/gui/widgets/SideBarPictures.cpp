@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
-#include "widgets/SideBarStage.h"
+#include "gui/widgets/SideBarStage.h"
 
 #include <QApplication>
 #include <QDir>
@@ -67,6 +67,12 @@ QList<Picture> Pictures()
          [](SideBarStage &stage) {
              FirstStart(stage);
              stage.bar.SetImageList({});
+         }},
+        {u"icons-only-200"_s, least, 2,
+         [](SideBarStage &stage) {
+             FirstStart(stage);
+             stage.pages.first()->setMinimumHeight(220);
+             stage.bar.Items()[3].SetSelected(true);
          }},
         {u"large-fonts-200"_s, tall, 2,
          [](SideBarStage &stage) {

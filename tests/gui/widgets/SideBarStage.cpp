@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
-#include "widgets/SideBarStage.h"
+#include "gui/widgets/SideBarStage.h"
 
 #include <QLabel>
 #include <QListWidget>

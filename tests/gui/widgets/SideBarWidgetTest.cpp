@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
-#include "widgets/SideBarStage.h"
+#include "gui/faces/Bound.h"
+#include "gui/widgets/SideBarStage.h"
+#include "widgets/SideBarFace.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -74,6 +76,8 @@ private Q_SLOTS:
     void ASizeSetByTheFormsAnswerIsTakenOver();
     void AHigherPageTakesItsRoomFromTheRows();
     void WithoutAControlItIsEmpty();
+    void SystemColoursFollowTheDesktop();
+    void TheBinderTiesItToItsControl();
 
 private:
     SideBar &Bar() { return stage->bar; }
@@ -641,6 +645,50 @@ void SideBarWidgetTest::WithoutAControlItIsEmpty()
     QCOMPARE(Widget().Count(), 0);
     QCOMPARE(ShownPages(), QList<int>());
     QCOMPARE(stage->opened, QList<int>());
+}
+
+void SideBarWidgetTest::SystemColoursFollowTheDesktop()
+{
+    Bar().SetPageBackColor(NumberOf(SystemColour::ButtonFace));
+    SideBarColours palette = SideBarStage::FirstPalette();
+    palette[static_cast<std::size_t>(SideBarColour::Header)] = NumberOf(SystemColour::Highlight);
+    Bar().SetColors(palette);
+    Widget().Refresh();
+    const QPalette &desktop = Widget().palette();
+    QCOMPARE(Widget().Look().Colour(SideBarColour::Header), desktop.color(QPalette::Highlight));
+    QCOMPARE(stage->pages.first()->palette().color(QPalette::Window), desktop.color(QPalette::Button));
+}
+
+void SideBarWidgetTest::TheBinderTiesItToItsControl()
+{
+    Form form(u"frmMain"_s);
+    SideBar bar(form, u"EyeDropper1"_s);
+    Frame first(form, u"FrameXPMenu(0)"_s);
+    Frame second(form, u"FrameXPMenu(6)"_s);
+    bar.Items().Add(u"Item: 1"_s, u"Browse Files "_s).SetPage(first);
+    bar.Items().Add(u"Item: 2"_s, u"Get Text, File List, Safe Erase"_s).SetPage(second);
+    Bound bound(form);
+    bound.makers.Add<SideBar, SideBarWidget, SideBarFace>();
+    auto &widget = bound.Add<SideBarWidget>(bar.Name());
+    widget.resize(300, 300);
+    for (const Frame *frame : {&first, &second}) {
+        auto *page = new QWidget;
+        page->setObjectName(frame->Name());
+        widget.AddPage(page, frame->Name());
+    }
+    bound.Bind();
+    QCOMPARE(bound.face->Faces().ControlsWithoutFace(), QStringList());
+    QCOMPARE(bound.face->Faces().WidgetsWithoutControl(), QStringList());
+    QCOMPARE(widget.SelectedIndex(), 1);
+    bar.Items()[2].SetSelected(true);
+    bound.updates.Flush();
+    QCOMPARE(widget.Caption(), u"Get Text, File List, Safe Erase"_s);
+    QVERIFY(bound.window.findChild<QWidget *>(second.Name())->isVisible());
+    QVERIFY(!bound.window.findChild<QWidget *>(first.Name())->isVisible());
+    QTest::mouseClick(&widget, Qt::LeftButton, {}, widget.EntryRect(1).center());
+    bound.updates.Flush();
+    QVERIFY(first.IsVisible() && !second.IsVisible());
+    QVERIFY(bound.window.findChild<QWidget *>(first.Name())->isVisible());
 }
 
 QTEST_MAIN(SideBarWidgetTest)
