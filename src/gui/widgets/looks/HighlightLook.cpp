@@ -9,7 +9,7 @@ namespace {
 
 constexpr int faceStep = 10;
 /// Dark text needs a pale face, light text hardly any lightening.
-constexpr int lightHoverStep = 120;
+constexpr int lightHoverStep = 72;
 constexpr int darkHoverStep = 12;
 
 /// Flat and pale; a framed box in a pale highlight colour under the pointer.

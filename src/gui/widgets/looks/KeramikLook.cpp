@@ -65,7 +65,7 @@ private:
         canvas.DrawLine(1, h - 2, w - 2, h - 2, shade);
     }
 
-    static constexpr qreal cornerRadius = 4.5;
+    static constexpr qreal cornerRadius = 5;
 };
 
 } // namespace

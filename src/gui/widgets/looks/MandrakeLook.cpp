@@ -36,7 +36,7 @@ public:
     QRegion Shape(QSize size) const override { return OctagonShape(size); }
 
 private:
-    static constexpr qreal cornerRadius = 4;
+    static constexpr qreal cornerRadius = 5;
 };
 
 } // namespace
