@@ -72,8 +72,6 @@ private Q_SLOTS:
     void ToolTipHasTitleIconColoursAndBalloon();
     void EmptyToolTipShowsNothing();
     void ToolTipColourZeroIsTheDesktops();
-    void AccessOfAPushButton();
-    void AccessOfACheckButton();
     void AboutTellsNameAndVersion();
     void HandlerMayDeleteTheWidget();
     void LooksWarnAboutNothing();
@@ -410,46 +408,6 @@ void IsButtonWidgetTest::ToolTipColourZeroIsTheDesktops()
     QCOMPARE(zero.TextColour(), system.TextColour());
     QVERIFY(!zero.IsBalloon());
     QVERIFY(!zero.HasIcon());
-}
-
-void IsButtonWidgetTest::AccessOfAPushButton()
-{
-    QAccessibleInterface *access = QAccessible::queryAccessibleInterface(button);
-    QVERIFY(access);
-    QCOMPARE(access->role(), QAccessible::Button);
-    QCOMPARE(access->text(QAccessible::Name), u"Apply"_s);
-    QVERIFY(access->state().focusable);
-    QVERIFY(!access->state().disabled);
-    QVERIFY(!access->state().checkable);
-    control->SetCaption(u"Cut && Copy"_s);
-    QCOMPARE(access->text(QAccessible::Name), u"Cut & Copy"_s);
-
-    QAccessibleActionInterface *actions = access->actionInterface();
-    QVERIFY(actions);
-    QVERIFY(actions->actionNames().contains(QAccessibleActionInterface::pressAction()));
-    actions->doAction(QAccessibleActionInterface::pressAction());
-    QCOMPARE(clicks, 1);
-    QCOMPARE(control->ShownState(), LookState::Normal);
-
-    control->SetEnabled(false);
-    button->TakeOver();
-    QVERIFY(access->state().disabled);
-    QVERIFY(!actions->actionNames().contains(QAccessibleActionInterface::pressAction()));
-    actions->doAction(QAccessibleActionInterface::pressAction());
-    QCOMPARE(clicks, 1);
-}
-
-void IsButtonWidgetTest::AccessOfACheckButton()
-{
-    control->SetButtonType(ButtonKind::Check);
-    QAccessibleInterface *access = QAccessible::queryAccessibleInterface(button);
-    QCOMPARE(access->role(), QAccessible::CheckBox);
-    QVERIFY(access->state().checkable);
-    QVERIFY(!access->state().checked);
-    access->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
-    QVERIFY(access->state().checked);
-    QVERIFY(control->Value());
-    QCOMPARE(clicks, 1);
 }
 
 void IsButtonWidgetTest::AboutTellsNameAndVersion()

@@ -15,7 +15,7 @@ constexpr int darkHoverStep = 12;
 /// Flat and pale; a framed box in a pale highlight colour under the pointer.
 class Highlight : public Look {
 public:
-    bool DrawFace(Canvas &canvas, const ButtonFace &face) const override
+    bool DrawFace(Canvas &canvas, const FaceToDraw &face) const override
     {
         const int w = canvas.Width();
         const int h = canvas.Height();

@@ -32,7 +32,7 @@ Glaze GlazeOf(LookState state)
 /// Glazed like a tile: a bright upper half, a darker middle, and a deep frame.
 class Keramik : public Look {
 public:
-    bool DrawFace(Canvas &canvas, const ButtonFace &face) const override
+    bool DrawFace(Canvas &canvas, const FaceToDraw &face) const override
     {
         const int w = canvas.Width();
         const int h = canvas.Height();

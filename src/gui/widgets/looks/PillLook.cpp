@@ -11,7 +11,7 @@ namespace tressel {
 
 namespace {
 
-const PillColours &ColoursOf(const ButtonFace &face)
+const PillColours &ColoursOf(const FaceToDraw &face)
 {
     if (face.state == LookState::Pressed)
         return pressedPill;
@@ -45,7 +45,7 @@ void DrawCorner(Canvas &canvas, const QImage &corner, bool atRight, bool atBotto
 /// The pill: fixed colours in four corners that are pictures and four sides that stretch.
 class Pill : public Look {
 public:
-    bool DrawFace(Canvas &canvas, const ButtonFace &face) const override
+    bool DrawFace(Canvas &canvas, const FaceToDraw &face) const override
     {
         const int w = canvas.Width();
         const int h = canvas.Height();
@@ -66,7 +66,7 @@ public:
         }
         return shape;
     }
-    bool HasLightFace(const ButtonFace &) const override { return true; }
+    bool HasLightFace(const FaceToDraw &) const override { return true; }
     bool ShowsFocus() const override { return true; }
 
 private:
