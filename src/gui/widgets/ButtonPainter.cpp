@@ -29,9 +29,9 @@ QPalette LightPalette(const QPalette &desktop)
     return light;
 }
 
-ButtonFace FaceOf(const IsButton &button, const ButtonSurroundings &around)
+FaceToDraw FaceOf(const IsButton &button, const ButtonSurroundings &around)
 {
-    ButtonFace face;
+    FaceToDraw face;
     face.state = button.ShownState();
     face.focused = button.HasFocus();
     face.custom = button.UseCustomColors() && face.state != LookState::Disabled;
@@ -45,7 +45,7 @@ ButtonFace FaceOf(const IsButton &button, const ButtonSurroundings &around)
     return face;
 }
 
-QColor TextColour(const IsButton &button, const ButtonFace &face)
+QColor TextColour(const IsButton &button, const FaceToDraw &face)
 {
     if (face.state == LookState::Disabled)
         return face.System(SystemColour::GrayText);
@@ -74,7 +74,7 @@ int AlignmentOf(int textDrawFlags)
 /// Too wide a caption ends in "…". Nothing is cut at its upper and lower side, where a low button has less
 /// room than the letters need.
 void DrawCaption(QPainter &painter, const IsButton &button, const ButtonSurroundings &around,
-                 const ButtonFace &face)
+                 const FaceToDraw &face)
 {
     const QRect box = button.TextBox();
     if (button.Caption().isEmpty() || box.width() < 1)
@@ -128,7 +128,7 @@ void CastShadow(QImage &drawn, const QImage &icon, const QPoint &corner, const Q
     }
 }
 
-void DrawIcon(QImage &drawn, Canvas &canvas, const IsButton &button, const ButtonFace &face, int margin)
+void DrawIcon(QImage &drawn, Canvas &canvas, const IsButton &button, const FaceToDraw &face, int margin)
 {
     const QImage icon = ImageOf(button.Icon(), qRound(button.IconSize() * canvas.Scale()));
     if (icon.isNull())
@@ -150,7 +150,7 @@ void DrawIcon(QImage &drawn, Canvas &canvas, const IsButton &button, const Butto
 }
 
 void DrawFocusMark(Canvas &canvas, const IsButton &button, const ButtonSurroundings &around,
-                   const ButtonFace &face, const Look *look)
+                   const FaceToDraw &face, const Look *look)
 {
     const bool seenAnyway = look && look->ShowsFocus();
     if (!face.focused || !(button.ShowFocus() || (around.marksFocus && !seenAnyway)))
@@ -175,7 +175,7 @@ QImage DrawButton(IsButton &button, const ButtonSurroundings &around)
     QPainter painter(&drawn);
     Canvas canvas(painter, size, screenSize, around.scale);
 
-    ButtonFace face = FaceOf(button, around);
+    FaceToDraw face = FaceOf(button, around);
     const Look *look = LookOf(button.Style());
     if (look && !look->DrawFace(canvas, face)) {
         button.GiveUpTheme();

@@ -5,6 +5,7 @@
 
 #include "base/Numbers.h"
 #include "widgets/FontFaces.h"
+#include "widgets/PixelPainting.h"
 #include "widgets/ProgressAccessible.h"
 #include "widgets/SystemColours.h"
 
@@ -16,9 +17,8 @@ namespace tressel {
 using namespace Qt::StringLiterals;
 
 QImage DrawProgress(const CtlProgress::Drawing &drawing, const QColor &background, const QPalette &palette,
-                    const QFont &font, QSize size, qreal scale)
+                    const QFont &font, QSize screenSize, qreal scale)
 {
-    const QSize screenSize(qRound(size.width() * scale), qRound(size.height() * scale));
     QImage drawn(screenSize, QImage::Format_RGB32);
     if (drawn.isNull())
         return drawn;
@@ -30,7 +30,8 @@ QImage DrawProgress(const CtlProgress::Drawing &drawing, const QColor &backgroun
     painter.scale(scale, scale);
     painter.setFont(drawing.font ? ToFont(*drawing.font) : font);
     painter.setPen(TranslateColour(drawing.foreColor, palette));
-    painter.drawText(QRect(QPoint(), size), Qt::AlignCenter | Qt::TextSingleLine, drawing.text);
+    painter.drawText(QRectF(QPointF(), QSizeF(screenSize) / scale), Qt::AlignCenter | Qt::TextSingleLine,
+                     drawing.text);
     painter.restore();
 
     // The pen of the original leaves not (pixel xor colour), which turns the plain background into the
@@ -116,10 +117,10 @@ void CtlProgressWidget::paintEvent(QPaintEvent *)
     QPainter painter(this);
     const int frame = FrameWidth();
     const QRect inside = rect().adjusted(frame, frame, -frame, -frame);
-    QImage drawn = DrawProgress(control->Drawn(), TranslateColour(control->BackColor(), palette()), palette(),
-                                font(), inside.size(), devicePixelRatioF());
-    drawn.setDevicePixelRatio(devicePixelRatioF());
-    painter.drawImage(inside.topLeft(), drawn);
+    DrawOnPixels(painter, inside, [&](QSize screenSize, qreal scale) {
+        return DrawProgress(control->Drawn(), TranslateColour(control->BackColor(), palette()), palette(),
+                            font(), screenSize, scale);
+    });
     if (frame > 0)
         DrawFrame(painter);
 }

@@ -15,9 +15,9 @@ namespace tressel {
 
 /// A progress bar's last painting as a picture in pixels of the screen: the text is printed, and the bar
 /// then inverts what it passes over, so that the text stays readable on both sides of the bar's edge.
-/// `size` is in pixels of the design. The picture holds no frame.
+/// `scale` is the number of those to a pixel of the design. The picture holds no frame.
 QImage DrawProgress(const CtlProgress::Drawing &drawing, const QColor &background, const QPalette &palette,
-                    const QFont &font, QSize size, qreal scale);
+                    const QFont &font, QSize screenSize, qreal scale);
 
 /// The face of a CtlProgress. Until SetControl it shows a control of its own.
 class CtlProgressWidget : public QWidget {

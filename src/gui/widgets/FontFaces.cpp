@@ -20,8 +20,9 @@ QFont ToFont(const FontFace &face)
 
 FontFace ToFontFace(const QFont &font)
 {
-    return {font.family(),   QFontInfo(font).pointSizeF(), font.bold(), font.italic(), font.underline(),
-            font.strikeOut()};
+    // A font set in pixels has no size of its own in points.
+    const double points = font.pointSizeF() > 0 ? font.pointSizeF() : QFontInfo(font).pointSizeF();
+    return {font.family(), points, font.bold(), font.italic(), font.underline(), font.strikeOut()};
 }
 
 } // namespace tressel

@@ -8,6 +8,7 @@
 #include "widgets/ButtonToolTip.h"
 #include "widgets/FontFaces.h"
 #include "widgets/IsButtonAccessible.h"
+#include "widgets/PixelPainting.h"
 
 #include <QAccessible>
 #include <QHelpEvent>
@@ -211,24 +212,20 @@ bool IsButtonWidget::event(QEvent *event)
 
 void IsButtonWidget::paintEvent(QPaintEvent *)
 {
-    QPainter painter(this);
-    const QTransform toScreen = painter.deviceTransform();
-    const QRectF place = toScreen.mapRect(QRectF(rect()));
-    const QPoint corner(qRound(place.left()), qRound(place.top()));
-
     ButtonSurroundings around;
     around.palette = palette();
     around.font = font();
     around.style = style();
     around.widget = this;
-    around.scale = devicePixelRatioF();
-    around.screenSize = QSize(qRound(place.right()) - corner.x(), qRound(place.bottom()) - corner.y());
     around.marksFocus = keyboardFocus;
     around.underlinesMnemonic = style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) != 0;
 
-    // Pixel on pixel: the toolkit's own scaling would smear it where a place falls between two pixels.
-    painter.setWorldTransform(toScreen.inverted());
-    painter.drawImage(corner, DrawButton(*control, around));
+    QPainter painter(this);
+    DrawOnPixels(painter, rect(), [&](QSize screenSize, qreal scale) {
+        around.screenSize = screenSize;
+        around.scale = scale;
+        return DrawButton(*control, around);
+    });
 }
 
 void IsButtonWidget::resizeEvent(QResizeEvent *)

@@ -60,7 +60,7 @@ RoundedColours FixedColours(LookState state)
             Rgb(0xFAFAF9)};
 }
 
-RoundedColours CustomColours(const ButtonFace &face)
+RoundedColours CustomColours(const FaceToDraw &face)
 {
     const QColor &back = face.back;
     if (face.state == LookState::Pressed) {
@@ -82,7 +82,7 @@ RoundedColours CustomColours(const ButtonFace &face)
             ShiftColor(back, 5)};
 }
 
-std::optional<RingColours> RingOf(const ButtonFace &face)
+std::optional<RingColours> RingOf(const FaceToDraw &face)
 {
     const QColor &lit = face.highlight;
     if (face.state == LookState::Hover) {
@@ -130,7 +130,7 @@ void DrawInnerLines(Canvas &canvas, const RoundedColours &colours)
 /// Rounded, with a dark blue frame, and a ring that glows orange under the pointer and blue with the focus.
 class BlueRounded : public Look {
 public:
-    bool DrawFace(Canvas &canvas, const ButtonFace &face) const override
+    bool DrawFace(Canvas &canvas, const FaceToDraw &face) const override
     {
         const RoundedColours colours = face.custom ? CustomColours(face) : FixedColours(face.state);
         const int w = canvas.Width();
@@ -145,7 +145,7 @@ public:
     }
     int Margin() const override { return 5; }
     QRegion Shape(QSize size) const override { return ClippedShape(size); }
-    bool HasLightFace(const ButtonFace &face) const override { return !face.custom; }
+    bool HasLightFace(const FaceToDraw &face) const override { return !face.custom; }
     bool ShowsFocus() const override { return true; }
 
 private:

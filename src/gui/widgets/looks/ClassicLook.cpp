@@ -10,7 +10,7 @@ namespace {
 /// A raised edge all around, sunken while pressed.
 class Classic : public Look {
 public:
-    bool DrawFace(Canvas &canvas, const ButtonFace &face) const override
+    bool DrawFace(Canvas &canvas, const FaceToDraw &face) const override
     {
         canvas.FillBox(0, 0, canvas.Width(), canvas.Height(), PlainFace(face));
         const Edge edge = face.state == LookState::Pressed ? Edge::Sunken : Edge::Raised;

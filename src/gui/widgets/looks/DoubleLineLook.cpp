@@ -9,7 +9,7 @@ namespace {
 
 constexpr int faceInset = 4;
 
-QColor BoxColour(const ButtonFace &face)
+QColor BoxColour(const FaceToDraw &face)
 {
     const QColor face15 = face.System(SystemColour::ButtonFace);
     const QColor shadow = face.System(SystemColour::ButtonShadow);
@@ -28,7 +28,7 @@ QColor BoxColour(const ButtonFace &face)
 /// A dark and a light line around, soft at the corners, with a face box inside.
 class DoubleLine : public Look {
 public:
-    bool DrawFace(Canvas &canvas, const ButtonFace &face) const override
+    bool DrawFace(Canvas &canvas, const FaceToDraw &face) const override
     {
         const int w = canvas.Width();
         const int h = canvas.Height();

@@ -10,7 +10,7 @@ namespace {
 /// One line around, which becomes a thin edge under the pointer.
 class Flat : public Look {
 public:
-    bool DrawFace(Canvas &canvas, const ButtonFace &face) const override
+    bool DrawFace(Canvas &canvas, const FaceToDraw &face) const override
     {
         const int w = canvas.Width();
         const int h = canvas.Height();

@@ -9,13 +9,13 @@ namespace {
 
 constexpr int faceStep = 10;
 /// Dark text needs a pale face, light text hardly any lightening.
-constexpr int lightHoverStep = 120;
+constexpr int lightHoverStep = 72;
 constexpr int darkHoverStep = 12;
 
 /// Flat and pale; a framed box in a pale highlight colour under the pointer.
 class Highlight : public Look {
 public:
-    bool DrawFace(Canvas &canvas, const ButtonFace &face) const override
+    bool DrawFace(Canvas &canvas, const FaceToDraw &face) const override
     {
         const int w = canvas.Width();
         const int h = canvas.Height();

@@ -10,7 +10,7 @@ namespace {
 /// A thin edge that sinks when pressed; a plain line when disabled.
 class HotTrack : public Look {
 public:
-    bool DrawFace(Canvas &canvas, const ButtonFace &face) const override
+    bool DrawFace(Canvas &canvas, const FaceToDraw &face) const override
     {
         const int w = canvas.Width();
         const int h = canvas.Height();

@@ -32,7 +32,7 @@ Glaze GlazeOf(LookState state)
 /// Glazed like a tile: a bright upper half, a darker middle, and a deep frame.
 class Keramik : public Look {
 public:
-    bool DrawFace(Canvas &canvas, const ButtonFace &face) const override
+    bool DrawFace(Canvas &canvas, const FaceToDraw &face) const override
     {
         const int w = canvas.Width();
         const int h = canvas.Height();
@@ -65,7 +65,7 @@ private:
         canvas.DrawLine(1, h - 2, w - 2, h - 2, shade);
     }
 
-    static constexpr qreal cornerRadius = 4.5;
+    static constexpr qreal cornerRadius = 5;
 };
 
 } // namespace

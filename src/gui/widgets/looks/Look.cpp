@@ -7,7 +7,7 @@
 
 namespace tressel {
 
-QColor ButtonFace::System(SystemColour colour) const
+QColor FaceToDraw::System(SystemColour colour) const
 {
     return ColourOf(colour, palette);
 }
@@ -46,7 +46,7 @@ const Look *LookOf(ButtonStyle style)
     return nullptr;
 }
 
-QColor PlainFace(const ButtonFace &face)
+QColor PlainFace(const FaceToDraw &face)
 {
     if (!face.custom)
         return face.System(SystemColour::ButtonFace);

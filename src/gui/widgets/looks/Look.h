@@ -14,7 +14,7 @@ class QWidget;
 namespace tressel {
 
 /// What a look draws a face from.
-struct ButtonFace {
+struct FaceToDraw {
     LookState state = LookState::Normal;
     bool focused = false;
     /// Whether `back` and `highlight` are the button's own colours. A disabled button has none.
@@ -34,13 +34,13 @@ public:
     virtual ~Look() = default;
 
     /// False if it can't be drawn here.
-    virtual bool DrawFace(Canvas &canvas, const ButtonFace &face) const = 0;
+    virtual bool DrawFace(Canvas &canvas, const FaceToDraw &face) const = 0;
     /// From the border to the icon, in pixels.
     virtual int Margin() const { return 4; }
     /// The pixels that belong to the button; none if all do.
     virtual QRegion Shape(QSize size) const;
     /// True where the face's colours are always the same light ones, whatever the desktop's are.
-    virtual bool HasLightFace(const ButtonFace &) const { return false; }
+    virtual bool HasLightFace(const FaceToDraw &) const { return false; }
     /// True where the face itself tells a focused button from others.
     virtual bool ShowsFocus() const { return false; }
 };
@@ -61,7 +61,7 @@ const Look &KeramikLook();
 const Look &PillLook();
 
 /// The face's colour in the looks 0 to 2: the button's own by state, or the desktop's.
-QColor PlainFace(const ButtonFace &face);
+QColor PlainFace(const FaceToDraw &face);
 /// One pixel clipped at the upper corners, two at the lower ones.
 QRegion ClippedShape(QSize size);
 /// An octagon with unequal corners.

@@ -10,7 +10,7 @@ namespace {
 /// A soft slope between a light line above and dark ones below, in an eight-cornered frame.
 class Mandrake : public Look {
 public:
-    bool DrawFace(Canvas &canvas, const ButtonFace &face) const override
+    bool DrawFace(Canvas &canvas, const FaceToDraw &face) const override
     {
         const int w = canvas.Width();
         const int h = canvas.Height();
@@ -36,7 +36,7 @@ public:
     QRegion Shape(QSize size) const override { return OctagonShape(size); }
 
 private:
-    static constexpr qreal cornerRadius = 4;
+    static constexpr qreal cornerRadius = 5;
 };
 
 } // namespace

@@ -64,7 +64,7 @@ Colour ColourAt(const Side &side, double depth, double scale)
     const double place = std::clamp(depth - 0.5, 0.0, double(side.lines.size() - 1));
     const auto line = static_cast<std::size_t>(place);
     const std::size_t next = std::min(line + 1, side.lines.size() - 1);
-    const double part = std::clamp((place - double(line) - 0.5) * scale + 0.5, 0.0, 1.0);
+    const double part = std::clamp((place - double(line) - 0.5) * std::ceil(scale) + 0.5, 0.0, 1.0);
     return Mixed(FromRgb(side.lines[line]), FromRgb(side.lines[next]), part);
 }
 
@@ -95,6 +95,20 @@ QRgb PixelAt(const Corner &corner, double x, double y, double scale)
         qRgba(qRound(colour.red), qRound(colour.green), qRound(colour.blue), qRound(coverage * 255)));
 }
 
+/// Where the middle of a screen's pixel lies in pixels of the design, whose borders are rounded to whole
+/// pixels of the screen, as those of the lines are.
+double DesignPlace(int pixel, double scale)
+{
+    int place = static_cast<int>(pixel / scale);
+    while (qRound((place + 1) * scale) <= pixel)
+        ++place;
+    while (qRound(place * scale) > pixel)
+        --place;
+    const int from = qRound(place * scale);
+    const int to = qRound((place + 1) * scale);
+    return place + (pixel - from + 0.5) / (to - from);
+}
+
 /// A corner as it stands at the upper left.
 QImage Drawn(const Corner &corner, int height, double scale)
 {
@@ -103,7 +117,7 @@ QImage Drawn(const Corner &corner, int height, double scale)
     for (int row = 0; row < image.height(); ++row) {
         auto *pixels = reinterpret_cast<QRgb *>(image.scanLine(row));
         for (int column = 0; column < image.width(); ++column)
-            pixels[column] = PixelAt(corner, (column + 0.5) / scale, (row + 0.5) / scale, scale);
+            pixels[column] = PixelAt(corner, DesignPlace(column, scale), DesignPlace(row, scale), scale);
     }
     return image;
 }

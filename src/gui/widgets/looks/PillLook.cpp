@@ -5,18 +5,30 @@
 #include "widgets/looks/PillCorners.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tressel {
 
 namespace {
 
-const PillColours &ColoursOf(const ButtonFace &face)
+const PillColours &ColoursOf(const FaceToDraw &face)
 {
     if (face.state == LookState::Pressed)
         return pressedPill;
     if (face.state == LookState::Hover || face.focused)
         return hoverPill;
     return normalPill;
+}
+
+/// The pixels clipped at either end of a row: those whose middle lies outside a quarter circle of this
+/// radius.
+int RoundInset(int row)
+{
+    constexpr int radius = 9;
+    if (row >= radius)
+        return 0;
+    const double fromMiddle = radius - row - 0.5;
+    return static_cast<int>(std::ceil(radius - std::sqrt(radius * radius - fromMiddle * fromMiddle) - 0.5));
 }
 
 /// The side on which a corner stands decides which part of it a small button cuts off.
@@ -33,7 +45,7 @@ void DrawCorner(Canvas &canvas, const QImage &corner, bool atRight, bool atBotto
 /// The pill: fixed colours in four corners that are pictures and four sides that stretch.
 class Pill : public Look {
 public:
-    bool DrawFace(Canvas &canvas, const ButtonFace &face) const override
+    bool DrawFace(Canvas &canvas, const FaceToDraw &face) const override
     {
         const int w = canvas.Width();
         const int h = canvas.Height();
@@ -45,20 +57,16 @@ public:
     int Margin() const override { return 7; }
     QRegion Shape(QSize size) const override
     {
-        constexpr int diameter = 18;
         const int w = size.width();
         const int h = size.height();
-        if (w < diameter || h < diameter)
-            return QRegion(QRect(QPoint(), size), QRegion::Ellipse);
-        QRegion shape(0, diameter / 2, w, h - diameter);
-        shape += QRegion(diameter / 2, 0, w - diameter, h);
-        for (const int x : {0, w - diameter}) {
-            shape += QRegion(x, 0, diameter, diameter, QRegion::Ellipse);
-            shape += QRegion(x, h - diameter, diameter, diameter, QRegion::Ellipse);
+        QRegion shape;
+        for (int y = 0; y < h; ++y) {
+            const int inset = std::min(RoundInset(std::min(y, h - 1 - y)), w / 2);
+            shape += QRect(inset, y, w - 2 * inset, 1);
         }
         return shape;
     }
-    bool HasLightFace(const ButtonFace &) const override { return true; }
+    bool HasLightFace(const FaceToDraw &) const override { return true; }
     bool ShowsFocus() const override { return true; }
 
 private:
@@ -76,6 +84,9 @@ private:
         for (int line = 0; line < 17; ++line)
             canvas.DrawLine(w - 17 + line, 11, w - 17 + line, h - 10,
                             QColor(colours.right[static_cast<std::size_t>(line)]));
+        // A button too narrow for the level lines is all corners.
+        if (w < 2 * 17)
+            return;
         for (int line = 0; line < 12; ++line)
             canvas.DrawLine(17, line, w - 17, line, QColor(colours.top[static_cast<std::size_t>(line)]));
         for (int line = 0; line < 12; ++line)

@@ -35,7 +35,7 @@ Deltas DeltasOf(LookState state)
 /// Smooth, faintly domed, in a dark frame whose corners are clipped.
 class Plastik : public Look {
 public:
-    bool DrawFace(Canvas &canvas, const ButtonFace &face) const override
+    bool DrawFace(Canvas &canvas, const FaceToDraw &face) const override
     {
         const int w = canvas.Width();
         const int h = canvas.Height();

@@ -14,7 +14,7 @@ namespace tressel {
 
 namespace {
 
-QStyle::State StateOf(const ButtonFace &face)
+QStyle::State StateOf(const FaceToDraw &face)
 {
     switch (face.state) {
     case LookState::Normal:
@@ -42,7 +42,7 @@ bool HoldsAnythingBut(const QImage &image, QRgb colour)
 /// Drawn by the desktop's own style. A style that leaves no mark on the face can't draw it.
 class SystemTheme : public Look {
 public:
-    bool DrawFace(Canvas &canvas, const ButtonFace &face) const override
+    bool DrawFace(Canvas &canvas, const FaceToDraw &face) const override
     {
         const QColor ground = face.System(SystemColour::ButtonFace);
         canvas.FillBox(0, 0, canvas.Width(), canvas.Height(), ground);
@@ -62,7 +62,7 @@ public:
     bool ShowsFocus() const override { return false; }
 
 private:
-    static void DrawWithStyle(QImage &image, const ButtonFace &face, const QRect &bounds)
+    static void DrawWithStyle(QImage &image, const FaceToDraw &face, const QRect &bounds)
     {
         QStyleOptionButton option;
         option.rect = bounds;

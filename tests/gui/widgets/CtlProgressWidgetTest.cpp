@@ -1,0 +1,183 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "widgets/CtlProgressWidget.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QTest>
+
+using namespace tressel;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize size(200, 24);
+
+QImage Drawn(const CtlProgress &bar, qreal scale = 1, const QColor &background = Qt::white)
+{
+    return DrawProgress(bar.Drawn(), background, QApplication::palette(), QApplication::font(), size * scale,
+                        scale);
+}
+
+bool Holds(const QImage &image, const QRect &box, const QColor &colour)
+{
+    for (int y = box.top(); y <= box.bottom(); ++y) {
+        for (int x = box.left(); x <= box.right(); ++x) {
+            if (image.pixelColor(x, y) == colour)
+                return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+class CtlProgressWidgetTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void BarReachesItsShareOfTheWidth();
+    void TextIsInvertedWhereTheBarPasses();
+    void FillColourIsTrueOnAnyBackground();
+    void StyleThreeWithACaptionShowsNoText();
+    void ResizingAndRefreshingKeepWhatIsDrawn();
+    void EveryPropertyIsTheControls();
+    void EqualBoundsFailToTheCaller();
+    void AccessTellsValueAndBounds();
+    void FrameIsDrawn();
+
+private:
+    Form form{u"frmTest"_s};
+};
+
+void CtlProgressWidgetTest::BarReachesItsShareOfTheWidth()
+{
+    CtlProgress bar(form, u"bar"_s);
+    for (const qreal scale : {1.0, 1.5, 2.0}) {
+        for (const int value : {0, 25, 99, 100, 150}) {
+            bar.SetValue(value);
+            const QImage drawn = Drawn(bar, scale);
+            const int edge = qRound(drawn.width() * std::min(value, 100) / 100.0);
+            if (edge > 0)
+                QCOMPARE(drawn.pixelColor(edge - 1, 0), QColor(0, 0, 255));
+            if (edge < drawn.width())
+                QCOMPARE(drawn.pixelColor(edge, 0), QColor(Qt::white));
+        }
+        QCOMPARE(bar.Value(), 150);
+    }
+}
+
+void CtlProgressWidgetTest::TextIsInvertedWhereTheBarPasses()
+{
+    CtlProgress bar(form, u"bar"_s);
+    bar.SetForeColor(0);
+    bar.SetCaptionStyle(CaptionStyle::Caption);
+    bar.SetCaption(u"\u2588\u2588\u2588\u2588"_s);
+    bar.SetValue(50);
+    const QImage drawn = Drawn(bar);
+    const QRect left(80, 0, 20, size.height());
+    const QRect right(100, 0, 20, size.height());
+    QVERIFY(Holds(drawn, left, QColor(255, 255, 0)));
+    QVERIFY(Holds(drawn, left, QColor(0, 0, 255)));
+    QVERIFY(!Holds(drawn, left, Qt::black));
+    QVERIFY(Holds(drawn, right, Qt::black));
+    QVERIFY(Holds(drawn, right, Qt::white));
+    QVERIFY(!Holds(drawn, right, QColor(255, 255, 0)));
+}
+
+void CtlProgressWidgetTest::FillColourIsTrueOnAnyBackground()
+{
+    CtlProgress bar(form, u"bar"_s);
+    bar.SetFillColor(0x30A020);
+    bar.SetValue(100);
+    for (const QColor &background : {QColor(Qt::white), QColor(0x31, 0x31, 0x31), QColor(0xF5, 0xF5, 0xF5)})
+        QCOMPARE(Drawn(bar, 1, background).pixelColor(3, 3), QColor(0x20, 0xA0, 0x30));
+}
+
+void CtlProgressWidgetTest::StyleThreeWithACaptionShowsNoText()
+{
+    CtlProgress bar(form, u"bar"_s);
+    bar.SetCaptionStyle(CaptionStyle::PercentWithoutCaption);
+    bar.SetCaption(u"Splitting"_s);
+    bar.SetValue(0);
+    QImage blank(size, QImage::Format_RGB32);
+    blank.fill(Qt::white);
+    QCOMPARE(Drawn(bar), blank);
+    bar.SetCaption(u""_s);
+    bar.SetValue(0);
+    QVERIFY(Drawn(bar) != blank);
+}
+
+void CtlProgressWidgetTest::ResizingAndRefreshingKeepWhatIsDrawn()
+{
+    CtlProgress bar(form, u"bar"_s);
+    CtlProgressWidget widget;
+    widget.SetControl(&bar);
+    bar.SetValue(50);
+    bar.SetMax(200);
+    widget.resize(100, 20);
+    bar.Refresh();
+    widget.TakeOver();
+    const QImage drawn = widget.grab().toImage();
+    QCOMPARE(drawn.pixelColor(45, 2), QColor(0, 0, 255));
+    QVERIFY(drawn.pixelColor(55, 2) != QColor(0, 0, 255));
+    QCOMPARE(widget.Text(), u"50%"_s);
+}
+
+void CtlProgressWidgetTest::EveryPropertyIsTheControls()
+{
+    CtlProgressWidget widget;
+    const QList<std::pair<const char *, QVariant>> rows{
+        {"Appearance", 0},  {"Caption", u"x"_s}, {"Max", 400},        {"Min", -4},
+        {"Enabled", false}, {"BorderStyle", 0},  {"CaptionStyle", 1}, {"FillColor", 5U},
+        {"ForeColor", 6U},  {"BackColor", 7U},   {"Value", 12},
+    };
+    for (const auto &[name, value] : rows) {
+        QVERIFY2(widget.setProperty(name, value), name);
+        QCOMPARE(widget.property(name), value);
+    }
+    QCOMPARE(widget.property("text").toString(), u"x"_s);
+    QCOMPARE(widget.Control().Max(), 400);
+}
+
+void CtlProgressWidgetTest::EqualBoundsFailToTheCaller()
+{
+    CtlProgressWidget widget;
+    widget.SetMax(0);
+    int number = 0;
+    try {
+        widget.SetValue(3);
+    } catch (const Failure &failure) {
+        number = failure.Number();
+    }
+    QCOMPARE(number, 11);
+    QCOMPARE(widget.Value(), 3);
+}
+
+void CtlProgressWidgetTest::AccessTellsValueAndBounds()
+{
+    CtlProgressWidget widget;
+    widget.SetMax(50);
+    widget.SetValue(10);
+    QAccessibleInterface *access = QAccessible::queryAccessibleInterface(&widget);
+    QVERIFY(access);
+    QCOMPARE(access->role(), QAccessible::ProgressBar);
+    QCOMPARE(access->text(QAccessible::Name), u"Progress"_s);
+    QCOMPARE(access->text(QAccessible::Value), u"20%"_s);
+    QCOMPARE(access->valueInterface()->currentValue().toInt(), 10);
+    QCOMPARE(access->valueInterface()->maximumValue().toInt(), 50);
+}
+
+void CtlProgressWidgetTest::FrameIsDrawn()
+{
+    CtlProgressWidget widget;
+    widget.resize(100, 20);
+    const QImage framed = widget.grab().toImage();
+    widget.SetBorderStyle(0);
+    const QImage plain = widget.grab().toImage();
+    QVERIFY(framed.pixel(0, 0) != plain.pixel(0, 0));
+}
+
+QTEST_MAIN(CtlProgressWidgetTest)
+#include "CtlProgressWidgetTest.moc"

@@ -1,0 +1,482 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "widgets/IsButtonWidget.h"
+
+#include "widgets/ButtonToolTip.h"
+#include "widgets/FontFaces.h"
+#include "widgets/SystemColours.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QDialog>
+#include <QLabel>
+#include <QProxyStyle>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <memory>
+
+using namespace tressel;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+int warnings = 0;
+
+void CountWarnings(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    if (type != QtDebugMsg && type != QtInfoMsg && !message.contains(u"XDG_RUNTIME_DIR"_s))
+        ++warnings;
+}
+
+/// A button that counts how often it is painted.
+class CountingButton : public IsButtonWidget {
+public:
+    using IsButtonWidget::IsButtonWidget;
+    int paints = 0;
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        ++paints;
+        IsButtonWidget::paintEvent(event);
+    }
+};
+
+} // namespace
+
+class IsButtonWidgetTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void EveryPropertyIsTheControls();
+    void ClickAndItsStates();
+    void RightClickDoesNothing();
+    void ReleasedOutsideIsNoClick();
+    void FastSecondClickCountsToo();
+    void EnterComesOnceUntilTheLeave();
+    void LeavingWhilePressedClearsHover();
+    void SpaceKeyClicks();
+    void HeldSpaceKeyClicksOnce();
+    void MnemonicPresses();
+    void TabReachesIt();
+    void PaletteAndStyleChangesRepaint();
+    void WritingAPropertyRepaints();
+    void ShapeIsAMask();
+    void SizeIsTheControls();
+    void ToolTipIsHandedOver();
+    void ToolTipHasTitleIconColoursAndBalloon();
+    void EmptyToolTipShowsNothing();
+    void ToolTipColourZeroIsTheDesktops();
+    void AboutTellsNameAndVersion();
+    void HandlerMayDeleteTheWidget();
+    void LooksWarnAboutNothing();
+    void FractionalPlacesStaySharp();
+
+private:
+    /// The pointer itself stays where init put it, so that no event of the desktop mixes in.
+    void Hover(const QPoint &place)
+    {
+        QMouseEvent moved(QEvent::MouseMove, place, button->mapToGlobal(place), Qt::NoButton, Qt::NoButton,
+                          {});
+        QApplication::sendEvent(button, &moved);
+    }
+
+    std::unique_ptr<QWidget> window;
+    CountingButton *button = nullptr;
+    std::unique_ptr<Form> form;
+    std::unique_ptr<IsButton> control;
+    int clicks = 0;
+    int enters = 0;
+    int leaves = 0;
+};
+
+void IsButtonWidgetTest::init()
+{
+    form = std::make_unique<Form>(u"frmTest"_s);
+    control = std::make_unique<IsButton>(*form, u"btnTest"_s, u"&Apply"_s);
+    clicks = enters = leaves = 0;
+    control->Click.Handle([this] { ++clicks; });
+    control->MouseEnter.Handle([this] { ++enters; });
+    control->MouseLeave.Handle([this] { ++leaves; });
+    window = std::make_unique<QWidget>();
+    window->resize(300, 200);
+    button = new CountingButton(window.get());
+    button->setObjectName(u"btnTest"_s);
+    button->setGeometry(50, 50, 100, 30);
+    button->SetControl(control.get());
+    QCursor::setPos(window->screen()->geometry().bottomRight());
+    window->move(0, 0);
+    window->show();
+    QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    QVERIFY(!button->underMouse());
+    warnings = 0;
+}
+
+void IsButtonWidgetTest::cleanup()
+{
+    window.reset();
+    control.reset();
+    form.reset();
+}
+
+void IsButtonWidgetTest::EveryPropertyIsTheControls()
+{
+    const QList<std::pair<const char *, QVariant>> rows{
+        {"Style", 9},
+        {"Caption", u"x"_s},
+        {"text", u"y"_s},
+        {"Icon", u"make"_s},
+        {"IconAlign", 2},
+        {"IconSize", 24},
+        {"CaptionAlign", 3},
+        {"NonThemeStyle", 7},
+        {"Enabled", false},
+        {"ShowFocus", true},
+        {"UseCustomColors", true},
+        {"BackColor", 1U},
+        {"HighlightColor", 2U},
+        {"FontColor", 3U},
+        {"FontHighlightColor", 4U},
+        {"ToolTip", u"tip"_s},
+        {"ToolTipTitle", u"title"_s},
+        {"ToolTipIcon", 1},
+        {"ToolTipType", 1},
+        {"ToolTipBackColor", 5U},
+        {"ToolTipForeColor", 6U},
+        {"ButtonType", 1},
+        {"Value", true},
+    };
+    for (const auto &[name, value] : rows) {
+        QVERIFY2(button->setProperty(name, value), name);
+        QCOMPARE(button->property(name), value);
+    }
+    QCOMPARE(button->property("Version").toString(), u"3.0"_s);
+    QCOMPARE(control->Caption(), u"y"_s);
+    QCOMPARE(control->Style(), ButtonStyle::Keramik);
+    QFont font(u"Serif"_s, 14);
+    QVERIFY(button->setProperty("Font", font));
+    QCOMPARE(control->Font()->points, 14.0);
+    button->TakeOver();
+    QCOMPARE(button->font().pointSizeF(), 14.0);
+    QVERIFY(!button->isEnabled());
+}
+
+void IsButtonWidgetTest::ClickAndItsStates()
+{
+    QTest::mousePress(button, Qt::LeftButton);
+    QCOMPARE(control->ShownState(), LookState::Pressed);
+    QCOMPARE(clicks, 0);
+    QTest::mouseRelease(button, Qt::LeftButton);
+    QCOMPARE(control->ShownState(), LookState::Hover);
+    QCOMPARE(clicks, 1);
+}
+
+void IsButtonWidgetTest::RightClickDoesNothing()
+{
+    QTest::mousePress(button, Qt::RightButton);
+    QCOMPARE(control->ShownState(), LookState::Normal);
+    QTest::mouseRelease(button, Qt::RightButton);
+    QCOMPARE(clicks, 0);
+}
+
+void IsButtonWidgetTest::ReleasedOutsideIsNoClick()
+{
+    QTest::mousePress(button, Qt::LeftButton, {}, {10, 10});
+    QTest::mouseRelease(button, Qt::LeftButton, {}, {10, 100});
+    QCOMPARE(clicks, 0);
+    QCOMPARE(control->ShownState(), LookState::Normal);
+}
+
+void IsButtonWidgetTest::FastSecondClickCountsToo()
+{
+    QTest::mouseClick(button, Qt::LeftButton);
+    QTest::mouseDClick(button, Qt::LeftButton);
+    QCOMPARE(control->ShownState(), LookState::Pressed);
+    QTest::mouseRelease(button, Qt::LeftButton);
+    QCOMPARE(clicks, 2);
+}
+
+void IsButtonWidgetTest::EnterComesOnceUntilTheLeave()
+{
+    Hover({5, 5});
+    Hover({6, 6});
+    Hover({7, 7});
+    QCOMPARE(enters, 1);
+    QCOMPARE(control->ShownState(), LookState::Hover);
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(button, &leave);
+    QCOMPARE(leaves, 1);
+    QCOMPARE(control->ShownState(), LookState::Normal);
+    Hover({5, 5});
+    QCOMPARE(enters, 2);
+}
+
+void IsButtonWidgetTest::LeavingWhilePressedClearsHover()
+{
+    Hover({5, 5});
+    QTest::mousePress(button, Qt::LeftButton, {}, {5, 5});
+    QMouseEvent outside(QEvent::MouseMove, QPointF(5, 90), button->mapToGlobal(QPointF(5, 90)), Qt::NoButton,
+                        Qt::LeftButton, {});
+    QApplication::sendEvent(button, &outside);
+    QCOMPARE(leaves, 1);
+    QVERIFY(!control->IsHovered());
+    QCOMPARE(control->ShownState(), LookState::Normal);
+}
+
+void IsButtonWidgetTest::SpaceKeyClicks()
+{
+    button->setFocus();
+    QTest::keyPress(button, Qt::Key_Space);
+    QCOMPARE(clicks, 1);
+    QCOMPARE(control->ShownState(), LookState::Pressed);
+    QTest::keyRelease(button, Qt::Key_Space);
+    QCOMPARE(control->ShownState(), LookState::Hover);
+    QTest::keyClick(button, Qt::Key_Space);
+    QCOMPARE(clicks, 3);
+}
+
+void IsButtonWidgetTest::HeldSpaceKeyClicksOnce()
+{
+    QTest::keyPress(button, Qt::Key_Space);
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Space, {}, u" "_s, true);
+    QApplication::sendEvent(button, &repeated);
+    QCOMPARE(clicks, 1);
+}
+
+void IsButtonWidgetTest::MnemonicPresses()
+{
+    QTest::keyClick(window.get(), Qt::Key_A, Qt::AltModifier);
+    QCOMPARE(clicks, 1);
+    QVERIFY(button->hasFocus());
+    QCOMPARE(control->ShownState(), LookState::Normal);
+    control->SetCaption(u"&Join"_s);
+    button->TakeOver();
+    QTest::keyClick(window.get(), Qt::Key_A, Qt::AltModifier);
+    QCOMPARE(clicks, 1);
+    QTest::keyClick(window.get(), Qt::Key_J, Qt::AltModifier);
+    QCOMPARE(clicks, 2);
+}
+
+void IsButtonWidgetTest::TabReachesIt()
+{
+    auto *other = new IsButtonWidget(window.get());
+    other->setGeometry(50, 100, 100, 30);
+    other->show();
+    other->setFocus();
+    QVERIFY(!control->HasFocus());
+    QTest::keyClick(other, Qt::Key_Tab);
+    QVERIFY(button->hasFocus());
+    QVERIFY(control->HasFocus());
+    const QImage focused = button->grab().toImage();
+    QTest::keyClick(button, Qt::Key_Tab);
+    QVERIFY(!control->HasFocus());
+    QVERIFY(button->grab().toImage() != focused);
+}
+
+void IsButtonWidgetTest::PaletteAndStyleChangesRepaint()
+{
+    QTRY_VERIFY(button->paints > 0);
+    const auto repaints = [this](const std::function<void()> &change) {
+        QApplication::processEvents();
+        button->paints = 0;
+        change();
+        return QTest::qWaitFor([this] { return button->paints > 0; });
+    };
+    QVERIFY(repaints([this] {
+        QPalette changed = window->palette();
+        changed.setColor(QPalette::Button, Qt::green);
+        window->setPalette(changed);
+    }));
+    QProxyStyle style;
+    QVERIFY(repaints([&] { button->setStyle(&style); }));
+    QVERIFY(repaints([&] { button->setStyle(nullptr); }));
+}
+
+void IsButtonWidgetTest::WritingAPropertyRepaints()
+{
+    auto *own = new CountingButton(window.get());
+    own->show();
+    QTRY_VERIFY(own->paints > 0);
+    QApplication::processEvents();
+    own->paints = 0;
+    own->setProperty("Caption", u"other"_s);
+    QTRY_VERIFY(own->paints > 0);
+}
+
+void IsButtonWidgetTest::ShapeIsAMask()
+{
+    QCOMPARE(button->mask().boundingRect(), QRect(0, 0, 100, 30));
+    QVERIFY(!button->mask().contains(QPoint(0, 0)));
+    control->SetStyle(ButtonStyle::Pill);
+    button->TakeOver();
+    QVERIFY(!button->mask().contains(QPoint(2, 2)));
+    QVERIFY(button->mask().contains(QPoint(10, 0)));
+    button->resize(120, 40);
+    QCOMPARE(button->mask().boundingRect(), QRect(0, 0, 120, 40));
+    control->SetStyle(ButtonStyle::Flat);
+    button->TakeOver();
+    QVERIFY(button->mask().isEmpty());
+}
+
+void IsButtonWidgetTest::SizeIsTheControls()
+{
+    QCOMPARE(control->Width(), 1500);
+    QCOMPARE(control->Height(), 450);
+    button->resize(10, 10);
+    QCOMPARE(button->size(), QSize(20, 20));
+    QCOMPARE(control->Width(), 300);
+    QVERIFY(!button->grab().isNull());
+    QCOMPARE(warnings, 0);
+}
+
+void IsButtonWidgetTest::ToolTipIsHandedOver()
+{
+    button->hide();
+    control->Control::SetToolTip(u" Browse... "_s);
+    button->show();
+    QCOMPARE(control->ToolTip(), u" Browse... "_s);
+    QCOMPARE(control->Control::ToolTip(), u""_s);
+    button->hide();
+    QCOMPARE(control->Control::ToolTip(), u" Browse... "_s);
+}
+
+void IsButtonWidgetTest::ToolTipHasTitleIconColoursAndBalloon()
+{
+    control->SetToolTip(u"Makes the folders of the list"_s);
+    control->SetToolTipTitle(u"Make"_s);
+    control->SetToolTipIcon(ToolTipIconKind::Information);
+    control->SetToolTipType(ToolTipShape::Balloon);
+    control->SetToolTipBackColor(0x102030);
+    control->SetToolTipForeColor(0xE0F0FF);
+    QVERIFY(!button->Tip());
+    Hover({5, 5});
+    QVERIFY(button->Tip());
+    QCOMPARE(button->Tip()->Text(), u"Makes the folders of the list"_s);
+    QCOMPARE(button->Tip()->Title(), u"Make"_s);
+    QVERIFY(button->Tip()->HasIcon());
+    QVERIFY(button->Tip()->IsBalloon());
+    QCOMPARE(button->Tip()->Face(), QColor(0x30, 0x20, 0x10));
+    QCOMPARE(button->Tip()->TextColour(), QColor(0xFF, 0xF0, 0xE0));
+    QVERIFY(!button->Tip()->isVisible());
+
+    const QPoint place = button->mapToGlobal(QPoint(5, 5));
+    QHelpEvent help(QEvent::ToolTip, QPoint(5, 5), place);
+    QApplication::sendEvent(button, &help);
+    QVERIFY(button->Tip()->isVisible());
+    auto *shown = const_cast<ButtonToolTip *>(button->Tip());
+    const QImage drawn = shown->grab().toImage();
+    QCOMPARE(drawn.pixelColor(drawn.width() - 4, drawn.height() / 2), QColor(0x30, 0x20, 0x10));
+
+    QTest::mousePress(button, Qt::LeftButton);
+    QVERIFY(!button->Tip()->isVisible());
+    QTest::mouseRelease(button, Qt::LeftButton);
+
+    // Built anew each time the pointer comes.
+    control->SetToolTip(u"Other"_s);
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(button, &leave);
+    QCOMPARE(button->Tip()->Text(), u"Makes the folders of the list"_s);
+    Hover({6, 6});
+    QCOMPARE(button->Tip()->Text(), u"Other"_s);
+}
+
+void IsButtonWidgetTest::EmptyToolTipShowsNothing()
+{
+    control->SetToolTipTitle(u"Make"_s);
+    Hover({5, 5});
+    QVERIFY(button->Tip());
+    QHelpEvent help(QEvent::ToolTip, QPoint(5, 5), button->mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(button, &help);
+    QVERIFY(!button->Tip()->isVisible());
+}
+
+void IsButtonWidgetTest::ToolTipColourZeroIsTheDesktops()
+{
+    control->SetToolTip(u"tip"_s);
+    control->SetToolTipBackColor(0);
+    control->SetToolTipForeColor(0);
+    const ButtonToolTip zero(*control, *button);
+    control->SetToolTipBackColor(NumberOf(SystemColour::ToolTipFace));
+    control->SetToolTipForeColor(NumberOf(SystemColour::ToolTipText));
+    const ButtonToolTip system(*control, *button);
+    QCOMPARE(zero.Face(), system.Face());
+    QCOMPARE(zero.TextColour(), system.TextColour());
+    QVERIFY(!zero.IsBalloon());
+    QVERIFY(!zero.HasIcon());
+}
+
+void IsButtonWidgetTest::AboutTellsNameAndVersion()
+{
+    control->About();
+    auto *box = window->findChild<QDialog *>(u"isButtonAbout"_s);
+    QVERIFY(box);
+    QVERIFY(box->isVisible());
+    QStringList texts;
+    for (const QLabel *label : box->findChildren<QLabel *>())
+        texts.append(label->text());
+    QVERIFY(texts.contains(u"isButton"_s));
+    QVERIFY(texts.contains(u"Version 3.0"_s));
+    auto *close = box->findChild<IsButtonWidget *>(u"btnClose"_s);
+    QVERIFY(close);
+    QCOMPARE(close->Caption(), u"Close"_s);
+    QTest::mouseClick(close, Qt::LeftButton);
+    QVERIFY(!box->isVisible());
+}
+
+void IsButtonWidgetTest::HandlerMayDeleteTheWidget()
+{
+    control->Click.Handle([this] {
+        delete button;
+        button = nullptr;
+    });
+    QAccessibleInterface *access = QAccessible::queryAccessibleInterface(button);
+    access->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QVERIFY(!button);
+}
+
+void IsButtonWidgetTest::LooksWarnAboutNothing()
+{
+    const QtMessageHandler before = qInstallMessageHandler(CountWarnings);
+    for (int style = -1; style <= 11; ++style) {
+        for (const bool isEnabled : {true, false}) {
+            control->SetStyle(static_cast<ButtonStyle>(style));
+            control->SetIcon(Picture(QByteArray("no picture")));
+            control->SetEnabled(isEnabled);
+            button->TakeOver();
+            button->grab();
+        }
+    }
+    qInstallMessageHandler(before);
+    QCOMPARE(warnings, 0);
+}
+
+void IsButtonWidgetTest::FractionalPlacesStaySharp()
+{
+    // A window drawn at 150 %: odd places fall between two pixels of the screen.
+    button->clearFocus();
+    button->setGeometry(51, 51, 101, 31);
+    QPixmap screen(450, 300);
+    screen.setDevicePixelRatio(1.5);
+    screen.fill(Qt::white);
+    window->render(&screen);
+    const QImage drawn = screen.toImage();
+    const int middle = qRound(51 * 1.5 + 31 * 1.5 / 2);
+    const int left = qRound(51 * 1.5);
+    const int right = qRound((51 + 101) * 1.5) - 1;
+    const QRgb frame = 0xFF003C74;
+    QCOMPARE(drawn.pixel(left, middle), frame);
+    QCOMPARE(drawn.pixel(right, middle), frame);
+    for (int x = left; x < left + 3; ++x) {
+        const QColor colour = drawn.pixelColor(x, middle);
+        QVERIFY2(colour.rgb() == frame || colour.lightness() > 200,
+                 qPrintable(u"%1: %2"_s.arg(x - left).arg(colour.name())));
+    }
+}
+
+QTEST_MAIN(IsButtonWidgetTest)
+#include "IsButtonWidgetTest.moc"
