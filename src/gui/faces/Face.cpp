@@ -26,8 +26,7 @@ void Face::TakeOver()
 {
     const QScopedValueRollback guard(showing, true);
     widget.setEnabled(control.IsEnabled());
-    if (widget.toolTip() != control.ToolTip())
-        widget.setToolTip(control.ToolTip());
+    ShowToolTip();
     for (const QPointer<QWidget> &part : std::as_const(parts)) {
         if (part)
             part->setAcceptDrops(control.TakesDrops());
@@ -48,6 +47,12 @@ void Face::ShowVisible(bool visible)
         widget.testAttribute(Qt::WA_WState_ExplicitShowHide) && widget.testAttribute(Qt::WA_WState_Hidden);
     if (hidden == visible)
         widget.setVisible(visible);
+}
+
+void Face::ShowToolTip()
+{
+    if (widget.toolTip() != control.ToolTip())
+        widget.setToolTip(control.ToolTip());
 }
 
 void Face::Watch(QWidget &part)
