@@ -26,7 +26,9 @@ void Face::TakeOver()
 {
     const QScopedValueRollback guard(showing, true);
     widget.setEnabled(control.IsEnabled());
-    ShowToolTip();
+    // Of a control that shows a tool tip of its own, this is the form's, which it hides meanwhile.
+    if (const QString &toolTip = control.Control::ToolTip(); widget.toolTip() != toolTip)
+        widget.setToolTip(toolTip);
     for (const QPointer<QWidget> &part : std::as_const(parts)) {
         if (part)
             part->setAcceptDrops(control.TakesDrops());
@@ -47,12 +49,6 @@ void Face::ShowVisible(bool visible)
         widget.testAttribute(Qt::WA_WState_ExplicitShowHide) && widget.testAttribute(Qt::WA_WState_Hidden);
     if (hidden == visible)
         widget.setVisible(visible);
-}
-
-void Face::ShowToolTip()
-{
-    if (widget.toolTip() != control.ToolTip())
-        widget.setToolTip(control.ToolTip());
 }
 
 void Face::Watch(QWidget &part)
@@ -90,7 +86,7 @@ bool Face::FilterDrop(QEvent *event)
 bool Face::FilterToolTip(QEvent *event)
 {
     // A name may look like marked-up text; it is shown as it stands.
-    const QString text = control.ToolTip();
+    const QString text = control.Control::ToolTip();
     if (!Qt::mightBeRichText(text))
         return false;
     QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),

@@ -35,7 +35,6 @@ protected:
     /// Shows what only this kind of control has.
     virtual void Show() = 0;
     virtual void ShowVisible(bool visible);
-    virtual void ShowToolTip();
 
     /// Runs a user's act on the control, unless the face itself caused it by showing. The widget may have
     /// run ahead of what the control made of the act, so the control's state is shown anew soon after.

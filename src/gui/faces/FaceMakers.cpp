@@ -4,7 +4,6 @@
 #include "faces/FaceMakers.h"
 
 #include "controls/DriveList.h"
-#include "faces/ButtonFace.h"
 #include "faces/CheckBoxFace.h"
 #include "faces/ComboFace.h"
 #include "faces/FrameFace.h"
@@ -36,7 +35,6 @@ FaceMakers::FaceMakers(const FaceLooks &looks)
     Add<ComboBox, QComboBox, ComboFace>();
     Add<TreeView, QTreeView, TreeFace>(looks.nodes);
     Add<ProgressBar, QProgressBar, ProgressFace>();
-    Add<IsButton, QAbstractButton, ButtonFace>();
 }
 
 Face *FaceMakers::Make(Control &control, QWidget &widget) const

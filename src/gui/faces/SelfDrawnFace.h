@@ -8,7 +8,7 @@
 namespace tressel {
 
 /// The face of a control whose widget is drawn for it alone and does the work itself: it takes the control
-/// by SetControl, and its state, tool tip and the user's acts are the widget's own affair. `takeOver` is
+/// by SetControl, and showing it and handing on the user's acts are the widget's own affair. `takeOver` is
 /// the widget's function that shows the present state.
 template <typename ControlKind, typename WidgetKind, void (WidgetKind::*takeOver)()>
 class SelfDrawnFace : public Face {
@@ -22,7 +22,6 @@ public:
 
 protected:
     void Show() override { (view.*takeOver)(); }
-    void ShowToolTip() override { }
 
 private:
     WidgetKind &view;

@@ -146,14 +146,12 @@ private Q_SLOTS:
     {
         Form form(u"f"_s);
         Label label(form, u"lblTitle"_s, u"text"_s);
-        label.SetToolTip(u"its own affair"_s);
         Bound bound(form);
         bound.makers.Add<Label, Drawn, SelfDrawnFace<Label, Drawn, &Drawn::Refresh>>();
         auto &widget = bound.Add<Drawn>(u"lblTitle"_s);
         bound.Bind();
         QCOMPARE(widget.control, &label);
         QVERIFY(widget.refreshed > 0);
-        QCOMPARE(widget.toolTip(), QString());
     }
 
     void OwnKindsAreAskedFirst()

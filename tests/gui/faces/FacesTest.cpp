@@ -4,7 +4,6 @@
 #include "controls/CheckBox.h"
 #include "controls/ComboBox.h"
 #include "controls/Frame.h"
-#include "controls/IsButton.h"
 #include "controls/Label.h"
 #include "controls/OptionGroup.h"
 #include "controls/ProgressBar.h"
@@ -19,7 +18,6 @@
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QProgressBar>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
 #include <QTest>
@@ -399,24 +397,6 @@ private Q_SLOTS:
         QVERIFY(group.isVisible());
         QCOMPARE(stack.currentWidget(), pageTwo);
         QVERIFY(pageTwo->isVisible() && !pageOne->isVisible());
-    }
-
-    void ButtonClicks()
-    {
-        Form form(u"f"_s);
-        IsButton button(form, u"btnGBMake"_s, u"Make"_s);
-        int clicks = 0;
-        button.Click.Handle([&] { ++clicks; });
-        Bound bound(form);
-        auto &widget = bound.Add<QPushButton>(u"btnGBMake"_s);
-        bound.Bind();
-        QCOMPARE(widget.text(), u"Make"_s);
-        QTest::mouseClick(&widget, Qt::LeftButton);
-        QCOMPARE(clicks, 1);
-        button.SetEnabled(false);
-        bound.updates.Flush();
-        QTest::mouseClick(&widget, Qt::LeftButton);
-        QCOMPARE(clicks, 1);
     }
 
     void DroppedPathsKeepOddBytes()
