@@ -8,6 +8,7 @@ namespace tressel {
 TimerPulse::TimerPulse(Timer &control, QObject *parent)
     : QObject(parent)
     , timer(control)
+    , pulse(this)
 {
     connect(&pulse, &QTimer::timeout, this, [this] { timer.Elapse(); });
 }

@@ -6,6 +6,7 @@
 #include "machine/PlainColours.h"
 
 #include <QColorDialog>
+#include <QFontInfo>
 #include <QGridLayout>
 #include <QPushButton>
 
@@ -24,6 +25,8 @@ FontDialog::FontDialog(const FontChoice &font, QWidget *parent)
     shown.setItalic(font.italic);
     shown.setUnderline(font.underline);
     shown.setStrikeOut(font.strikeout);
+    // The dialog knows styles only of real families, not of names that stand for one.
+    shown.setFamily(QFontInfo(shown).family());
     setCurrentFont(shown);
 
     colourButton = new QPushButton(u"Color..."_s, this);

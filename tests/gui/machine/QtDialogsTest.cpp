@@ -10,6 +10,7 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -22,15 +23,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Does something with the next modal dialog of this kind once it is up.
+/// Does something with the next modal dialog of this kind once it is up; a failed check ends the dialog.
 template <typename Dialog, typename Act> void WhenUp(Act act)
 {
     QTimer::singleShot(0, qApp, [act] {
         auto *dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget());
-        if (dialog && dialog->isVisible())
-            act(*dialog);
-        else
+        if (!dialog || !dialog->isVisible()) {
             WhenUp<Dialog>(act);
+            return;
+        }
+        act(*dialog);
+        if (QTest::currentTestFailed())
+            dialog->reject();
     });
 }
 
@@ -272,7 +276,7 @@ private Q_SLOTS:
     void AFontComesBackWithItsColour()
     {
         FontChoice font;
-        font.family = QApplication::font().family();
+        font.family = QFontInfo(QApplication::font()).family();
         font.points = 12;
         font.bold = true;
         font.underline = true;
