@@ -32,9 +32,10 @@ struct FileDialogRequest {
     QString filter; ///< "Label|*.a;*.b|Label|*.c"
     int filterIndex = 1; ///< 1-based; an index beyond the filters means the first
     QString defaultExtension; ///< with or without its dot
-    bool several = false; ///< several files may be chosen
+    bool several = false; ///< several files may be chosen, all of which exist
     bool askBeforeOverwriting = false;
     bool mustExist = false;
+    bool centreOnOwner = true; ///< else on the screen
 };
 
 /// What the user chose, and the folder that the dialog stood in when it closed.

@@ -36,14 +36,23 @@ Binder::Binder(Form &boundForm, QWidget &window, const FaceMakers &makers)
     : form(boundForm)
 {
     Walk(window, makers);
+    StartTimers(window);
     SetTabOrder();
+}
+
+void Binder::TakeOver(const Control &control) const
+{
+    if (Face *face = FaceOf(control))
+        face->TakeOver();
+    else if (TimerPulse *pulse = pulses.value(&control))
+        pulse->TakeOver();
 }
 
 QStringList Binder::ControlsWithoutFace() const
 {
     QStringList names;
     for (const Control *control : form.Controls()) {
-        if (!FaceOf(*control))
+        if (!FaceOf(*control) && !pulses.contains(control))
             names += control->Name();
     }
     return names;
@@ -70,6 +79,14 @@ void Binder::Bind(QWidget &widget, const FaceMakers &makers)
         faces.insert(control, face);
     else
         strangers += widget.objectName();
+}
+
+void Binder::StartTimers(QWidget &window)
+{
+    for (Control *control : form.Controls()) {
+        if (auto *timer = dynamic_cast<Timer *>(control))
+            pulses.insert(timer, new TimerPulse(*timer, &window));
+    }
 }
 
 void Binder::SetTabOrder() const

@@ -6,6 +6,7 @@
 #include "controls/Form.h"
 #include "faces/Face.h"
 #include "faces/FaceMakers.h"
+#include "faces/TimerPulse.h"
 
 #include <QHash>
 #include <QPointer>
@@ -27,7 +28,10 @@ public:
     /// Null for a control without a face.
     Face *FaceOf(const Control &control) const { return faces.value(&control); }
 
-    /// Names of controls that no widget of the window shows, in the form's order.
+    /// Has the control's face, or a timer's pulse, take the control's state over.
+    void TakeOver(const Control &control) const;
+
+    /// Names of controls that no widget of the window shows, in the form's order. A timer needs none.
     QStringList ControlsWithoutFace() const;
     /// Names of widgets that show no control: no control has the name, or not of a kind that the widget
     /// can show, or another widget of that name shows it.
@@ -36,10 +40,12 @@ public:
 private:
     void Walk(QWidget &parent, const FaceMakers &makers);
     void Bind(QWidget &widget, const FaceMakers &makers);
+    void StartTimers(QWidget &window);
     void SetTabOrder() const;
 
     Form &form;
     QHash<const Control *, QPointer<Face>> faces;
+    QHash<const Control *, QPointer<TimerPulse>> pulses;
     QStringList strangers;
 };
 

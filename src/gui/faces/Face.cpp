@@ -26,8 +26,9 @@ void Face::TakeOver()
 {
     const QScopedValueRollback guard(showing, true);
     widget.setEnabled(control.IsEnabled());
-    if (widget.toolTip() != control.ToolTip())
-        widget.setToolTip(control.ToolTip());
+    // Of a control that shows a tool tip of its own, this is the form's, which it hides meanwhile.
+    if (const QString &toolTip = control.Control::ToolTip(); widget.toolTip() != toolTip)
+        widget.setToolTip(toolTip);
     for (const QPointer<QWidget> &part : std::as_const(parts)) {
         if (part)
             part->setAcceptDrops(control.TakesDrops());
@@ -85,7 +86,7 @@ bool Face::FilterDrop(QEvent *event)
 bool Face::FilterToolTip(QEvent *event)
 {
     // A name may look like marked-up text; it is shown as it stands.
-    const QString text = control.ToolTip();
+    const QString text = control.Control::ToolTip();
     if (!Qt::mightBeRichText(text))
         return false;
     QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),

@@ -4,35 +4,37 @@
 #include "faces/FaceMakers.h"
 
 #include "controls/DriveList.h"
-#include "faces/ButtonFace.h"
 #include "faces/CheckBoxFace.h"
 #include "faces/ComboFace.h"
 #include "faces/FrameFace.h"
 #include "faces/LabelFace.h"
 #include "faces/ListFace.h"
 #include "faces/OptionFace.h"
+#include "faces/PictureFace.h"
 #include "faces/ProgressFace.h"
 #include "faces/TextFace.h"
+#include "faces/TreeFace.h"
 
 #include <ranges>
 
 namespace tressel {
 
-FaceMakers::FaceMakers(const FaceIcons &icons)
+FaceMakers::FaceMakers(const FaceLooks &looks)
 {
-    Add<Frame, QWidget, FrameFace>();
-    Add<Label, QLabel, LabelFace>();
+    Add<Frame, QWidget, FrameFace>(looks);
+    Add<PictureBox, QWidget, PictureFace>(looks);
+    Add<Label, QLabel, LabelFace>(looks);
     Add<TextBox, QLineEdit, LineFace>();
     Add<TextBox, QPlainTextEdit, LinesFace>();
     Add<CheckBox, QCheckBox, CheckBoxFace>();
     Add<OptionButton, QRadioButton, OptionFace>();
     Add<ListBox, QListView, ListFace>();
-    Add<FolderList, QListView, FolderFace>(icons.folder);
+    Add<CheckListBox, QListView, CheckListFace>();
+    Add<FolderList, QListView, FolderFace>(looks.folder);
     Add<DriveList, QComboBox, ChoiceFace>();
     Add<ComboBox, QComboBox, ComboFace>();
-    Add<TreeView, QTreeView, TreeFace>(icons.nodes);
+    Add<TreeView, QTreeView, TreeFace>(looks.nodes);
     Add<ProgressBar, QProgressBar, ProgressFace>();
-    Add<IsButton, QAbstractButton, ButtonFace>();
 }
 
 Face *FaceMakers::Make(Control &control, QWidget &widget) const

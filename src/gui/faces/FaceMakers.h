@@ -3,20 +3,13 @@
 
 #pragma once
 
-#include "faces/TreeFace.h"
-
-#include <QIcon>
+#include "faces/Face.h"
+#include "faces/FaceLooks.h"
 
 #include <functional>
 #include <vector>
 
 namespace tressel {
-
-/// Pictures that faces of stock kinds show.
-struct FaceIcons {
-    QIcon folder; ///< in front of each row of a folder list
-    NodeIcons nodes; ///< of the nodes of trees
-};
 
 /// Which face goes with which kinds of control and widget. It knows the stock kinds; hand-drawn widgets
 /// are added by those who draw them.
@@ -25,7 +18,7 @@ public:
     /// Makes the face for the control and the widget, or gives null if they aren't its kinds.
     using Maker = std::function<Face *(Control &, QWidget &)>;
 
-    explicit FaceMakers(const FaceIcons &icons = {});
+    explicit FaceMakers(const FaceLooks &looks = {});
 
     /// Is asked before those that were there.
     void Add(Maker maker) { makers.push_back(std::move(maker)); }

@@ -4,13 +4,16 @@
 #include "faces/FrameFace.h"
 
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QStackedWidget>
 
 namespace tressel {
 
-FrameFace::FrameFace(Frame &control, QWidget &widget)
+FrameFace::FrameFace(Frame &control, QWidget &widget, const FaceLooks &faceLooks)
     : Face(control, widget)
     , frame(control)
+    , looks(faceLooks)
+    , shownColour(NumberOf(SystemColour::ButtonFace))
 {
 }
 
@@ -19,6 +22,19 @@ void FrameFace::Show()
     auto *box = qobject_cast<QGroupBox *>(&Widget());
     if (box && box->title() != frame.Caption())
         box->setTitle(frame.Caption());
+    ShowBackColor();
+}
+
+void FrameFace::ShowBackColor()
+{
+    // A ground that was never written is the toolkit's own.
+    if (shownColour == frame.BackColor() || !looks.colour)
+        return;
+    shownColour = frame.BackColor();
+    QPalette palette = Widget().palette();
+    palette.setColor(QPalette::Window, looks.colour(shownColour, QGuiApplication::palette()));
+    Widget().setPalette(palette);
+    Widget().setAutoFillBackground(true);
 }
 
 void FrameFace::ShowVisible(bool visible)

@@ -5,6 +5,7 @@
 
 #include "controls/Frame.h"
 #include "faces/Face.h"
+#include "faces/FaceLooks.h"
 
 namespace tressel {
 
@@ -12,14 +13,18 @@ namespace tressel {
 /// is a page of a QStackedWidget, showing it makes it the page on top.
 class FrameFace : public Face {
 public:
-    FrameFace(Frame &control, QWidget &widget);
+    FrameFace(Frame &control, QWidget &widget, const FaceLooks &looks);
 
 protected:
     void Show() override;
     void ShowVisible(bool visible) override;
 
 private:
+    void ShowBackColor();
+
     Frame &frame;
+    FaceLooks looks;
+    ColourNumber shownColour;
 };
 
 } // namespace tressel

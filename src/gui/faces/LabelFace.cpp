@@ -4,15 +4,19 @@
 #include "faces/LabelFace.h"
 
 #include "faces/Keys.h"
+#include "faces/Twips.h"
 
+#include <QGuiApplication>
 #include <QMouseEvent>
 
 namespace tressel {
 
-LabelFace::LabelFace(Label &control, QLabel &widget)
+LabelFace::LabelFace(Label &control, QLabel &widget, const FaceLooks &faceLooks)
     : Face(control, widget)
     , label(control)
     , view(widget)
+    , looks(faceLooks)
+    , shownColour(NumberOf(SystemColour::ButtonText))
 {
     view.setTextFormat(Qt::PlainText);
 }
@@ -21,6 +25,19 @@ void LabelFace::Show()
 {
     if (view.text() != label.Caption())
         view.setText(label.Caption());
+    label.TakeWidth(ToTwips(view.sizeHint().width()));
+    ShowForeColor();
+}
+
+void LabelFace::ShowForeColor()
+{
+    // A colour that was never written is the toolkit's own.
+    if (shownColour == label.ForeColor() || !looks.colour)
+        return;
+    shownColour = label.ForeColor();
+    QPalette palette = view.palette();
+    palette.setColor(QPalette::WindowText, looks.colour(shownColour, QGuiApplication::palette()));
+    view.setPalette(palette);
 }
 
 bool LabelFace::eventFilter(QObject *watched, QEvent *event)

@@ -5,6 +5,7 @@
 
 #include "controls/Label.h"
 #include "faces/Face.h"
+#include "faces/FaceLooks.h"
 
 #include <QLabel>
 
@@ -14,15 +15,19 @@ namespace tressel {
 /// have the keyboard, so are Enter and the space bar.
 class LabelFace : public Face {
 public:
-    LabelFace(Label &control, QLabel &widget);
+    LabelFace(Label &control, QLabel &widget, const FaceLooks &looks);
 
 protected:
     void Show() override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void ShowForeColor();
+
     Label &label;
     QLabel &view;
+    FaceLooks looks;
+    ColourNumber shownColour;
 };
 
 } // namespace tressel

@@ -3,6 +3,7 @@
 
 #include "faces/ListFace.h"
 
+#include "faces/CheckRows.h"
 #include "faces/FolderRows.h"
 #include "faces/Keys.h"
 
@@ -89,8 +90,8 @@ bool RowsFace::eventFilter(QObject *watched, QEvent *event)
     return Face::eventFilter(watched, event);
 }
 
-ListFace::ListFace(ListBox &control, QListView &widget)
-    : RowsFace(control, widget, std::make_unique<ItemModel>())
+ListFace::ListFace(ListBox &control, QListView &widget, std::unique_ptr<ItemModel> rows)
+    : RowsFace(control, widget, std::move(rows))
     , list(control)
 {
     widget.viewport()->setMouseTracking(true);
@@ -111,6 +112,19 @@ bool ListFace::eventFilter(QObject *watched, QEvent *event)
 void ListFace::OpenRow(int row)
 {
     list.UserActivates(row);
+}
+
+CheckListFace::CheckListFace(CheckListBox &control, QListView &widget)
+    : ListFace(control, widget,
+               std::make_unique<CheckRows>([this](int row) { Hand([&] { list.UserToggles(row); }); }))
+    , list(control)
+{
+}
+
+void CheckListFace::Show()
+{
+    ListFace::Show();
+    static_cast<CheckRows &>(Rows()).PublishMarks(list);
 }
 
 FolderFace::FolderFace(FolderList &control, QListView &widget, const QIcon &icon)

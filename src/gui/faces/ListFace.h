@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "controls/CheckListBox.h"
 #include "controls/FolderList.h"
 #include "controls/ItemModel.h"
 #include "controls/ListBox.h"
@@ -47,7 +48,8 @@ private:
 /// A list box, or a file list.
 class ListFace : public RowsFace {
 public:
-    ListFace(ListBox &control, QListView &widget);
+    ListFace(ListBox &control, QListView &widget,
+             std::unique_ptr<ItemModel> rows = std::make_unique<ItemModel>());
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -56,6 +58,18 @@ protected:
 private:
     ListBox &list;
     int pointedAt = -1;
+};
+
+/// A list box with a check mark in each row.
+class CheckListFace : public ListFace {
+public:
+    CheckListFace(CheckListBox &control, QListView &widget);
+
+protected:
+    void Show() override;
+
+private:
+    CheckListBox &list;
 };
 
 /// A folder list: its rows are indented by their depth and bear a folder.

@@ -6,15 +6,11 @@
 #include "controls/TreeModel.h"
 #include "controls/TreeView.h"
 #include "faces/Face.h"
+#include "faces/FaceLooks.h"
 
-#include <QHash>
-#include <QIcon>
 #include <QTreeView>
 
 namespace tressel {
-
-/// Pictures of the nodes of trees, by the numbers that the nodes bear.
-using NodeIcons = QHash<int, QIcon>;
 
 /// A tree shown by a QTreeView without a header, its rows of one height. A click on a node, or Enter, is
 /// the control's click; opening and closing a node is the user's own affair, which the control notes.

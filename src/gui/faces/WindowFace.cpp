@@ -41,10 +41,8 @@ WindowFace::~WindowFace()
 void WindowFace::Refresh()
 {
     const QList<Control *> changed = form.TakeChanged();
-    for (Control *control : changed) {
-        if (Face *face = binder.FaceOf(*control))
-            face->TakeOver();
-    }
+    for (const Control *control : changed)
+        binder.TakeOver(*control);
     if (form.TakeFormChanged())
         ShowForm();
     if (const Control *focused = form.TakeFocused()) {

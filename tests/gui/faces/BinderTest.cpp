@@ -5,6 +5,8 @@
 #include "controls/Frame.h"
 #include "controls/Label.h"
 #include "controls/TextBox.h"
+#include "controls/Timer.h"
+#include "faces/SelfDrawnFace.h"
 #include "gui/faces/Bound.h"
 
 #include <QComboBox>
@@ -16,9 +18,25 @@
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTest>
+#include <QTimer>
 
 using namespace tressel;
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A widget that draws its control by itself.
+class Drawn : public QWidget {
+public:
+    using QWidget::QWidget;
+    void SetControl(Label *label) { control = label; }
+    void Refresh() { ++refreshed; }
+
+    Label *control = nullptr;
+    int refreshed = 0;
+};
+
+} // namespace
 
 class BinderTest : public QObject {
     Q_OBJECT
@@ -102,6 +120,38 @@ private Q_SLOTS:
             QTest::keyClick(focused, Qt::Key_Tab);
         }
         QCOMPARE(order, QStringList({u"txtFirst"_s, u"cboSecond"_s, u"txtThird"_s}));
+    }
+
+    void ATimerNeedsNoWidgetAndTicks()
+    {
+        Form form(u"f"_s);
+        Timer timer(form, u"Timer1"_s, 1);
+        int ticks = 0;
+        timer.Tick.Handle([&] { ++ticks; });
+        timer.SetEnabled(false);
+        Bound bound(form);
+        bound.Bind();
+        QCOMPARE(bound.face->Faces().ControlsWithoutFace(), QStringList());
+        QCoreApplication::processEvents();
+        QCOMPARE(ticks, 0);
+        timer.SetEnabled(true);
+        QTRY_VERIFY(ticks >= 2);
+        timer.SetInterval(0);
+        bound.updates.Flush();
+        const QTimer *pulse = bound.window.findChild<QTimer *>();
+        QVERIFY(pulse && !pulse->isActive());
+    }
+
+    void ASelfDrawnWidgetGetsItsControl()
+    {
+        Form form(u"f"_s);
+        Label label(form, u"lblTitle"_s, u"text"_s);
+        Bound bound(form);
+        bound.makers.Add<Label, Drawn, SelfDrawnFace<Label, Drawn, &Drawn::Refresh>>();
+        auto &widget = bound.Add<Drawn>(u"lblTitle"_s);
+        bound.Bind();
+        QCOMPARE(widget.control, &label);
+        QVERIFY(widget.refreshed > 0);
     }
 
     void OwnKindsAreAskedFirst()

@@ -175,9 +175,9 @@ private Q_SLOTS:
         Bound bound(form);
         QPixmap red(16, 16);
         red.fill(Qt::red);
-        FaceIcons icons;
-        icons.nodes.insert(5, QIcon(red));
-        bound.makers = FaceMakers(icons);
+        FaceLooks looks;
+        looks.nodes.insert(5, QIcon(red));
+        bound.makers = FaceMakers(looks);
         auto &view = bound.Add<QTreeView>(u"TVList"_s);
         view.resize(300, 200);
         bound.Bind();

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "tools/dialogs/BrowseForFolder.h"
+
+#include "base/Numbers.h"
+#include "machine/Dialogs.h"
+#include "machine/FileSystem.h"
+
+namespace tressel {
+
+using namespace Qt::StringLiterals;
+
+QString BrowseForFolder(Dialogs &dialogs, const FileSystem &files, const QString &Title,
+                        const QString &StartPath)
+{
+    // A root that is nothing but the separator stays: without it there would be no place to start at.
+    QString start = StartPath;
+    if (start.size() > 1 && start.endsWith(files.Separator()))
+        start.chop(1);
+    static_cast<void>(ToInt16(static_cast<double>(start.size())));
+    const QString prompt = Title.isEmpty() ? u"Please, Select a folder."_s : Title;
+    return dialogs.ChooseFolder(prompt, start).value_or(QString());
+}
+
+} // namespace tressel
