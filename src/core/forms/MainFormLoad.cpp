@@ -129,7 +129,8 @@ void MainForm::FillSplitSizes()
 void MainForm::RestoreSplitterPage()
 {
     // Overruled again by the appearance.
-    Move(settings.ReadInt32(keys::WindowLeft), settings.ReadInt32(keys::WindowTop));
+    Move(settings.ReadInt32(keys::WindowLeft), Top());
+    Move(Left(), settings.ReadInt32(keys::WindowTop));
     splitter.cmbSplitSize.SetText(settings.ReadText(keys::SplitSize));
     splitter.txtSplitCount.SetText(settings.ReadText(keys::SplitCount));
     if (settings.ReadBoolean(keys::SplitOption))
