@@ -209,7 +209,7 @@ QStringList FolderListing::Makelisting(const QString &path)
 {
     QList<FolderEntry> entries;
     try {
-        entries = files.List(path);
+        entries = files.List(path, Lengths::Wanted);
     } catch (const Failure &failure) {
         // A folder that can't be read is one without entries.
         if (failure.number == FailureNumber::PathNotFound || failure.number == FailureNumber::BadFileName)
@@ -230,12 +230,12 @@ QStringList FolderListing::Makelisting(const QString &path)
         write(u" "_s);
         write(path);
     }
-    ListFiles(path, entries, write);
+    ListFiles(entries, write);
     write(u" "_s);
     return FoldersOf(entries);
 }
 
-void FolderListing::ListFiles(const QString &path, const QList<FolderEntry> &entries,
+void FolderListing::ListFiles(const QList<FolderEntry> &entries,
                               const std::function<void(const QString &)> &write)
 {
     for (const FolderEntry &entry : entries) {
@@ -243,9 +243,7 @@ void FolderListing::ListFiles(const QString &path, const QList<FolderEntry> &ent
             continue;
         machine.events.LetEventsRun();
         page.txtReport.SetText(entry.name);
-        const auto status = files.Status(JoinPath(files, path, entry.name), Links::Keep);
-        if (status)
-            page.ProgressBar1.SetValue(page.ProgressBar1.Value() + static_cast<double>(status->length));
+        page.ProgressBar1.SetValue(page.ProgressBar1.Value() + static_cast<double>(entry.length));
         if (StopListing)
             return;
         if (!page.ChckDir.IsChecked())
@@ -275,12 +273,11 @@ void FolderListing::ShowFolderSize(const QString &path)
     double total = 0;
     const auto measure = [&](const QString &folder) {
         QStringList folders;
-        const auto reader = files.Read(folder);
+        const auto reader = files.Read(folder, Lengths::Wanted);
         while (const auto entry = reader->Next()) {
             if (entry->kind == EntryKind::Folder)
                 folders += entry->name;
-            else if (const auto status = files.Status(JoinPath(files, folder, entry->name), Links::Keep))
-                total += static_cast<double>(status->length);
+            total += static_cast<double>(entry->length);
         }
         return folders;
     };

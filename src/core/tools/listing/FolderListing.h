@@ -46,8 +46,7 @@ private:
 
     QStringList Makelisting(const QString &path);
     void folderlist(const QString &path, const QStringList &folders);
-    void ListFiles(const QString &path, const QList<FolderEntry> &entries,
-                   const std::function<void(const QString &)> &write);
+    void ListFiles(const QList<FolderEntry> &entries, const std::function<void(const QString &)> &write);
     void ShowFolderSize(const QString &path);
     void EnableResult(bool enabled);
     bool HasHeader() const;
