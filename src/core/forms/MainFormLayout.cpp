@@ -279,15 +279,6 @@ void MainForm::PlaceErasePart()
 {
     const int left = PicStrip.Left();
     PlaceAll({
-        {listing.btnGBBrowse, Side::Left, left - 1300},
-        {listing.btnGBMakeList, Side::Left, left - 1300},
-        {listing.btnGBResult, Side::Left, left - 1300},
-        {listing.lblFilePath, Side::Width, left - 1700},
-        {listing.lblRSaved, Side::Width, left - 1700},
-        {listing.lblWStatus, Side::Width, left - 1700},
-        {listing.CboFilePath, Side::Width, left - 1700},
-        {listing.txtReport, Side::Width, left - 1700},
-        {listing.ProgressBar1, Side::Width, left - 1700},
         {erase.lstErase, Side::Width, left - 300},
         {erase.lblOverwrite, Side::Width, left - 300},
         {erase.ProgrBar, Side::Width, left - 300},
