@@ -30,8 +30,14 @@ public:
 
     QChar Separator() const override { return files.Separator(); }
     std::optional<FileStatus> Status(const QString &path, Links links) override;
-    QList<FolderEntry> List(const QString &folder) override { return files.List(folder); }
-    std::unique_ptr<FolderReader> Read(const QString &folder) override { return files.Read(folder); }
+    QList<FolderEntry> List(const QString &folder, Lengths lengths) override
+    {
+        return files.List(folder, lengths);
+    }
+    std::unique_ptr<FolderReader> Read(const QString &folder, Lengths lengths) override
+    {
+        return files.Read(folder, lengths);
+    }
     std::optional<Failure> TryMakeFolder(const QString &path) override;
     std::optional<Failure> TryRemoveFolder(const QString &path) override
     {

@@ -34,15 +34,16 @@ void RefuseImpossible(const QString &path)
     }
 }
 
-FolderEntry EntryOf(const MemoryNode &node)
+FolderEntry EntryOf(const MemoryNode &node, Lengths lengths)
 {
-    return {node.name, node.kind, node.hidden};
+    return {node.name, node.kind, node.hidden, lengths == Lengths::Wanted ? node.bytes.size() : 0};
 }
 
 /// Entries in the order in which they were made; what has gone meanwhile stays out.
 class MemoryFolderReader : public FolderReader {
 public:
-    explicit MemoryFolderReader(const MemoryNode &folder)
+    MemoryFolderReader(const MemoryNode &folder, Lengths lengths)
+        : lengths(lengths)
     {
         for (const auto &[key, node] : folder.children)
             nodes.append(node);
@@ -54,12 +55,13 @@ public:
         while (!nodes.isEmpty()) {
             const std::shared_ptr<MemoryNode> node = nodes.takeFirst();
             if (node->parent)
-                return EntryOf(*node);
+                return EntryOf(*node, lengths);
         }
         return {};
     }
 
 private:
+    Lengths lengths;
     QList<std::shared_ptr<MemoryNode>> nodes;
 };
 
@@ -190,24 +192,24 @@ std::optional<FileStatus> MemoryFileSystem::Status(const QString &path, Links li
     }
 }
 
-QList<FolderEntry> MemoryFileSystem::List(const QString &folder)
+QList<FolderEntry> MemoryFileSystem::List(const QString &folder, Lengths lengths)
 {
     return Ask(Operation::List, folder, {}, [&] {
         const Node node = FindFolder(folder);
         orders.Obey(Operation::List, FoldedPath(*node));
         QList<FolderEntry> entries;
         for (const auto &[key, child] : node->children)
-            entries += EntryOf(*child);
+            entries += EntryOf(*child, lengths);
         return entries;
     });
 }
 
-std::unique_ptr<FolderReader> MemoryFileSystem::Read(const QString &folder)
+std::unique_ptr<FolderReader> MemoryFileSystem::Read(const QString &folder, Lengths lengths)
 {
     return Ask(Operation::ReadFolder, folder, {}, [&]() -> std::unique_ptr<FolderReader> {
         const Node node = FindFolder(folder);
         orders.Obey(Operation::ReadFolder, FoldedPath(*node));
-        return std::make_unique<MemoryFolderReader>(*node);
+        return std::make_unique<MemoryFolderReader>(*node, lengths);
     });
 }
 

@@ -27,7 +27,11 @@ struct FolderEntry {
     QString name;
     EntryKind kind = EntryKind::File;
     bool hidden = false;
+    qint64 length = 0; ///< bytes of a file, if it was asked for
 };
+
+/// Whether a listing looks at each file for its length, which takes several times as long.
+enum class Lengths { LeftOut, Wanted };
 
 /// What is known of one path.
 struct FileStatus {
@@ -113,9 +117,10 @@ public:
 
     /// All entries of a folder, or of the folder that a link names, but "." and "..", sorted by name without
     /// regard to case.
-    virtual QList<FolderEntry> List(const QString &folder) = 0;
+    virtual QList<FolderEntry> List(const QString &folder, Lengths lengths = Lengths::LeftOut) = 0;
     /// The same one by one, in the order of the file system.
-    virtual std::unique_ptr<FolderReader> Read(const QString &folder) = 0;
+    virtual std::unique_ptr<FolderReader> Read(const QString &folder,
+                                               Lengths lengths = Lengths::LeftOut) = 0;
 
     /// Makes one folder, whose parent must exist. Reports its failure instead of throwing it, since
     /// most callers try levels that exist.

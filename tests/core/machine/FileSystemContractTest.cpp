@@ -103,6 +103,26 @@ ON_EACH_DISC(MakesOneFolderAndTellsWhyNot)
     EXPECT_EQ(this->Names(QString()), (QStringList{u"a"_s, u"f"_s}));
 }
 
+ON_EACH_DISC(ListsGiveTheLengthsOfFilesIfAsked)
+{
+    this->Put(u"f"_s, "12345");
+    this->MakeFolder(u"g"_s);
+    this->disc.Link(this->At(u"h"_s), this->At(u"f"_s));
+    const auto lengths = [](const QList<FolderEntry> &entries) {
+        QList<qint64> all;
+        for (const FolderEntry &entry : entries)
+            all += entry.length;
+        return all;
+    };
+    EXPECT_EQ(lengths(this->files.List(this->disc.root, Lengths::Wanted)), (QList<qint64>{5, 0, 0}));
+    EXPECT_EQ(lengths(this->files.List(this->disc.root)), (QList<qint64>{0, 0, 0}));
+    const auto reader = this->files.Read(this->disc.root, Lengths::Wanted);
+    qint64 total = 0;
+    while (const auto entry = reader->Next())
+        total += entry->length;
+    EXPECT_EQ(total, 5);
+}
+
 ON_EACH_DISC(ToleratesDoubledAndClosingSeparators)
 {
     EXPECT_FALSE(this->files.TryMakeFolder(this->At(u"/a/"_s)));

@@ -140,9 +140,9 @@ std::optional<FileStatus> PosixFileSystem::Status(const QString &path, Links lin
                       IsHidden(native), TimeOf(status.st_mtim)};
 }
 
-QList<FolderEntry> PosixFileSystem::List(const QString &folder)
+QList<FolderEntry> PosixFileSystem::List(const QString &folder, Lengths lengths)
 {
-    PosixFolderReader reader(OpenFolder(folder));
+    PosixFolderReader reader(OpenFolder(folder), lengths);
     QList<FolderEntry> entries;
     while (std::optional<FolderEntry> entry = reader.Next())
         entries.append(std::move(*entry));
@@ -150,9 +150,9 @@ QList<FolderEntry> PosixFileSystem::List(const QString &folder)
     return entries;
 }
 
-std::unique_ptr<FolderReader> PosixFileSystem::Read(const QString &folder)
+std::unique_ptr<FolderReader> PosixFileSystem::Read(const QString &folder, Lengths lengths)
 {
-    return std::make_unique<PosixFolderReader>(OpenFolder(folder));
+    return std::make_unique<PosixFolderReader>(OpenFolder(folder), lengths);
 }
 
 std::optional<Failure> PosixFileSystem::TryMakeFolder(const QString &path)

@@ -13,8 +13,28 @@
 
 namespace tressel {
 
-PosixFolderReader::PosixFolderReader(Descriptor folder)
-    : stream(fdopendir(folder.Number()))
+namespace {
+
+/// The kind by what a listing tells of it, Other if it tells nothing.
+EntryKind KindOfType(unsigned char type)
+{
+    switch (type) {
+    case DT_REG:
+        return EntryKind::File;
+    case DT_DIR:
+        return EntryKind::Folder;
+    case DT_LNK:
+        return EntryKind::Link;
+    default:
+        return EntryKind::Other;
+    }
+}
+
+} // namespace
+
+PosixFolderReader::PosixFolderReader(Descriptor folder, Lengths wantedLengths)
+    : lengths(wantedLengths)
+    , stream(fdopendir(folder.Number()))
 {
     if (!stream)
         throw Failure(NumberOfError(errno));
@@ -34,28 +54,24 @@ std::optional<FolderEntry> PosixFolderReader::Next()
         const char *const name = entry->d_name;
         if (std::strcmp(name, ".") == 0 || std::strcmp(name, "..") == 0)
             continue;
-        return FolderEntry{*TextFromUtf8(name, NameBytes::Raw), KindOf(*entry), *name == '.'};
+        return EntryOf(*entry);
     }
 }
 
-EntryKind PosixFolderReader::KindOf(const dirent &entry) const
+FolderEntry PosixFolderReader::EntryOf(const dirent &entry) const
 {
-    switch (entry.d_type) {
-    case DT_REG:
-        return EntryKind::File;
-    case DT_DIR:
-        return EntryKind::Folder;
-    case DT_LNK:
-        return EntryKind::Link;
-    case DT_UNKNOWN:
-        break;
-    default:
-        return EntryKind::Other;
-    }
+    FolderEntry known{*TextFromUtf8(entry.d_name, NameBytes::Raw), KindOfType(entry.d_type),
+                      *entry.d_name == '.'};
+    const bool wantsLength = lengths == Lengths::Wanted && entry.d_type == DT_REG;
+    if (!wantsLength && entry.d_type != DT_UNKNOWN)
+        return known;
     struct stat status = {};
     if (fstatat(dirfd(stream.get()), entry.d_name, &status, AT_SYMLINK_NOFOLLOW) != 0)
-        return EntryKind::Other;
-    return KindOfMode(status.st_mode);
+        return known;
+    known.kind = KindOfMode(status.st_mode);
+    if (lengths == Lengths::Wanted && known.kind == EntryKind::File)
+        known.length = status.st_size;
+    return known;
 }
 
 } // namespace tressel

@@ -203,13 +203,24 @@ void FolderListing::EndAsFailed(const Failure &failure)
                           BoxIcon::Exclamation});
 }
 
+/// A folder's entries with their lengths, which were mostly measured before.
+QList<FolderEntry> FolderListing::EntriesOf(const QString &folder)
+{
+    if (measured.Knows(folder)) {
+        QList<FolderEntry> entries = files.List(folder);
+        if (measured.FillIn(folder, entries))
+            return entries;
+    }
+    return files.List(folder, Lengths::Wanted);
+}
+
 /// Appends the block of one folder and gives the names of the folders in it. A path that is no folder has
 /// no block.
 QStringList FolderListing::Makelisting(const QString &path)
 {
     QList<FolderEntry> entries;
     try {
-        entries = files.List(path);
+        entries = EntriesOf(path);
     } catch (const Failure &failure) {
         // A folder that can't be read is one without entries.
         if (failure.number == FailureNumber::PathNotFound || failure.number == FailureNumber::BadFileName)
@@ -230,12 +241,12 @@ QStringList FolderListing::Makelisting(const QString &path)
         write(u" "_s);
         write(path);
     }
-    ListFiles(path, entries, write);
+    ListFiles(entries, write);
     write(u" "_s);
     return FoldersOf(entries);
 }
 
-void FolderListing::ListFiles(const QString &path, const QList<FolderEntry> &entries,
+void FolderListing::ListFiles(const QList<FolderEntry> &entries,
                               const std::function<void(const QString &)> &write)
 {
     for (const FolderEntry &entry : entries) {
@@ -243,9 +254,7 @@ void FolderListing::ListFiles(const QString &path, const QList<FolderEntry> &ent
             continue;
         machine.events.LetEventsRun();
         page.txtReport.SetText(entry.name);
-        const auto status = files.Status(JoinPath(files, path, entry.name), Links::Keep);
-        if (status)
-            page.ProgressBar1.SetValue(page.ProgressBar1.Value() + static_cast<double>(status->length));
+        page.ProgressBar1.SetValue(page.ProgressBar1.Value() + static_cast<double>(entry.length));
         if (StopListing)
             return;
         if (!page.ChckDir.IsChecked())
@@ -270,19 +279,16 @@ void FolderListing::folderlist(const QString &path, const QStringList &folders)
 /// or a folder that can't be read, leaves the number as it was.
 void FolderListing::ShowFolderSize(const QString &path)
 {
+    measured.Clear();
     if (IsDriveRoot(files, path))
         return;
     double total = 0;
     const auto measure = [&](const QString &folder) {
-        QStringList folders;
-        const auto reader = files.Read(folder);
-        while (const auto entry = reader->Next()) {
-            if (entry->kind == EntryKind::Folder)
-                folders += entry->name;
-            else if (const auto status = files.Status(JoinPath(files, folder, entry->name), Links::Keep))
-                total += static_cast<double>(status->length);
-        }
-        return folders;
+        const QList<FolderEntry> entries = files.List(folder, Lengths::Wanted);
+        measured.Keep(folder, entries);
+        for (const FolderEntry &entry : entries)
+            total += static_cast<double>(entry.length);
+        return FoldersOf(entries);
     };
     try {
         FolderWalk walk(files, path, measure(path));

@@ -5,6 +5,7 @@
 
 #include "machine/Machine.h"
 #include "tools/WorkArea.h"
+#include "tools/listing/MeasuredLengths.h"
 #include "tools/listing/ReportFile.h"
 
 #include <functional>
@@ -44,10 +45,10 @@ private:
     void TellFallback();
     void EndAsFailed(const Failure &failure);
 
+    QList<FolderEntry> EntriesOf(const QString &folder);
     QStringList Makelisting(const QString &path);
     void folderlist(const QString &path, const QStringList &folders);
-    void ListFiles(const QString &path, const QList<FolderEntry> &entries,
-                   const std::function<void(const QString &)> &write);
+    void ListFiles(const QList<FolderEntry> &entries, const std::function<void(const QString &)> &write);
     void ShowFolderSize(const QString &path);
     void EnableResult(bool enabled);
     bool HasHeader() const;
@@ -64,6 +65,7 @@ private:
     ReportFile report;
     bool StopListing = false;
     double FolderSizeTotal = 0; ///< bytes
+    MeasuredLengths measured;
     QString MakeListCaption; ///< of the button while it reads "Cancel"
 };
 

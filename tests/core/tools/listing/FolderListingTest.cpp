@@ -111,7 +111,7 @@ TEST_F(FolderListingTest, NamesThatAreNotUtf8AreWrittenByteForByte)
 TEST_F(FolderListingTest, AFolderWithoutRightsIsABlockWithoutFilesAndNoStop)
 {
     machine.files.PutFile(u"D:\\Music\\Zoo\\z"_s);
-    machine.files.FailAt(Operation::List, u"D:\\Music\\Live"_s, 1, FailureNumber::PathFileAccessError);
+    machine.files.FailAt(Operation::List, u"D:\\Music\\Live"_s, 0, FailureNumber::PathFileAccessError);
     Make();
     EXPECT_TRUE(Report().endsWith(Lines({" ", "D:\\Music\\Live", " ", " ", "D:\\Music\\Zoo", "   z", " "})));
     EXPECT_EQ(area.lblStatusLine.Caption(), u"Generate File list - Finished"_s);
@@ -160,8 +160,7 @@ TEST_F(FolderListingTest, AFolderThatCannotBeMeasuredKeepsTheSizeOfTheRunBefore)
     page.ChckDir.SetChecked(true);
     Make();
     machine.files.PutFile(u"D:\\Music\\Live\\Deep\\more"_s, "more");
-    machine.files.FailAt(Operation::ReadFolder, u"D:\\Music\\Live\\Deep"_s, 1,
-                         FailureNumber::PathFileAccessError);
+    machine.files.FailAt(Operation::List, u"D:\\Music\\Live\\Deep"_s, 1, FailureNumber::PathFileAccessError);
     Make();
     EXPECT_EQ(page.ProgressBar1.Max(), 15);
     EXPECT_TRUE(Report(u"02"_s).endsWith(Lines({"D:\\Music\\Live\\Deep "})));
@@ -171,8 +170,21 @@ TEST_F(FolderListingTest, ADriveRootIsNotMeasured)
 {
     page.CboFilePath.SetText(u"D:\\"_s);
     Make();
-    EXPECT_EQ(machine.journal.Count(u"ReadFolder"_s), 0);
+    EXPECT_EQ(machine.journal.About(u"List"_s),
+              (QStringList{u"D:\\"_s, u"D:\\Music"_s, u"D:\\Music\\Live"_s}));
     EXPECT_EQ(page.ProgressBar1.Max(), 100);
+}
+
+TEST_F(FolderListingTest, AFolderThatChangedSinceItWasMeasuredIsLookedAtAnew)
+{
+    machine.events.At(1, [&] { machine.files.PutFile(u"D:\\Music\\Live\\a new one"_s, "12"); });
+    QList<double> values;
+    for (int call = 5; call <= 6; ++call)
+        machine.events.At(call, [&] { values += page.ProgressBar1.Value(); });
+    machine.files.PutFile(u"D:\\Music\\Zoo\\z"_s, "1234567890");
+    page.ChckDir.SetChecked(true);
+    Make();
+    EXPECT_EQ(values, (QList<double>{9, 11}));
 }
 
 // Numbers and names.
@@ -392,9 +404,9 @@ TEST_F(FolderListingTest, WithoutAFolderToListTheReportHoldsItsHeaderAlone)
     EXPECT_EQ(area.lblStatusLine.Caption(), u"Generate File list - Finished"_s);
 }
 
-TEST_F(FolderListingTest, AFolderThatGoesWhileItIsMeasuredLeavesTheHeaderAlone)
+TEST_F(FolderListingTest, AFolderThatHasGoneWhenItIsListedLeavesTheHeaderAlone)
 {
-    machine.files.FailAt(Operation::List, u"D:\\Music"_s, 1, FailureNumber::PathNotFound);
+    machine.files.FailAt(Operation::List, u"D:\\Music"_s, 0, FailureNumber::PathNotFound);
     Make();
     EXPECT_EQ(Report(), Lines(header));
     EXPECT_EQ(area.lblStatusLine.Caption(), u"Generate File list - Finished"_s);

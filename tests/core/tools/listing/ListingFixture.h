@@ -18,11 +18,39 @@
 
 namespace tressel {
 
-/// The listing tool on a form of its own, with the path set to D:\Music, which holds two files of 3 and 5
-/// bytes and the folder Live with one of 7.
-class ListingFixture : public testing::Test {
+/// The listing tool on a form of its own.
+struct ListingTool {
+    explicit ListingTool(const Machine &onMachine)
+        : machine(onMachine)
+    {
+    }
+
+    Machine machine;
+    Settings settings{machine};
+    Session session;
+    Form form{QStringLiteral("frmMain")};
+    WorkArea area{form};
+    FolderTree tree{area, machine.events, session};
+    FolderListFile listFile{area, tree, machine.files, machine.events, machine.dialogs, settings, session};
+    Form optionForm{QStringLiteral("frmOption")};
+    OptionGroup OptSound{
+        optionForm, QStringLiteral("OptSound"), {QStringLiteral("On"), QStringLiteral("Off")}};
+    ClickSound clickSound{machine.sound, machine.files, machine.program, OptSound};
+    ListingPage page{area, machine, clickSound, listFile, settings, session};
+};
+
+struct WithMemoryMachine {
+    MemoryMachine machine;
+};
+
+/// The tool with the path set to D:\Music, which holds two files of 3 and 5 bytes and the folder Live with
+/// one of 7.
+class ListingFixture : public testing::Test, protected WithMemoryMachine, protected ListingTool {
 protected:
+    using WithMemoryMachine::machine;
+
     ListingFixture()
+        : ListingTool(machine.machine)
     {
         machine.files.AddDrive(u'D');
         machine.files.PutFile(QStringLiteral("D:\\Music\\a.mp3"), "123");
@@ -48,19 +76,6 @@ protected:
     {
         machine.dialogs.ExpectBox({text, QStringLiteral("Tressel"), BoxIcon::Exclamation});
     }
-
-    MemoryMachine machine;
-    Settings settings{machine.machine};
-    Session session;
-    Form form{QStringLiteral("frmMain")};
-    WorkArea area{form};
-    FolderTree tree{area, machine.events, session};
-    FolderListFile listFile{area, tree, machine.files, machine.events, machine.dialogs, settings, session};
-    Form optionForm{QStringLiteral("frmOption")};
-    OptionGroup OptSound{
-        optionForm, QStringLiteral("OptSound"), {QStringLiteral("On"), QStringLiteral("Off")}};
-    ClickSound clickSound{machine.sound, machine.files, machine.program, OptSound};
-    ListingPage page{area, machine.machine, clickSound, listFile, settings, session};
 };
 
 } // namespace tressel
