@@ -153,6 +153,7 @@ std::optional<FileDialogAnswer> QtDialogs::AskForFile(QFileDialog &dialog, const
         dialog.setWindowTitle(request.title);
     // The label says already which files it is for.
     dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setOption(QFileDialog::DontResolveSymlinks);
     const QStringList filters = NameFilters(request.filter);
     if (!filters.isEmpty()) {
         dialog.setNameFilters(filters);
@@ -175,6 +176,7 @@ std::optional<QString> QtDialogs::ChooseFolder(const QString &prompt, const QStr
     QFileDialog dialog(Owner(), prompt);
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
+    dialog.setOption(QFileDialog::DontResolveSymlinks);
     StartAt(dialog, folder);
     if (Run(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
