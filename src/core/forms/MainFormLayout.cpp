@@ -12,9 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int leastWidth = 8120;
-constexpr int leastHeight = 6825;
-
 constexpr int leastBarLeft = 5100;
 constexpr int leastRightOfBar = 3500; ///< from the bar's left edge to the window's right one
 constexpr ColourNumber restColour = NumberOf(SystemColour::ButtonFace);

@@ -28,6 +28,8 @@ const QString builtInTips =
 TipForm::TipForm(FileSystem &fileSystem, const Program &runningProgram, Settings &settings,
                  std::function<void(int)> tipsSwitched, std::function<void()> unloaded)
     : Form(u"frmTip"_s)
+    , Picture1(*this, u"Picture1"_s)
+    , Image1(*this, u"Image1"_s)
     , Label1(*this, u"Label1"_s, u"Did you know..."_s)
     , lblTipText(*this, u"lblTipText"_s)
     , cmdNextTip(*this, u"cmdNextTip"_s, u"Next"_s)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "controls/CheckBox.h"
+#include "controls/Frame.h"
 #include "controls/IsButton.h"
 #include "controls/Label.h"
 
@@ -24,6 +25,8 @@ public:
     TipForm(FileSystem &files, const Program &program, Settings &settings,
             std::function<void(int)> tipsSwitched, std::function<void()> unloaded);
 
+    Frame Picture1; ///< holds the picture
+    Frame Image1;
     Label Label1;
     Label lblTipText;
     IsButton cmdNextTip;

@@ -21,8 +21,8 @@ public:
 
     Label lblTitle;
     TextBox txtStrtPath;
-    CheckBox chkButtonBar;
     CheckBox chkExtension;
+    CheckBox chkButtonBar;
     TreeView TVList;
     ListBox LstItem;
     Label lblStatusLine;

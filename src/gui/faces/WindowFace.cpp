@@ -14,20 +14,21 @@ using namespace Qt::StringLiterals;
 
 namespace tressel {
 
-WindowFace::WindowFace(Form &shownForm, QWidget &showingWindow, const FaceMakers &makers, FaceUpdates &when,
-                       CloseBox closeBox)
+WindowFace::WindowFace(Form &shownForm, QWidget &showingWindow, const FaceMakers &makers, FaceUpdates &when)
     : form(shownForm)
     , window(showingWindow)
     , updates(when)
     , binder(shownForm, showingWindow, makers)
 {
-    if (closeBox == CloseBox::Off)
-        TakeCloseBoxOff();
     if (form.Width() == 0 && form.Height() == 0)
         form.SetSize(ToTwips(window.width()), ToTwips(window.height()));
     window.installEventFilter(this);
     updates.windows.append(this);
     form.SetChangeListener([this] { updates.Schedule(); });
+    connect(qApp, &QGuiApplication::commitDataRequest, this, [this] {
+        if (!form.HasCloseBox())
+            UnloadForm();
+    });
 }
 
 WindowFace::~WindowFace()
@@ -51,14 +52,6 @@ void WindowFace::Refresh()
     }
 }
 
-void WindowFace::TakeCloseBoxOff()
-{
-    const Qt::WindowFlags flags = window.windowFlags() | Qt::CustomizeWindowHint | Qt::WindowTitleHint
-        | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint;
-    window.setWindowFlags(flags & ~Qt::WindowCloseButtonHint);
-    connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { UnloadForm(); });
-}
-
 void WindowFace::ShowForm()
 {
     const QScopedValueRollback guard(showing, true);
@@ -66,6 +59,7 @@ void WindowFace::ShowForm()
     const QString title = QString(form.Caption()).replace(u"[*]"_s, u"[*][*]"_s);
     if (window.windowTitle() != title)
         window.setWindowTitle(title);
+    ShowCloseBox();
     const bool wasShown = form.TakeShown();
     if (!form.IsVisible()) {
         window.hide();
@@ -75,6 +69,20 @@ void WindowFace::ShowForm()
     ShowState();
     if (wasShown)
         BringToFront();
+}
+
+void WindowFace::ShowCloseBox()
+{
+    if (shownCloseBox == form.HasCloseBox())
+        return;
+    shownCloseBox = form.HasCloseBox();
+    const bool wasVisible = window.isVisible();
+    Qt::WindowFlags flags = window.windowFlags() | Qt::CustomizeWindowHint | Qt::WindowTitleHint
+        | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint;
+    window.setWindowFlags(flags.setFlag(Qt::WindowCloseButtonHint, shownCloseBox));
+    // A window on show is hidden by new flags.
+    if (wasVisible)
+        window.show();
 }
 
 void WindowFace::ShowGeometry()

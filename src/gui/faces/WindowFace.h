@@ -12,8 +12,6 @@ namespace tressel {
 
 class FaceUpdates;
 
-enum class CloseBox { On, Off };
-
 /// The face of a form: a window with its caption, place, size, state and visibility, and through a Binder
 /// the faces of its controls.
 ///
@@ -21,11 +19,10 @@ enum class CloseBox { On, Off };
 /// desktop puts it.
 class WindowFace : public QObject {
 public:
-    /// The form must outlive the face, as must `updates`; the window must live as long as the face. With the
-    /// close box off the title bar has none, but a request from the outside (the desktop's session ends)
-    /// still unloads the form.
-    WindowFace(Form &form, QWidget &window, const FaceMakers &makers, FaceUpdates &updates,
-               CloseBox closeBox = CloseBox::On);
+    /// The form must outlive the face, as must `updates`; the window must live as long as the face. The
+    /// title bar of a form without a close box has none, but a request from the outside (the desktop's
+    /// session ends) still unloads the form.
+    WindowFace(Form &form, QWidget &window, const FaceMakers &makers, FaceUpdates &updates);
     ~WindowFace() override;
 
     Form &ShownForm() const { return form; }
@@ -39,8 +36,8 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void TakeCloseBoxOff();
     void ShowForm();
+    void ShowCloseBox();
     void ShowGeometry();
     void ShowState();
     void BringToFront();
@@ -54,6 +51,7 @@ private:
     Binder binder;
     int shownLeft = 0;
     int shownTop = 0;
+    bool shownCloseBox = true;
     bool showing = false;
     bool activationTold = false;
 };

@@ -3,6 +3,8 @@
 
 #include "widgets/PictureImages.h"
 
+#include "widgets/ProgramIcons.h"
+
 #include <QFile>
 #include <QHash>
 #include <QPainter>
@@ -21,7 +23,7 @@ QByteArray BytesOf(const Picture &picture)
     if (picture.name.isEmpty())
         return picture.bytes;
     const bool isOwn = !picture.name.contains(u'/');
-    QFile file(isOwn ? u":/icons/"_s + picture.name + u".svg"_s : picture.name);
+    QFile file(isOwn ? IconPath(picture.name) : picture.name);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 

@@ -143,7 +143,9 @@ private Q_SLOTS:
         QWidget window;
         FaceMakers makers;
         FaceUpdates updates;
-        WindowFace face(form, window, makers, updates, CloseBox::Off);
+        WindowFace face(form, window, makers, updates);
+        form.SetCloseBox(false);
+        updates.Flush();
         QVERIFY(!(window.windowFlags() & Qt::WindowCloseButtonHint));
         QVERIFY(window.windowFlags() & Qt::CustomizeWindowHint);
         QVERIFY(window.windowFlags() & Qt::WindowMinMaxButtonsHint);

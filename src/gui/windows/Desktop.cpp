@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "windows/Desktop.h"
+
+#include "machine/Program.h"
+#include "machine/SettingsHive.h"
+#include "widgets/OwnKinds.h"
+#include "widgets/ProgramIcons.h"
+#include "widgets/SystemColours.h"
+#include "windows/MainWindow.h"
+#include "windows/SplitBar.h"
+#include "windows/TipWindow.h"
+
+#include <algorithm>
+
+namespace tressel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+FaceLooks Looks()
+{
+    FaceLooks looks;
+    looks.folder = ProgramIcon(u"folder"_s);
+    looks.nodes = {{4, ProgramIcon(u"tree-root"_s)},
+                   {5, ProgramIcon(u"tree-planned"_s)},
+                   {6, ProgramIcon(u"tree-created"_s)}};
+    looks.colour = TranslateColour;
+    return looks;
+}
+
+FaceMakers Makers()
+{
+    const FaceLooks looks = Looks();
+    FaceMakers makers(looks);
+    AddOwnKinds(makers);
+    makers.Add<PictureBox, SplitBar, SplitBarFace>(looks);
+    makers.Add<PictureBox, SplitGrip, SplitGripFace>(looks);
+    return makers;
+}
+
+std::unique_ptr<QWidget> WindowOf(const Form &form)
+{
+    if (const auto *mainForm = dynamic_cast<const MainForm *>(&form))
+        return std::make_unique<MainWindow>(*mainForm);
+    if (dynamic_cast<const TipForm *>(&form))
+        return std::make_unique<TipWindow>();
+    return nullptr;
+}
+
+} // namespace
+
+Desktop::Desktop(Program &runningProgram, SettingsHive &settingsHive)
+    : machine(runningProgram, settingsHive)
+    , application(machine.AsMachine(), [this](Form &form) { MakeWindow(form); })
+    , program(runningProgram)
+    , hive(settingsHive)
+    , makers(Makers())
+{
+}
+
+void Desktop::MakeWindow(Form &form)
+{
+    auto window = WindowOf(form);
+    if (!window)
+        return;
+    if (dynamic_cast<MainWindow *>(window.get()))
+        machine.screen.SetMainWindow(window.get());
+    auto face = std::make_unique<WindowFace>(form, *window, makers, machine.updates);
+    shown.push_back({std::move(window), std::move(face)});
+}
+
+const WindowFace *Desktop::FaceOf(const QString &formName) const
+{
+    const auto found =
+        std::ranges::find(shown, formName, [](const Shown &each) { return each.face->ShownForm().Name(); });
+    return found == shown.end() ? nullptr : found->face.get();
+}
+
+void Desktop::End()
+{
+    const WindowFace *face = FaceOf(u"frmMain"_s);
+    if (face && face->ShownForm().IsLoaded()) {
+        Form &form = face->ShownForm();
+        form.Dispatch([&] { form.Unload(); });
+        return;
+    }
+    hive.Flush();
+    program.End(0);
+}
+
+} // namespace tressel

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "faces/FaceMakers.h"
+#include "faces/WindowFace.h"
+#include "forms/Application.h"
+#include "machine/DesktopMachine.h"
+
+#include <memory>
+#include <vector>
+
+namespace tressel {
+
+/// The whole program on a desktop: the machine, the forms, and a window for each form that has one.
+class Desktop {
+public:
+    /// Both must outlive it. The settings are read and written through the hive.
+    Desktop(Program &program, SettingsHive &hive);
+
+    /// Shows the first window.
+    void Start() { application.Start(); }
+    /// The system asks the program to end: everything is written back as by the user's own way out.
+    void End();
+
+    /// The window of a form and what ties the two; null if there is none, or none yet.
+    const WindowFace *FaceOf(const QString &formName) const;
+
+    DesktopMachine machine;
+    Application application;
+
+private:
+    struct Shown {
+        std::unique_ptr<QWidget> window;
+        std::unique_ptr<WindowFace> face;
+    };
+
+    void MakeWindow(Form &form);
+
+    Program &program;
+    SettingsHive &hive;
+    FaceMakers makers;
+    std::vector<Shown> shown;
+};
+
+} // namespace tressel

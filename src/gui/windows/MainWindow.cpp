@@ -1,0 +1,172 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "windows/MainWindow.h"
+
+#include "faces/Twips.h"
+#include "forms/MainForm.h"
+#include "widgets/IsButtonWidget.h"
+#include "widgets/ProgramIcons.h"
+#include "widgets/SideBarWidget.h"
+#include "windows/Pages.h"
+#include "windows/Parts.h"
+#include "windows/SplitBar.h"
+#include "windows/WorkPanes.h"
+
+#include <QTreeView>
+
+namespace tressel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int toolButtonWidth = 64;
+constexpr int toolButtonHeight = 60;
+
+/// The icons of the side bar's entries, by their image numbers from 1.
+QIcon IconOfEntry(int image)
+{
+    static const QStringList names{u"browse-files"_s,  u"text-lists"_s, u"numbered-folders"_s,
+                                   u"file-splitter"_s, u"database"_s,   u"empty-folders"_s,
+                                   u"rename"_s};
+    return image >= 1 && image <= names.size() ? ProgramIcon(names.at(image - 1)) : QIcon();
+}
+
+IsButtonWidget *ToolButton(const QString &name)
+{
+    auto *button = Part<IsButtonWidget>(name);
+    button->setMinimumSize(toolButtonWidth, toolButtonHeight);
+    return button;
+}
+
+QFrame *ToolSeparator(const QString &name)
+{
+    auto *line = Part<QFrame>(name);
+    line->setFrameShape(QFrame::VLine);
+    line->setFrameShadow(QFrame::Sunken);
+    return line;
+}
+
+} // namespace
+
+MainWindow::MainWindow(const MainForm &form)
+{
+    setObjectName(form.Name());
+    setMinimumSize(ToPixels(MainForm::leastWidth), ToPixels(MainForm::leastHeight));
+
+    auto *bands = Column(0);
+    bands->addWidget(MakeToolbar());
+    bands->addLayout(MakePathRow());
+    bands->addWidget(new WorkPanes(form.PicStrip, form.EyeDropper1, MakeSideBar(), new SplitBar, MakeNames()),
+                     1);
+    bands->addWidget(MakeStatus());
+    setLayout(bands);
+    AddFaceless();
+}
+
+QWidget *MainWindow::MakeToolbar()
+{
+    auto *row = Row(gapSmall);
+    row->setContentsMargins(gap, gap, gap, gapSmall);
+    row->addWidget(ToolButton(u"btnGBToolbarCreate"_s));
+    row->addWidget(ToolButton(u"btnGBToolbarLoadList"_s));
+    row->addWidget(ToolButton(u"btnGBToolbarBrowse"_s));
+    row->addWidget(ToolSeparator(u"FrmeSep(0)"_s));
+    row->addWidget(ToolButton(u"btnGBToolbarOption"_s));
+    row->addWidget(ToolButton(u"btnGBToolbarUpdate"_s));
+    row->addWidget(ToolButton(u"btnGBToolbarAbout"_s));
+    row->addWidget(ToolSeparator(u"FrmeSep(1)"_s));
+    row->addWidget(ToolButton(u"btnGBToolbarExit"_s));
+    row->addStretch();
+    auto *toolbar = Part<QWidget>(u"FrmeToolbar"_s);
+    toolbar->setLayout(row);
+    return toolbar;
+}
+
+QLayout *MainWindow::MakePathRow()
+{
+    auto *path = Field(u"txtStrtPath"_s);
+    auto *row = Row();
+    row->setContentsMargins(gap, gapSmall, gap, gap);
+    row->addWidget(LabelFor(u"lblTitle"_s, path));
+    row->addWidget(path, 1);
+    row->addSpacing(gapSmall);
+    row->addWidget(Part<QCheckBox>(u"chkExtension"_s));
+    row->addWidget(Part<QCheckBox>(u"chkButtonBar"_s));
+    return row;
+}
+
+QWidget *MainWindow::MakeSideBar()
+{
+    auto *bar = Part<SideBarWidget>(u"EyeDropper1"_s);
+    bar->setAccessibleName(u"Tools"_s);
+    bar->SetIcons(IconOfEntry);
+    AddPages(*bar);
+
+    auto *ground = Part<QWidget>(u"Picture3"_s);
+    auto *whole = Column(0);
+    whole->addWidget(bar);
+    ground->setLayout(whole);
+    return ground;
+}
+
+void MainWindow::AddPages(SideBarWidget &bar)
+{
+    const QList<QWidget *> pages{
+        MakeBrowsePage(),   MakeRenamePage(),       MakeNumberedPage(), Part<QWidget>(u"FrameXPMenu(3)"_s),
+        MakeDatabasePage(), MakeEmptyFoldersPage(), MakeTextPage(),     MakeSplitterPage()};
+    for (QWidget *page : pages)
+        bar.AddPage(page, page->objectName());
+}
+
+QWidget *MainWindow::MakeNames()
+{
+    auto *tree = Part<QTreeView>(u"TVList"_s);
+    tree->setAccessibleName(u"Tree of the folders"_s);
+    tree->setMinimumSize(80, 72);
+
+    auto *names = Column();
+    names->setContentsMargins(0, 0, gap, 0);
+    names->addWidget(tree, 3);
+    names->addWidget(List(u"LstItem"_s, u"Names of the folders"_s), 2);
+    auto *pane = new QWidget;
+    pane->setLayout(names);
+    return pane;
+}
+
+QWidget *MainWindow::MakeStatus()
+{
+    constexpr int leastHeight = 21;
+    constexpr int noticeDistance = 20;
+    auto *line = Part<QLabel>(u"lblStatusLine"_s);
+    // A long text must not make the window wide.
+    line->setMinimumWidth(1);
+
+    auto *notice = Part<QWidget>(u"PicUpdate"_s);
+    auto *noticeRow = Row(0);
+    noticeRow->setContentsMargins(gapSmall, 0, gapSmall, 0);
+    noticeRow->addWidget(Part<QLabel>(u"lblUpdate"_s));
+    notice->setLayout(noticeRow);
+
+    auto *row = Row(0);
+    row->setContentsMargins(gap, gapSmall, gap, gapSmall);
+    row->addWidget(line);
+    row->addSpacing(noticeDistance);
+    row->addWidget(notice);
+    row->addStretch(1);
+    auto *status = Part<QWidget>(u"PicStatus"_s);
+    status->setMinimumHeight(leastHeight);
+    status->setLayout(row);
+    return status;
+}
+
+void MainWindow::AddFaceless()
+{
+    auto *holder = Part<QWidget>(u"Picture4"_s);
+    holder->setParent(this);
+    holder->hide();
+    Field(u"txtstrSQL"_s)->setParent(holder);
+}
+
+} // namespace tressel

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "windows/TipWindow.h"
+
+#include "widgets/IsButtonWidget.h"
+#include "widgets/ProgramIcons.h"
+#include "windows/Parts.h"
+
+namespace tressel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QWidget *MakePicture()
+{
+    constexpr int pictureSize = 64;
+    auto *image = Part<QLabel>(u"Image1"_s);
+    image->setPixmap(
+        ProgramIcon(u"tressel"_s).pixmap(QSize(pictureSize, pictureSize), image->devicePixelRatioF()));
+    auto *column = Column(0);
+    column->addWidget(image);
+    column->addStretch();
+    auto *holder = Part<QWidget>(u"Picture1"_s);
+    holder->setLayout(column);
+    return holder;
+}
+
+QLabel *MakeHeading()
+{
+    auto *heading = Part<QLabel>(u"Label1"_s);
+    QFont font = heading->font();
+    font.setPointSizeF(font.pointSizeF() * 1.4);
+    font.setBold(true);
+    heading->setFont(font);
+    return heading;
+}
+
+QLabel *MakeText()
+{
+    constexpr int roomForFourLongLines = 130;
+    auto *text = WrappedLabel(u"lblTipText"_s);
+    text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    text->setMinimumHeight(roomForFourLongLines);
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return text;
+}
+
+} // namespace
+
+TipWindow::TipWindow()
+{
+    constexpr QSize firstSize(460, 260);
+    setObjectName(u"frmTip"_s);
+
+    auto *words = Column(gap);
+    words->addWidget(MakeHeading());
+    words->addWidget(MakeText(), 1);
+    auto *upper = Row(gapWindow);
+    upper->addWidget(MakePicture());
+    upper->addLayout(words, 1);
+
+    auto *lower = Row();
+    lower->addWidget(Part<QCheckBox>(u"chkLoadTipsAtStartup"_s));
+    lower->addStretch();
+    lower->addWidget(PageButton(u"cmdNextTip"_s));
+    lower->addWidget(PageButton(u"cmdAbout"_s));
+    lower->addWidget(PageButton(u"cmdOK"_s));
+
+    auto *column = Column(gapWindow);
+    column->setContentsMargins(gapWindow, gapWindow, gapWindow, gapWindow);
+    column->addLayout(upper, 1);
+    column->addLayout(lower);
+    setLayout(column);
+    resize(firstSize);
+}
+
+} // namespace tressel

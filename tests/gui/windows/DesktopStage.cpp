@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "DesktopStage.h"
+
+namespace tressel {
+
+DesktopStage::DesktopStage()
+{
+    program.folder = folder.Path();
+    program.writableFolder = folder.Path();
+    desktop = std::make_unique<Desktop>(program, hive);
+    Put(keys::ShowTips, QStringLiteral("0"));
+    Put(keys::Sound, QStringLiteral("1"));
+}
+
+void DesktopStage::Put(const KeyEntry &key, const QString &text)
+{
+    desktop->application.settings.Write(key, text);
+}
+
+void DesktopStage::Start()
+{
+    desktop->Start();
+    Settle();
+}
+
+void DesktopStage::Settle()
+{
+    constexpr int rounds = 5;
+    for (int round = 0; round < rounds; ++round) {
+        QCoreApplication::processEvents();
+        desktop->machine.updates.Flush();
+    }
+}
+
+void DesktopStage::OpenEntry(int number)
+{
+    Form().EyeDropper1.UserSelects(number);
+    Settle();
+}
+
+} // namespace tressel
