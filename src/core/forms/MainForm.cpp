@@ -7,6 +7,7 @@
 #include "machine/Dialogs.h"
 #include "machine/Paths.h"
 #include "machine/Shell.h"
+#include "tools/dialogs/BrowseForFolder.h"
 
 namespace tressel {
 
@@ -151,10 +152,11 @@ void MainForm::btnGBToolbarBrowse_Click()
 {
     clickSound.Play();
     const QString present = area.txtStrtPath.Text();
-    const QString start = FolderExists(machine.files, present) ? present : QString();
-    const auto folder = machine.dialogs.ChooseFolder(u"Select Destination Folder..."_s, start);
-    if (folder && !folder->isEmpty())
-        area.txtStrtPath.SetText(*folder);
+    const QString folder =
+        BrowseForFolder(machine.dialogs, machine.files, u"Select Destination Folder..."_s,
+                        FolderExists(machine.files, present) ? present : QString());
+    if (!folder.isEmpty())
+        area.txtStrtPath.SetText(folder);
 }
 
 void MainForm::btnGBToolbarExit_Click()

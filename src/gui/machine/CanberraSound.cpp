@@ -4,6 +4,7 @@
 #include "machine/CanberraSound.h"
 
 #include <QByteArray>
+#include <QDir>
 #include <QFile>
 #include <QLibrary>
 
@@ -24,6 +25,16 @@ using PlaySound = int (*)(void *context, std::uint32_t id, ...);
 using ChangeProperties = int (*)(void *context, ...);
 
 constexpr int libraryVersion = 0;
+
+/// Whether there is anything to hear a sound from: a sound server, a card, or the driver that the user
+/// names. Without, the library's own drivers would complain on standard error.
+bool HasOutput()
+{
+    if (qEnvironmentVariableIsSet("CANBERRA_DRIVER") || qEnvironmentVariableIsSet("PULSE_SERVER")
+        || QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/pulse/native")))
+        return true;
+    return !QDir(QStringLiteral("/proc/asound")).entryList({QStringLiteral("card[0-9]*")}).isEmpty();
+}
 
 } // namespace
 
@@ -100,6 +111,8 @@ void CanberraSound::Player::Run()
 
 bool CanberraSound::Player::Load()
 {
+    if (!HasOutput())
+        return false;
     // Never unloaded: the library may have threads of its own.
     QLibrary loaded(library, libraryVersion);
     const auto create = reinterpret_cast<CreateContext>(loaded.resolve("ca_context_create"));

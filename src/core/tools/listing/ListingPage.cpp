@@ -10,6 +10,7 @@
 #include "machine/Shell.h"
 #include "settings/Settings.h"
 #include "tools/ClickSound.h"
+#include "tools/dialogs/BrowseForFolder.h"
 #include "tools/folders/FolderListFile.h"
 
 namespace tressel {
@@ -84,12 +85,12 @@ void ListingPage::BrowseListFolder()
     Steps steps;
     steps.Do([&] {
         const QString present = CboFilePath.Text();
-        const QString start = FolderExists(machine.files, present) ? present : QString();
-        const auto folder = machine.dialogs.ChooseFolder(u"Select Folder to list..."_s, start);
-        if (!folder || folder->isEmpty())
+        const QString folder = BrowseForFolder(machine.dialogs, machine.files, u"Select Folder to list..."_s,
+                                               FolderExists(machine.files, present) ? present : QString());
+        if (folder.isEmpty())
             return;
-        CboFilePath.SetText(*folder);
-        run.ListSourcePath = *folder;
+        CboFilePath.SetText(folder);
+        run.ListSourcePath = folder;
     });
 }
 
