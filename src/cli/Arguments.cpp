@@ -13,21 +13,25 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString helpText =
-    uR"(Usage: tressel-cli create --to DIR [--remove-ext] [--quiet] (--list FILE | --names-of DIR | NAME...)
+const QString
+    helpText =
+        uR"help(Usage: tressel-cli create --to DIR [--remove-ext] [--quiet] (--list FILE | --names-of DIR | NAME...)
        tressel-cli --help | --version
 
 Makes one folder in DIR for each name. "\" in a name stands between nested folders; characters that no
-folder name may hold become "_". What exists is left alone.
+folder name may hold become "_". What exists is left as it is; for a name that exists, a folder is made
+that has the name before it and " (1)",
+    as the window does.
 
-  --to DIR        the folder to make them in; it is made if it isn't there
-  --list FILE     names from a text file, one a line; lines that start with ";" are comments
+    --to DIR the folder to make them in;
+it is made if it isn't there --list FILE names from a text file, one a line; lines that start with ";" are comments
   --names-of DIR  the names of the files in a folder
-  --remove-ext    take an extension off each name, by the rules of the window's "Remove Ext"
+  --remove-ext    what the window's "Remove Ext" does: a list file loses extensions of three letters as it
+                  is read, and each name loses its last four characters as its folder is made
   --quiet         no progress and no closing line
 
 The last line says what was made. Exit status: 0 all made, 1 something failed, 2 wrong usage,
-130 interrupted.)"_s;
+130 interrupted.)help"_s;
 
 QString Absolute(const QString &path, const QString &workingFolder)
 {

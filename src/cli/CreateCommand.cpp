@@ -26,15 +26,21 @@ std::optional<QString> WhatIsWrong(const CreateRequest &request, FileSystem &fil
             return u"the list file %1 can't be read: %2"_s.arg(*request.listFile, failure.description);
         }
     }
-    if (request.namesOf && !FolderExists(files, *request.namesOf))
-        return u"%1 is no folder whose file names could be taken"_s.arg(*request.namesOf);
+    if (request.namesOf) {
+        try {
+            files.List(*request.namesOf);
+        } catch (const Failure &failure) {
+            return u"the file names of %1 can't be taken: %2"_s.arg(*request.namesOf, failure.description);
+        }
+    }
     MakeFolderPath(files, request.destination);
     if (!FolderExists(files, request.destination))
         return u"the destination %1 is no folder and can't be made"_s.arg(request.destination);
     return {};
 }
 
-void FillList(const CreateRequest &request, ConsoleMachine &machine, MainForm &form)
+/// False if the list is not the whole of what was asked for.
+bool FillList(const CreateRequest &request, ConsoleMachine &machine, MainForm &form)
 {
     form.area.chkExtension.SetChecked(request.removeExtension);
     if (request.listFile) {
@@ -46,7 +52,10 @@ void FillList(const CreateRequest &request, ConsoleMachine &machine, MainForm &f
     } else {
         for (const QString &name : request.names)
             form.area.LstItem.AddItem(name);
+        form.tree.RefreshFolderTree();
     }
+    // A load that ends before its time leaves the words of its beginning.
+    return form.area.lblStatusLine.Caption() == u"Finished"_s;
 }
 
 /// Prints what was really done, and says how the command ended.
@@ -73,7 +82,11 @@ int RunCreate(const CreateRequest &request, FileSystem &disc, Clock &clock, Prog
     application.settings.Write(keys::ShowTips, u"0"_s);
     application.Start();
     MainForm &form = application.frmMain();
-    FillList(request, machine, form);
+    if (!FillList(request, machine, form)) {
+        PrintError(u"only %1 names could be read from the list file; nothing was made"_s.arg(
+            form.area.LstItem.ListCount()));
+        return SomethingFailed;
+    }
 
     const int wanted = form.area.LstItem.ListCount();
     NoteInterruptions();

@@ -1,20 +1,19 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
-#include <gtest/gtest.h>
-
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <sched.h>
 #include <set>
 #include <string>
-#include <vector>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -55,7 +54,7 @@ protected:
             Replace(STDERR_FILENO, err);
             setenv("HOME", (folder / "home").c_str(), 1);
             setenv("XDG_CONFIG_HOME", (folder / "home/.config").c_str(), 1);
-            std::vector<char *> words {const_cast<char *>(TRESSEL_CLI)};
+            std::vector<char *> words{const_cast<char *>(TRESSEL_CLI)};
             for (const std::string &argument : arguments)
                 words.push_back(const_cast<char *>(argument.c_str()));
             words.push_back(nullptr);
@@ -101,7 +100,7 @@ TEST_F(CreateCommand, MakesTheNamedFolders)
     EXPECT_EQ(outcome.out, "made 5, already there 0, failed 0\n");
     EXPECT_EQ(outcome.err, "");
     EXPECT_EQ(outcome.status, 0);
-    EXPECT_EQ(Made(), (std::set<std::string> {"one", "two_ 2", "a", "a/b", "\xC3\xA9t\xC3\xA9"}));
+    EXPECT_EQ(Made(), (std::set<std::string>{"one", "two_ 2", "a", "a/b", "\xC3\xA9t\xC3\xA9"}));
 }
 
 TEST_F(CreateCommand, SecondRunSaysWhatWasThere)
@@ -110,6 +109,7 @@ TEST_F(CreateCommand, SecondRunSaysWhatWasThere)
     const Outcome outcome = Run({"create", "--to", To(), "a", "b"});
     EXPECT_EQ(outcome.out, "made 1, already there 2, failed 0\n");
     EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(Made(), (std::set<std::string>{"a", "b", "b (1)"}));
 }
 
 TEST_F(CreateCommand, ListFileIsReadByTheWindowsRules)
@@ -117,7 +117,7 @@ TEST_F(CreateCommand, ListFileIsReadByTheWindowsRules)
     const fs::path list = Put("names.txt", "; comment\r\n\r\nreport.txt\r\nSales\\Q1\r\n");
     const Outcome outcome = Run({"create", "--to", To(), "--list", list});
     EXPECT_EQ(outcome.out, "made 3, already there 0, failed 0\n");
-    EXPECT_EQ(Made(), (std::set<std::string> {"report.txt", "Sales", "Sales/Q1"}));
+    EXPECT_EQ(Made(), (std::set<std::string>{"report.txt", "Sales", "Sales/Q1"}));
 }
 
 TEST_F(CreateCommand, NamesOfAFolderAreItsFiles)
@@ -127,7 +127,7 @@ TEST_F(CreateCommand, NamesOfAFolderAreItsFiles)
     Put("music/b\xFF.mp3", "");
     const Outcome outcome = Run({"create", "--to", To(), "--remove-ext", "--names-of", folder / "music"});
     EXPECT_EQ(outcome.out, "made 2, already there 0, failed 0\n");
-    EXPECT_EQ(Made(), (std::set<std::string> {"a", "b\xFF"}));
+    EXPECT_EQ(Made(), (std::set<std::string>{"a", "b\xFF"}));
 }
 
 TEST_F(CreateCommand, ShortEntryWithRemoveExtLeavesTheRestUnmadeAndSaysSo)
@@ -139,8 +139,7 @@ TEST_F(CreateCommand, ShortEntryWithRemoveExtLeavesTheRestUnmadeAndSaysSo)
 
 TEST_F(CreateCommand, NameTooLongFailsAndTheRestIsMade)
 {
-    const Outcome outcome =
-        Run({"create", "--to", To(), std::string(255, 'x'), std::string(256, 'y'), "z"});
+    const Outcome outcome = Run({"create", "--to", To(), std::string(255, 'x'), std::string(256, 'y'), "z"});
     EXPECT_EQ(outcome.out, "made 2, already there 0, failed 1\n");
     EXPECT_EQ(outcome.status, 1);
 }
@@ -189,6 +188,27 @@ TEST_F(CreateCommand, DestinationWithoutRightsIsTold)
     const Outcome outcome = Run({"create", "--to", folder / "closed", "a"}, 65534);
     EXPECT_EQ(outcome.out, "made 0, already there 0, failed 1\n");
     EXPECT_EQ(outcome.status, 1);
+}
+
+TEST_F(CreateCommand, ListThatCannotBeReadWholeMakesNothing)
+{
+    const Outcome outcome =
+        Run({"create", "--to", To(), "--remove-ext", "--list", Put("l.txt", "report.txt\nabc\nnotes.txt\n")});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.err.find("only 1 names could be read"), std::string::npos) << outcome.err;
+    EXPECT_TRUE(Made().empty());
+}
+
+TEST_F(CreateCommand, FolderThatCannotBeListedIsAClearSentence)
+{
+    if (getuid() != 0)
+        GTEST_SKIP() << "only root can give its rights up";
+    chmod(folder.c_str(), 0777);
+    fs::create_directories(folder / "closed");
+    chmod((folder / "closed").c_str(), 0);
+    const Outcome outcome = Run({"create", "--to", To(), "--names-of", folder / "closed"}, 65534);
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.err.find("can't be taken"), std::string::npos) << outcome.err;
 }
 
 TEST_F(CreateCommand, QuietSaysNothing)

@@ -11,10 +11,12 @@ using namespace Qt::StringLiterals;
 
 AboutForm::AboutForm(Settings &settings)
     : Form(u"frmAbout"_s)
-    , chkLoadTipsAtStartup(*this, u"chkLoadTipsAtStartup"_s, u"&Show Tips at Startup"_s)
+    , chkLoadTipsAtStartup(*this, u"chkLoadTipsAtStartup"_s, u"Load Tips At Startup"_s)
 {
-    chkLoadTipsAtStartup.Click.Handle(
-        [this, &settings] { settings.Write(keys::ShowTips, QString::number(chkLoadTipsAtStartup.Value())); });
+    Load.Handle([this, &settings] { chkLoadTipsAtStartup.SetValue(settings.ReadInt32(keys::ShowTips)); });
+    Unloading.Handle([this, &settings](bool &) {
+        settings.Write(keys::ShowTips, QString::number(chkLoadTipsAtStartup.Value()));
+    });
 }
 
 } // namespace tressel

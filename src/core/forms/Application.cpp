@@ -3,10 +3,11 @@
 
 #include "forms/Application.h"
 
-#include "base/Numbers.h"
+#include "forms/NoticeText.h"
 #include "machine/Dialogs.h"
 #include "machine/Program.h"
 #include "machine/SettingsHive.h"
+#include "settings/KeyPaths.h"
 
 #include <utility>
 
@@ -33,7 +34,10 @@ void Application::Start()
 
 void Application::Main()
 {
+    // Kept: the first and the last of these are read by nobody.
+    session.OlderKey = OlderKeyPath.toString();
     session.AppTitle = u"Brindlekit"_s;
+    session.NoticeText = NoticeLines().join(u'\n');
     RestoreOptions();
     if (settings.ReadInt32(keys::ShowTips) != 0)
         ShowTips();
@@ -85,9 +89,10 @@ TipForm &Application::frmTip()
 {
     if (tipForm)
         return *tipForm;
+    clickSound.emplace(machine.sound, machine.files, machine.program, frmOption().OptSound);
     return Adopt(tipForm,
                  std::make_unique<TipForm>(
-                     machine.files, machine.program, settings,
+                     machine.files, machine.program, settings, *clickSound,
                      [this](int value) { frmAbout().chkLoadTipsAtStartup.SetValue(value); },
                      [this] { frmMain().Show(); }));
 }

@@ -13,6 +13,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace tressel {
 
@@ -48,6 +49,7 @@ private:
     std::function<void(Form &)> formMade;
     std::unique_ptr<OptionForm> optionForm;
     std::unique_ptr<AboutForm> aboutForm;
+    std::optional<ClickSound> clickSound; ///< of the tip window
     std::unique_ptr<TipForm> tipForm;
     std::unique_ptr<MainForm> mainForm;
 };

@@ -11,6 +11,8 @@
 #include "machine/Screen.h"
 #include "settings/Settings.h"
 
+#include <algorithm>
+
 namespace tressel {
 
 using namespace Qt::StringLiterals;
@@ -89,14 +91,14 @@ void MainForm::FoldUp()
     Steps steps;
     steps.Do([&] {
         while (Height() > foldedHeight) {
-            SetSize(Width(), Height() - FoldStep(options.txtHeight));
+            SetSize(Width(), std::max(0, Height() - FoldStep(options.txtHeight)));
             Move(Left(), (machine.screen.Height() - Height()) / 2);
             machine.events.LetEventsRun();
         }
     });
     steps.Do([&] {
         while (Width() > foldedWidth) {
-            SetSize(Width() - FoldStep(options.txtWidth), Height());
+            SetSize(std::max(0, Width() - FoldStep(options.txtWidth)), Height());
             Move((machine.screen.Width() - Width()) / 2, Top());
             machine.events.LetEventsRun();
         }

@@ -7,6 +7,7 @@
 #include "machine/Program.h"
 #include "machine/TextFile.h"
 #include "settings/Settings.h"
+#include "tools/ClickSound.h"
 
 #include <utility>
 
@@ -26,7 +27,8 @@ const QString builtInTips =
 } // namespace
 
 TipForm::TipForm(FileSystem &fileSystem, const Program &runningProgram, Settings &settings,
-                 std::function<void(int)> tipsSwitched, std::function<void()> unloaded)
+                 const ClickSound &clickSound, std::function<void(int)> tipsSwitched,
+                 std::function<void()> unloaded)
     : Form(u"frmTip"_s)
     , Picture1(*this, u"Picture1"_s)
     , Image1(*this, u"Image1"_s)
@@ -44,8 +46,14 @@ TipForm::TipForm(FileSystem &fileSystem, const Program &runningProgram, Settings
     cmdAbout.SetEnabled(false);
     Load.Handle([this] { LoadForm(); });
     Unloaded.Handle(std::move(unloaded));
-    cmdNextTip.Click.Handle([this] { NextTip(); });
-    cmdOK.Click.Handle([this] { Unload(); });
+    cmdNextTip.Click.Handle([this, &clickSound] {
+        clickSound.Play();
+        NextTip();
+    });
+    cmdOK.Click.Handle([this, &clickSound] {
+        clickSound.Play();
+        Unload();
+    });
     chkLoadTipsAtStartup.Click.Handle([this, &settings, tipsSwitched = std::move(tipsSwitched)] {
         settings.Write(keys::ShowTips, QString::number(chkLoadTipsAtStartup.Value()));
         tipsSwitched(chkLoadTipsAtStartup.Value());

@@ -13,6 +13,7 @@
 
 namespace tressel {
 
+class ClickSound;
 class FileSystem;
 class Program;
 class Settings;
@@ -22,7 +23,7 @@ class TipForm : public Form {
 public:
     /// `tipsSwitched` is called with the check box's value after each click on it, `unloaded` when the
     /// window has gone, in whatever way.
-    TipForm(FileSystem &files, const Program &program, Settings &settings,
+    TipForm(FileSystem &files, const Program &program, Settings &settings, const ClickSound &clickSound,
             std::function<void(int)> tipsSwitched, std::function<void()> unloaded);
 
     Frame Picture1; ///< holds the picture

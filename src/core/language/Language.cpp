@@ -27,13 +27,16 @@ namespace {
 /// In the order in which they are replaced. Kept: the second one is the control character 9.
 constexpr std::array<char16_t, 9> illegalCharacters{u'/', u'\t', u':', u'*', u'?', u'"', u'<', u'>', u'|'};
 
-/// The one folder that RemoveFolderPath never touches. Kept: an old guard, compared to the letter.
+/// The one folder that RemoveFolderPath never touches. Kept: an old guard, compared to the letter, so that
+/// it speaks only where drives have letters.
 const QString protectedFolder = u"C:\\Test1"_s;
 
 /// The 1-based position of a match, 0 for none, in the 16 bits that text routines count in.
 std::int16_t Position(const QString &text, qsizetype index)
 {
     ToInt16(static_cast<double>(text.size()));
+    if (text.isEmpty())
+        return 0;
     return ToInt16(static_cast<double>(index + 1));
 }
 
@@ -85,7 +88,9 @@ bool RemoveFolderPath(FileSystem &files, const QString &path)
 
 QString UpperFirst(const QString &text)
 {
-    return Left(text, 1).toUpper() + Right(text, text.size() - 1);
+    const QString rest = Right(text, text.size() - 1);
+    // A letter that has no capital of its own stays.
+    return text.front().toUpper() + rest;
 }
 
 QString TextAfter(const QString &text, const QString &marker)

@@ -17,6 +17,8 @@ struct Session {
     QString ListFile; ///< the list text file of the session, empty until one was picked or saved
     QString ReportFile; ///< the latest listing report
     QString AppTitle; ///< title of the error box
+    QString OlderKey; ///< the older product's key in the settings
+    QString NoticeText; ///< terms of use
 
     // Which source last filled the list: at most one is true.
     bool ListFromReport = false;

@@ -7,9 +7,6 @@
 
 namespace tressel {
 
-/// The application title: the settings root is built from it, and so are the titles of windows.
-inline constexpr QStringView ApplicationTitle = u"Tressel";
-
 /// What stands before the application title, in the settings root and in the name under which the
 /// application store knows the splitter's settings.
 inline constexpr QStringView MakerPrefix = u"Halven Software\\";

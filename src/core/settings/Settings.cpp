@@ -3,6 +3,7 @@
 
 #include "settings/Settings.h"
 
+#include "base/Version.h"
 #include "machine/FileSystem.h"
 #include "machine/Machine.h"
 #include "machine/Program.h"
@@ -20,7 +21,7 @@ namespace {
 
 QString SettingsRoot()
 {
-    return u"Software\\"_s + MakerPrefix.toString() + ApplicationTitle.toString();
+    return u"Software\\"_s + MakerPrefix.toString() + ApplicationTitle;
 }
 
 SettingsHive::Root RootOf(KeyPlace place)
@@ -51,7 +52,7 @@ ApplicationPlace ApplicationPlaceOf(KeyPlace place, const Program &program)
 {
     if (place == KeyPlace::Program)
         return {program.ExecutableName(), u"Options"_s};
-    return {MakerPrefix.toString() + ApplicationTitle.toString(), u"Settings"_s};
+    return {MakerPrefix.toString() + ApplicationTitle, u"Settings"_s};
 }
 
 } // namespace

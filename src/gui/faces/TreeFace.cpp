@@ -48,7 +48,9 @@ TreeFace::TreeFace(TreeView &control, QTreeView &widget, const NodeIcons &icons)
 
     connect(&view, &QTreeView::clicked, this, [this](const QModelIndex &index) {
         const int node = model.NodeOf(index);
-        Hand([&] { tree.UserClicks(node); });
+        // In the middle of a rebuild the view may show nodes that are gone.
+        if (node < tree.Nodes().size() && tree.Nodes().at(node).text == index.data().toString())
+            Hand([&] { tree.UserClicks(node); });
     });
     connect(&view, &QTreeView::expanded, this,
             [this](const QModelIndex &index) { NoteExpanded(index, true); });

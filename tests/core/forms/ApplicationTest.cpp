@@ -140,6 +140,17 @@ TEST_F(Start, WithoutAFileAllBuiltInTipsShow)
     EXPECT_TRUE(application.frmTip().lblTipText.Caption().startsWith(u"1. If you will create a folder"_s));
 }
 
+TEST_F(Start, TipButtonsAreHeard)
+{
+    application.Start();
+    application.frmTip().cmdNextTip.SetEnabled(true);
+    application.frmTip().cmdNextTip.UserClicks();
+    EXPECT_EQ(machine.journal.Count(u"Play"_s), 1);
+    application.frmOption().OptSound.Select(1);
+    application.frmTip().cmdOK.UserClicks();
+    EXPECT_EQ(machine.journal.Count(u"Play"_s), 1);
+}
+
 TEST_F(Start, FailureThatNobodyHandlesEndsTheProcess)
 {
     TipsOff();

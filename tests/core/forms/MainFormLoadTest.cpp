@@ -47,18 +47,18 @@ TEST_F(MainFormLoad, ReadsTheSettingsInItsOrder)
         u"Main\\SearchPath"_s, u"Main\\DatabaseFile"_s, u"Main\\SQLString"_s, u"Main\\Table"_s,
         u"Options\\MakeDel"_s, u"Options\\FromDir"_s, u"Options\\ToDir"_s, u"Options\\Folder"_s,
         u"Options\\SubFolder"_s, u"Options\\LastNumPath"_s, u"Main\\MainWidth"_s, u"Main\\MainHeight"_s,
-        u"Main\\MainLeft"_s, u"Main\\MainTop"_s, u"Main\\FilePath"_s, u"Main\\FileExt"_s, u"Main\\ButtonBar"_s,
-        u"Main\\LastPath"_s, u"Main\\LastFile"_s, u"Main\\LastDBPath"_s, u"Main\\OpenTXTPath"_s,
-        u"Main\\OpenDBPath"_s, u"Main\\Separate"_s, u"Main\\RecentPath 0"_s, u"Main\\OnlyListFilename"_s,
-        u"Main\\GenLastPath"_s, u"Main\\LastSavePath"_s,
+        u"Main\\MainLeft"_s, u"Main\\MainTop"_s, u"Main\\FilePath"_s, u"Main\\FileExt"_s,
+        u"Main\\ButtonBar"_s, u"Main\\LastPath"_s, u"Main\\LastFile"_s, u"Main\\LastDBPath"_s,
+        u"Main\\OpenTXTPath"_s, u"Main\\OpenDBPath"_s, u"Main\\Separate"_s, u"Main\\RecentPath 0"_s,
+        u"Main\\OnlyListFilename"_s, u"Main\\GenLastPath"_s, u"Main\\LastSavePath"_s,
         // The second store, then the appearance with the second look at the place.
         u"Settings\\WindowLeft"_s, u"Settings\\WindowTop"_s, u"Settings\\SplitSize"_s,
         u"Settings\\SplitCount"_s, u"Settings\\SplitOption"_s, u"Settings\\DeleteParts"_s,
         u"Settings\\OpenExplorer"_s, u"Settings\\CopyToFloppy"_s, u"Main\\RightToLeft"_s, u"Main\\Color11"_s,
-        u"Main\\Color21"_s, u"Main\\MainWidth"_s, u"Main\\MainHeight"_s, u"Main\\MainLeft"_s, u"Main\\MainTop"_s,
-        u"Main\\IndxBar"_s, u"Main\\VisibleItems"_s, u"Main\\TabStrip"_s, u"Main\\TitleBarFont"_s,
-        u"Main\\TitleCapTextCol"_s, u"Main\\OutlookColors"_s, u"Main\\CustomColor"_s, u"Main\\chk1"_s,
-        u"Main\\chk7"_s, u"Main\\Menu1"_s, u"Main\\Menu7"_s};
+        u"Main\\Color21"_s, u"Main\\MainWidth"_s, u"Main\\MainHeight"_s, u"Main\\MainLeft"_s,
+        u"Main\\MainTop"_s, u"Main\\IndxBar"_s, u"Main\\VisibleItems"_s, u"Main\\TabStrip"_s,
+        u"Main\\TitleBarFont"_s, u"Main\\TitleCapTextCol"_s, u"Main\\OutlookColors"_s, u"Main\\CustomColor"_s,
+        u"Main\\chk1"_s, u"Main\\chk7"_s, u"Main\\Menu1"_s, u"Main\\Menu7"_s};
     qsizetype from = 0;
     for (const QString &name : order) {
         const qsizetype at = read.indexOf(name, from);
@@ -73,40 +73,76 @@ TEST_F(MainFormLoad, WritesTheSettingsInItsOrder)
     machine.journal.Clear();
     Leave();
     QStringList written = Settings(u"WriteSetting"_s);
-    const QStringList order = {
-        u"Settings\\WindowLeft"_s, u"Settings\\WindowTop"_s, u"Settings\\SplitSize"_s,
-        u"Settings\\SplitCount"_s, u"Settings\\SplitOption"_s, u"Settings\\DeleteParts"_s,
-        u"Settings\\OpenExplorer"_s, u"Settings\\CopyToFloppy"_s, u"Main\\MainLeft"_s, u"Main\\MainTop"_s,
-        u"Main\\MainWidth"_s, u"Main\\MainHeight"_s, u"Main\\VisibleItems"_s, u"Main\\TabStrip"_s,
-        u"Main\\Menu1"_s, u"Main\\Menu2"_s, u"Main\\Menu3"_s, u"Main\\Menu4"_s, u"Main\\Menu5"_s,
-        u"Main\\Menu6"_s, u"Main\\Menu7"_s, u"Main\\OnlyListFilename"_s, u"Main\\GenLastPath"_s,
-        u"Main\\LastSavePath"_s, u"Main\\SearchPath"_s, u"Main\\DatabaseFile"_s, u"Main\\SQLString"_s,
-        u"Main\\Table"_s, u"Main\\FilePath"_s, u"Main\\FileExt"_s, u"Main\\ButtonBar"_s, u"Main\\Separate"_s,
-        u"Main\\LastFile"_s, u"Main\\LastPath"_s, u"Main\\LastDBPath"_s, u"Main\\OpenTXTPath"_s,
-        u"Main\\OpenDBPath"_s, u"Options\\MakeDel"_s, u"Options\\FromDir"_s, u"Options\\ToDir"_s,
-        u"Options\\Folder"_s, u"Options\\SubFolder"_s, u"Options\\LastNumPath"_s};
+    const QStringList order = {u"Settings\\WindowLeft"_s,
+                               u"Settings\\WindowTop"_s,
+                               u"Settings\\SplitSize"_s,
+                               u"Settings\\SplitCount"_s,
+                               u"Settings\\SplitOption"_s,
+                               u"Settings\\DeleteParts"_s,
+                               u"Settings\\OpenExplorer"_s,
+                               u"Settings\\CopyToFloppy"_s,
+                               u"Main\\MainLeft"_s,
+                               u"Main\\MainTop"_s,
+                               u"Main\\MainWidth"_s,
+                               u"Main\\MainHeight"_s,
+                               u"Main\\VisibleItems"_s,
+                               u"Main\\TabStrip"_s,
+                               u"Main\\Menu1"_s,
+                               u"Main\\Menu2"_s,
+                               u"Main\\Menu3"_s,
+                               u"Main\\Menu4"_s,
+                               u"Main\\Menu5"_s,
+                               u"Main\\Menu6"_s,
+                               u"Main\\Menu7"_s,
+                               u"Main\\OnlyListFilename"_s,
+                               u"Main\\GenLastPath"_s,
+                               u"Main\\LastSavePath"_s,
+                               u"Main\\SearchPath"_s,
+                               u"Main\\DatabaseFile"_s,
+                               u"Main\\SQLString"_s,
+                               u"Main\\Table"_s,
+                               u"Main\\FilePath"_s,
+                               u"Main\\FileExt"_s,
+                               u"Main\\ButtonBar"_s,
+                               u"Main\\Separate"_s,
+                               u"Main\\LastFile"_s,
+                               u"Main\\LastPath"_s,
+                               u"Main\\LastDBPath"_s,
+                               u"Main\\OpenTXTPath"_s,
+                               u"Main\\OpenDBPath"_s,
+                               u"Options\\MakeDel"_s,
+                               u"Options\\FromDir"_s,
+                               u"Options\\ToDir"_s,
+                               u"Options\\Folder"_s,
+                               u"Options\\SubFolder"_s,
+                               u"Options\\LastNumPath"_s};
     EXPECT_EQ(written, order);
-    EXPECT_EQ(machine.journal.About(u"End"_s), QStringList {u"0"_s});
+    EXPECT_EQ(machine.journal.About(u"End"_s), QStringList{u"0"_s});
 }
 
 TEST_F(MainFormLoad, FirstStartIsCentredInItsLaterSize)
 {
-    machine.hive.Write(SettingsHive::Root::User, mainKey, u"FileExt"_s, u"1"_s);
     Start();
     EXPECT_EQ(Form().Width(), 10830);
     EXPECT_EQ(Form().Height(), 7860);
     EXPECT_EQ(Form().Left(), (machine.screen.Width() - 10830) / 2);
     EXPECT_EQ(Form().Top(), (machine.screen.Height() - 7860) / 2);
-    EXPECT_TRUE(Area().chkExtension.IsChecked());
     EXPECT_FALSE(Form().HasCloseBox());
 }
 
-TEST_F(MainFormLoad, EmptyStoreStartsInTheProgramFolder)
+TEST(FirstStart, BringsTheTipsThenTheWindowInTheProgramFolder)
 {
+    MemoryMachine machine;
     Application fresh(machine.machine);
-    fresh.settings.Write(keys::FilePath, u""_s);
     fresh.Start();
+    EXPECT_TRUE(fresh.frmTip().IsVisible());
     fresh.frmTip().cmdOK.UserClicks();
+    EXPECT_EQ(fresh.frmMain().Width(), 10830);
+    EXPECT_EQ(fresh.frmMain().Height(), 7860);
+    EXPECT_EQ(fresh.frmMain().Left(), (machine.screen.Width() - 10830) / 2);
+    EXPECT_EQ(fresh.frmMain().Top(), (machine.screen.Height() - 7860) / 2);
+    EXPECT_TRUE(fresh.frmMain().area.chkExtension.IsChecked());
+    EXPECT_EQ(fresh.frmMain().area.txtStrtPath.Text(), u"C:\\Tressel"_s);
     EXPECT_EQ(fresh.frmMain().browse.DirList.Path(), u"C:\\Tressel"_s);
     EXPECT_EQ(fresh.frmMain().textLists.OpenTXTPath, u"C:\\Tressel"_s);
     EXPECT_EQ(fresh.frmMain().OpenDBPath, u"C:\\Tressel"_s);
@@ -188,7 +224,8 @@ TEST_F(MainFormLoad, CommandLineNamesTheFileToSplit)
 TEST_F(MainFormLoad, CommandLineThatNamesNoFileIsIgnored)
 {
     machine.files.PutFile(u"C:\\Docs\\big.iso"_s, "x");
-    for (const QString &commandLine : {u""_s, u"\"C:\\Docs\\big.iso\""_s, u"C:\\Docs\\none"_s, u"C:\\Docs"_s}) {
+    for (const QString &commandLine :
+         {u""_s, u"\"C:\\Docs\\big.iso\""_s, u"C:\\Docs\\none"_s, u"C:\\Docs"_s}) {
         StartedProgram program;
         program.machine.program.commandLine = commandLine;
         program.Start();
@@ -262,7 +299,7 @@ TEST_F(MainFormLoad, ListOfTheLastSessionComesBack)
     machine.files.PutFile(u"C:\\Lists\\names.txt"_s, "one\r\ntwo\r\n");
     application.settings.Write(keys::LastFile, u"C:\\Lists\\names.txt"_s);
     Start();
-    EXPECT_EQ(Area().LstItem.Items(), (QStringList {u"one"_s, u"two"_s}));
+    EXPECT_EQ(Area().LstItem.Items(), (QStringList{u"one"_s, u"two"_s}));
     EXPECT_EQ(Area().TVList.Nodes().at(0).text, u"Create 2 Main Folders"_s);
 }
 
@@ -303,10 +340,12 @@ TEST_F(MainFormUnload, AnimationFoldsHeightThenWidth)
     Start();
     application.frmOption().ChkAnimOption.SetChecked(true);
     QList<QSize> sizes;
-    machine.events.When([&] {
-        sizes += QSize(Form().Width(), Form().Height());
-        return Form().Width() <= 1700;
-    }, [] { });
+    machine.events.When(
+        [&] {
+            sizes += QSize(Form().Width(), Form().Height());
+            return Form().Width() <= 1700;
+        },
+        [] {});
     Leave();
     ASSERT_FALSE(sizes.isEmpty());
     EXPECT_EQ(sizes.first(), QSize(10830, 7860 - 500));
@@ -336,6 +375,17 @@ TEST_F(MainFormUnload, AnimationThatWouldNeverEndIsLeftOut)
     Leave();
     EXPECT_EQ(Form().Height(), 7860);
     EXPECT_EQ(Form().Width(), 10830);
+}
+
+TEST_F(MainFormUnload, AnimationInOneHugeStepIsOver)
+{
+    Start();
+    application.frmOption().ChkAnimOption.SetChecked(true);
+    application.frmOption().txtHeight.SetText(u"2147483647"_s);
+    application.frmOption().txtWidth.SetText(u"2147483647"_s);
+    Leave();
+    EXPECT_EQ(Form().Height(), 0);
+    EXPECT_EQ(Form().Width(), 0);
 }
 
 TEST_F(MainFormUnload, NothingFoldsWhenMinimisedOrOff)

@@ -118,6 +118,7 @@ TEST(Texts, AreCutAtMarkers)
     EXPECT_EQ(TextBeforeLast(u"a.b.c"_s, u"."_s), u"a.b"_s);
     for (const auto cut : {TextAfter, TextBefore, TextBeforeLast})
         EXPECT_EQ(cut(u"whole"_s, u"."_s), u"whole"_s);
+    EXPECT_EQ(TextAfter(u""_s, u""_s), u""_s);
 }
 
 TEST(Texts, TailOfALongMarkerStays)
@@ -137,6 +138,7 @@ TEST(Texts, UpperFirstFailsOnNothing)
 {
     EXPECT_EQ(UpperFirst(u"élan vital"_s), u"Élan vital"_s);
     EXPECT_EQ(UpperFirst(u"x"_s), u"X"_s);
+    EXPECT_EQ(UpperFirst(u"ßx"_s), u"ßx"_s);
     EXPECT_EQ(NumberThrownBy([] { UpperFirst(u""_s); }), FailureNumber::InvalidProcedureCall);
 }
 

@@ -37,7 +37,7 @@ TEST(VolumesOfTable, RootComesFirstThenHomeThenRemovableMediaByPath)
     EXPECT_EQ(RootsOf(table),
               (QStringList{u"/"_s, u"/home/"_s, u"/media/me/PHOTOS/"_s, u"/mnt/share/"_s,
                            u"/run/media/me/STICK/"_s}));
-    EXPECT_EQ(RootsOf(table, "/root"),
+    EXPECT_EQ(RootsOf(table, "/srv/me"),
               (QStringList{u"/"_s, u"/media/me/PHOTOS/"_s, u"/mnt/share/"_s, u"/run/media/me/STICK/"_s}));
 }
 

@@ -126,6 +126,17 @@ private:
     bool renamed = false;
 };
 
+void WriteInPlace(const NativePath &target, const QByteArray &bytes)
+{
+    Descriptor file(openat(target.Folder(), target.Rest(), O_WRONLY | O_TRUNC | O_CLOEXEC));
+    if (!file.IsOpen())
+        throw Failure(NumberOfError(errno));
+    PosixOpenFile writer(std::move(file));
+    writer.Write(bytes);
+    writer.Flush();
+    writer.Close();
+}
+
 } // namespace
 
 void ReplaceContentsAtOnce(const QString &path, const QByteArray &bytes)
@@ -138,11 +149,20 @@ void ReplaceContentsAtOnce(const QString &path, const QByteArray &bytes)
     const std::optional<struct stat> rights = RightsOf(target);
     // 0666 as for any new file, of which the user's mask takes its part; hidden from others until it has its
     // rights.
-    FileBeside beside(target, rights ? 0600 : 0666);
+    std::optional<FileBeside> beside;
+    try {
+        beside.emplace(target, rights ? 0600 : 0666);
+    } catch (const Failure &failure) {
+        // A file that may be written in a folder that may not: then only the file itself is left.
+        if (!rights || failure.number != FailureNumber::PathFileAccessError)
+            throw;
+        WriteInPlace(target, bytes);
+        return;
+    }
     if (rights)
-        beside.TakeRights(*rights);
-    beside.Write(bytes);
-    beside.TakeThePlaceOf(target);
+        beside->TakeRights(*rights);
+    beside->Write(bytes);
+    beside->TakeThePlaceOf(target);
 }
 
 } // namespace tressel

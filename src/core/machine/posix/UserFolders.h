@@ -11,8 +11,8 @@ namespace tressel {
 /// Empty if neither knows one.
 QByteArray HomeFolder();
 
-/// Where programs keep data of the user: $XDG_DATA_HOME if it is a whole path, as the XDG Base Directory
-/// Specification wants it, else .local/share in the home folder.
+/// Where programs keep data of the user: $XDG_DATA_HOME if it is a whole path, else .local/share in the
+/// home folder, as the XDG base directories have it.
 QByteArray UserDataFolder();
 
 } // namespace tressel

@@ -82,6 +82,7 @@ void FolderListFile::SaveList()
 {
     try {
         QString text;
+        // Kept: an entry with a line break in it comes back as two.
         for (const QString &entry : area.LstItem.Items())
             text += entry + u"\r\n"_s;
         try {

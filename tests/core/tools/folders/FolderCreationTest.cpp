@@ -216,8 +216,7 @@ TEST_F(FolderCreation, SecondPressInTheMiddleRunsNestedAndSharesItsState)
     // The nested run comes while "b" is mended and makes "b"; it finds "a" there, mends nothing and
     // raises the number. "b" then exists when its own turn comes.
     EXPECT_EQ(application.session.RunNumber, 3);
-    EXPECT_TRUE(machine.files.Exists(u"C:\\Work\\a"_s));
-    EXPECT_TRUE(machine.files.Exists(u"C:\\Work\\b"_s));
+    EXPECT_EQ(Folders(), (QStringList{u"a"_s, u"a (1)"_s, u"b"_s}));
 }
 
 TEST_F(FolderCreation, ListThatShrinksInTheMiddleEndsTheRun)
@@ -243,6 +242,25 @@ TEST_F(FolderCreation, TreeShowsTheSizeOfTheListWhateverWasMade)
     PressCreate();
     EXPECT_EQ(Area().TVList.Nodes().at(0).text, u"Total 2 Main Folders Created"_s);
     EXPECT_EQ(Area().TVList.Nodes().at(1).image, 6);
+}
+
+TEST_F(FolderCreation, TrailingBlanksAndDotsArePassedOn)
+{
+    List({u"a "_s, u"b."_s});
+    machine.journal.Clear();
+    PressCreate();
+    const QStringList tried = machine.journal.About(u"MakeFolder"_s);
+    EXPECT_TRUE(tried.contains(u"C:\\Work\\a "_s));
+    EXPECT_TRUE(tried.contains(u"C:\\Work\\b."_s));
+}
+
+TEST_F(FolderCreation, SeparatorAtTheStartTriesAnEmptyLevel)
+{
+    List({u"\\x"_s});
+    machine.journal.Clear();
+    PressCreate();
+    EXPECT_EQ(machine.journal.About(u"MakeFolder"_s),
+              (QStringList{u"C:\\Work"_s, u"C:\\Work\\"_s, u"C:\\Work\\\\x"_s}));
 }
 
 TEST_F(FolderCreation, ClickIsHeardFirst)

@@ -80,7 +80,7 @@ TEST_F(TextList, LoadTellsWhereFrom)
     EXPECT_EQ(Form().Caption(), u"Tressel v5.1450 - Files load from ... "_s + deep.right(70));
 }
 
-TEST_F(TextList, LoadDialogIsAskedAsTold)
+TEST_F(TextList, LoadDialogStartsInTheStoredFolder)
 {
     machine.files.PutFolder(u"C:\\Docs"_s);
     application.settings.Write(keys::OpenTXTPath, u"C:\\Docs"_s);
@@ -175,8 +175,11 @@ TEST_F(TextList, LargerFileIsRefusedAtStartOnly)
     EXPECT_EQ(application.session.ListFile, listPath);
     EXPECT_EQ(Form().Caption(), u"Tressel"_s);
 
-    Area().chkExtension.SetChecked(true);
-    EXPECT_EQ(Area().LstItem.ListCount(), 3200);
+    EXPECT_FALSE(machine.events.IsBusy());
+
+    machine.dialogs.ExpectOpenFile(listPath);
+    Form().textLists.btnGBLoadFile.UserClicks();
+    EXPECT_EQ(Area().LstItem.ListCount(), 3201);
     EXPECT_THROW(Form().Unload(), ProcessEnded);
     EXPECT_EQ(application.settings.ReadText(keys::LastFile), listPath);
 }
@@ -393,13 +396,80 @@ TEST_F(BrowsedFolder, RemoveExtReloadsFromTheRememberedSource)
     Area().chkExtension.UserToggles();
     EXPECT_EQ(Entries(), QStringList{u"one.txt"_s});
 
+    // From a text file the tree is built twice, from a double clicked file once.
+    int rebuilds = 0;
+    Area().lblStatusLine.Change.Handle([&] { rebuilds += Status() == u"Finished"_s ? 1 : 0; });
+    Area().chkExtension.UserToggles();
+    EXPECT_EQ(rebuilds, 2);
+    Area().chkExtension.UserToggles();
+    Area().lblStatusLine.Change.Handle([] {});
+
     application.session.ListFromTextFile = false;
     Area().LstItem.Clear();
     Area().chkExtension.UserToggles();
     EXPECT_TRUE(Entries().isEmpty());
+
+    machine.files.PutFile(u"C:\\Lists\\report.txt"_s, "from.rep\r\n");
+    application.settings.Write(keys::ReportFile, u"C:\\Lists\\report.txt"_s);
+    Form().listing.ChckValg.SetChecked(false);
+    application.session.ListFromReport = true;
+    Area().chkExtension.UserToggles();
+    EXPECT_EQ(Entries(), QStringList{u"from.rep"_s});
+    application.session.ListFromReport = false;
+    Area().chkExtension.SetChecked(true);
     application.session.ListFromFileList = true;
     Area().chkExtension.UserToggles();
     EXPECT_EQ(Entries(), QStringList{u"one.txt"_s});
+}
+
+TEST_F(TextList, ListIsTheSameAtTheNextStartWithoutItsComments)
+{
+    Start();
+    Load("; comment\none\n\ntwo\n");
+    machine.dialogs.ExpectSaveFile(u"C:\\Lists\\saved.txt"_s);
+    Form().textLists.btnGBSaveFile.UserClicks();
+    EXPECT_THROW(Form().Unload(), ProcessEnded);
+
+    Application next(machine.machine);
+    next.Start();
+    EXPECT_EQ(next.frmMain().area.LstItem.Items(), (QStringList{u"one"_s, u"two"_s}));
+    EXPECT_EQ(machine.files.Bytes(u"C:\\Lists\\saved.txt"_s), "one\r\ntwo\r\n");
+}
+
+TEST_F(TextList, EveryButtonIsHeardBeforeItActs)
+{
+    Start();
+    MainForm &form = Form();
+    const QList<IsButton *> buttons = {&form.textLists.btnGBLoadFile, &form.textLists.btnGBSaveFile,
+                                       &form.btnGBToolbarLoadList, &form.btnGBToolbarBrowse,
+                                       &form.btnGBToolbarCreate};
+    for (const bool isOn : {true, false}) {
+        application.frmOption().OptSound.Select(isOn ? 0 : 1);
+        for (IsButton *button : buttons) {
+            machine.journal.Clear();
+            if (button == buttons.at(0))
+                machine.dialogs.ExpectOpenFile(std::nullopt);
+            if (button == buttons.at(1))
+                machine.dialogs.ExpectSaveFile(std::nullopt);
+            if (button == buttons.at(3))
+                machine.dialogs.ExpectChooseFolder(std::nullopt);
+            button->UserClicks();
+            EXPECT_EQ(machine.journal.Count(u"Play"_s), isOn ? 1 : 0) << button->Name().toStdString();
+            if (isOn) {
+                EXPECT_EQ(machine.journal.Entries().first().what, u"Play"_s) << button->Name().toStdString();
+            }
+        }
+    }
+}
+
+TEST_F(TextList, SecondLoadInTheMiddleOfALoadAddsToIt)
+{
+    Start();
+    machine.events.At(2, [this] { Form().listFile.LoadList(); });
+    Load("one\ntwo\n");
+    // The first load had read one line; the second cleared the list and read both, and then the first
+    // went on with its second line.
+    EXPECT_EQ(Entries(), (QStringList{u"one"_s, u"two"_s, u"two"_s}));
 }
 
 TEST_F(TextList, DropGivesTheFirstPath)
