@@ -183,9 +183,8 @@ void MainForm::btnGBToolbarBrowse_Click()
 {
     clickSound.Play();
     const QString present = area.txtStrtPath.Text();
-    const QString folder =
-        BrowseForFolder(machine.dialogs, machine.files, u"Select Destination Folder..."_s,
-                        FolderExists(machine.files, present) ? present : QString());
+    const QString folder = BrowseForFolder(machine.dialogs, machine.files, u"Select Destination Folder..."_s,
+                                           FolderExists(machine.files, present) ? present : QString());
     if (!folder.isEmpty())
         area.txtStrtPath.SetText(folder);
 }
