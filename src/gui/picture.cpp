@@ -93,8 +93,9 @@ void PrepareSettings(const Machine &machine, const Wish &wish, const QString &pl
     Settings settings(machine);
     settings.Write(keys::ShowTips, wish.tip ? u"1"_s : u"0"_s);
     settings.Write(keys::LastFile, QString::fromUtf8(TRESSEL_SAMPLE_LIST));
-    settings.Write(keys::FilePath, place + u"/New folders"_s);
+    settings.Write(keys::FilePath, u"/home/robin/New folders"_s);
     settings.Write(keys::LastDBPath, place);
+    settings.Write(keys::DatabaseFile, u"/home/robin/contacts.mdb"_s);
     settings.Write(keys::SearchPath, place);
     settings.Write(keys::LastNumPath, place);
     settings.Write(keys::IndxBar, wish.entry);
@@ -126,8 +127,8 @@ int main(int count, char **arguments)
     if (wish.dark)
         UseDarkColours();
 
-    const QTemporaryDir holder;
-    const QString place = holder.filePath(u"Pictures"_s);
+    const QTemporaryDir holder(QDir::temp().filePath(u"Pictures-XXXXXX"_s));
+    const QString place = holder.path();
     FillPlace(QDir(place));
     MemorySettingsHive hive;
     PosixProgram program(count, arguments, {});

@@ -70,6 +70,7 @@ MainForm::MainForm(const Machine &onMachine, Settings &stored, Session &shared, 
                   &database.page, &emptyFolders.page, &FrameXPMenu6,  &splitter.page}
 {
     SetFirstValues();
+    PlaceIcons();
     TieToolbar();
     TiePathRow();
     TieSideBar();
@@ -105,6 +106,36 @@ void MainForm::SetFirstValues()
     lblUpdate.SetForeColor(0x00FFFF); // yellow
     FrameXPMenu3.SetVisible(false);
     Picture4.SetVisible(false);
+}
+
+void MainForm::PlaceIcons()
+{
+    const std::array<std::pair<IsButton &, const char16_t *>, 7> toolbar{{
+        {btnGBToolbarCreate, u"create"},
+        {btnGBToolbarLoadList, u"load-list"},
+        {btnGBToolbarBrowse, u"browse"},
+        {btnGBToolbarOption, u"option"},
+        {btnGBToolbarUpdate, u"update"},
+        {btnGBToolbarAbout, u"about"},
+        {btnGBToolbarExit, u"exit"},
+    }};
+    for (const auto &[button, icon] : toolbar)
+        button.PlaceIcon(Picture(QString::fromUtf16(icon)));
+
+    // On a page there is only room for small ones, beside the caption.
+    constexpr std::int16_t smallIcon = 16;
+    const std::array<std::pair<IsButton &, const char16_t *>, 5> page{{
+        {emptyFolders.btnGBToolbarSearch, u"search"},
+        {emptyFolders.btnGBToolbarOpenDir, u"open-folder"},
+        {emptyFolders.btnGBToolbarDelDir, u"delete-one"},
+        {emptyFolders.btnGBToolbarDeleteAll, u"delete-all"},
+        {emptyFolders.btnGBToolbarCopy, u"clipboard"},
+    }};
+    for (const auto &[button, icon] : page) {
+        button.SetIcon(Picture(QString::fromUtf16(icon)));
+        button.SetIconSize(smallIcon);
+        button.SetIconAlign(IconPlace::Left);
+    }
 }
 
 void MainForm::TieToolbar()
@@ -152,9 +183,8 @@ void MainForm::btnGBToolbarBrowse_Click()
 {
     clickSound.Play();
     const QString present = area.txtStrtPath.Text();
-    const QString folder =
-        BrowseForFolder(machine.dialogs, machine.files, u"Select Destination Folder..."_s,
-                        FolderExists(machine.files, present) ? present : QString());
+    const QString folder = BrowseForFolder(machine.dialogs, machine.files, u"Select Destination Folder..."_s,
+                                           FolderExists(machine.files, present) ? present : QString());
     if (!folder.isEmpty())
         area.txtStrtPath.SetText(folder);
 }

@@ -124,6 +124,7 @@ private:
     bool foldsUp = false; ///< the window is closing and gets smaller than its least size
 
     void SetFirstValues();
+    void PlaceIcons();
     void TieSideBar();
     void TieLayout();
     void KeepLeastSize();

@@ -14,6 +14,16 @@ using namespace Qt::StringLiterals;
 
 namespace tressel {
 
+namespace {
+
+// Twips finer than a pixel stay as they are while the pixels are the same.
+int Told(int twips, int pixels)
+{
+    return ToPixels(twips) == pixels ? twips : ToTwips(pixels);
+}
+
+} // namespace
+
 WindowFace::WindowFace(Form &shownForm, QWidget &showingWindow, const FaceMakers &makers, FaceUpdates &when)
     : form(shownForm)
     , window(showingWindow)
@@ -130,6 +140,9 @@ bool WindowFace::eventFilter(QObject *watched, QEvent *event)
         updates.Flush();
         event->setAccepted(!form.IsVisible());
         return true;
+    case QEvent::Show:
+        TellSize();
+        break;
     case QEvent::Resize:
     case QEvent::Move:
     case QEvent::WindowStateChange:
@@ -144,6 +157,13 @@ bool WindowFace::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
+void WindowFace::TellSize()
+{
+    // The least size of a window may be more than its form asked for while it was hidden.
+    form.TakeGeometry(form.Left(), form.Top(), Told(form.Width(), window.width()),
+                      Told(form.Height(), window.height()), form.State());
+}
+
 void WindowFace::TellGeometry()
 {
     if (!window.isVisible())
@@ -152,15 +172,11 @@ void WindowFace::TellGeometry()
     const WindowState state = states & Qt::WindowMinimized ? WindowState::Minimised
         : states & Qt::WindowMaximized                     ? WindowState::Maximised
                                                            : WindowState::Normal;
-    // Twips finer than a pixel stay as they are while the pixels are the same.
-    const auto told = [](int twips, int pixels) {
-        return ToPixels(twips) == pixels ? twips : ToTwips(pixels);
-    };
-    const int left = told(form.Left(), window.x());
-    const int top = told(form.Top(), window.y());
+    const int left = Told(form.Left(), window.x());
+    const int top = Told(form.Top(), window.y());
     shownLeft = left;
     shownTop = top;
-    form.TakeGeometry(left, top, told(form.Width(), window.width()), told(form.Height(), window.height()),
+    form.TakeGeometry(left, top, Told(form.Width(), window.width()), Told(form.Height(), window.height()),
                       state);
 }
 

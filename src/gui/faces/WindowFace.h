@@ -41,6 +41,7 @@ private:
     void ShowGeometry();
     void ShowState();
     void BringToFront();
+    void TellSize();
     void TellGeometry();
     void TellActivation();
     void UnloadForm();

@@ -31,6 +31,10 @@ QWidget *MakeNumberedPage()
     numbers->addWidget(LabelFor(u"lblTo"_s, to));
     numbers->addWidget(to, 1);
 
+    auto *names = Row();
+    names->addWidget(Field(u"txtFeltDir"_s, u"Name of the folders"_s), 1);
+    names->addWidget(Field(u"txtFeltDirSub"_s, u"Name of the sub folders"_s), 1);
+
     auto *buttons = Row();
     buttons->addStretch();
     buttons->addWidget(PageButton(u"btnGBMake"_s));
@@ -39,8 +43,7 @@ QWidget *MakeNumberedPage()
     auto *column = Column();
     column->addWidget(Combo(u"DrvBox"_s, u"Drives"_s));
     column->addWidget(List(u"DirBox"_s, u"Folder of the series"_s), 1);
-    column->addWidget(Field(u"txtFeltDir"_s, u"Name of the folders"_s));
-    column->addWidget(Field(u"txtFeltDirSub"_s, u"Name of the sub folders"_s));
+    column->addLayout(names);
     column->addLayout(numbers);
     column->addWidget(Part<QCheckBox>(u"chkMain_Sub"_s));
     column->addWidget(Part<QCheckBox>(u"Chck_MakeDel"_s));

@@ -16,11 +16,14 @@ namespace {
 
 QLayout *MakeTextLists()
 {
-    auto *row = Row();
-    row->addWidget(WrappedLabel(u"lblInfo"_s), 1);
-    row->addWidget(PageButton(u"btnGBLoadFile"_s), 0, Qt::AlignVCenter);
-    row->addWidget(PageButton(u"btnGBSaveFile"_s), 0, Qt::AlignVCenter);
-    return row;
+    auto *buttons = Row();
+    buttons->addStretch();
+    buttons->addWidget(PageButton(u"btnGBLoadFile"_s));
+    buttons->addWidget(PageButton(u"btnGBSaveFile"_s));
+    auto *column = Column();
+    column->addWidget(WrappedLabel(u"lblInfo"_s));
+    column->addLayout(buttons);
+    return column;
 }
 
 QLayout *MakeListing()
@@ -82,7 +85,7 @@ QGroupBox *MakeCut()
     auto *size = Combo(u"cmbSplitSize"_s);
     auto *count = Field(u"txtSplitCount"_s);
     auto *grid = new QGridLayout;
-    grid->setHorizontalSpacing(gapWide);
+    grid->setHorizontalSpacing(gapSmall);
     grid->setVerticalSpacing(gapSmall);
     grid->setColumnStretch(2, 1);
     grid->addWidget(Part<QRadioButton>(u"optSplit(0)"_s), 0, 0);
@@ -110,7 +113,8 @@ QGroupBox *MakeSplitOptions()
     column->addWidget(Part<QCheckBox>(u"chkCopyToFloppy"_s));
     column->addWidget(Part<QCheckBox>(u"chkOpenExplorer"_s));
     column->addWidget(Part<QCheckBox>(u"chkDeleteParts"_s));
-    return Group(u"Frame2"_s, column);
+    // The captions need all of the width that the page has in the smallest window.
+    return Group(u"Frame2"_s, column, 0);
 }
 
 QGroupBox *MakeStatistics()

@@ -6,14 +6,36 @@
 #include "widgets/IsButtonWidget.h"
 
 #include <QScrollArea>
+#include <QStyledItemDelegate>
 
 namespace tressel {
 
 namespace {
 
+constexpr QSize smallIcon(16, 16);
 constexpr int pageButtonHeight = 28;
 constexpr int pageButtonWidth = 76;
 constexpr int dotsButtonWidth = 32;
+constexpr int leastPageHeight = 224;
+
+/// Rows of a list with some air between them.
+class RoomyRows : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        return QStyledItemDelegate::sizeHint(option, index)
+            .expandedTo(QSize(0, option.fontMetrics.height() + gapSmall));
+    }
+};
+
+/// A list that asks for no more than its least height, so that a page grows beyond its room only where its
+/// fixed parts do.
+class ModestList : public QListView {
+public:
+    QSize sizeHint() const override { return minimumSize(); }
+};
 
 } // namespace
 
@@ -54,11 +76,13 @@ QComboBox *Combo(const QString &name, const QString &spoken)
 
 QListView *List(const QString &name, const QString &spoken, int leastHeight)
 {
-    auto *list = Part<QListView>(name);
+    auto *list = Part<ModestList>(name);
     list->setAccessibleName(spoken);
     list->setMinimumSize(80, leastHeight);
     list->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     list->setTextElideMode(Qt::ElideMiddle);
+    list->setIconSize(smallIcon);
+    list->setItemDelegate(new RoomyRows(list));
     return list;
 }
 
@@ -100,10 +124,10 @@ QProgressBar *Progress(const QString &name, const QString &spoken)
     return bar;
 }
 
-QGroupBox *Group(const QString &name, QLayout *content)
+QGroupBox *Group(const QString &name, QLayout *content, int sides)
 {
     auto *group = Part<QGroupBox>(name);
-    content->setContentsMargins(gap, gapSmall, gap, gap);
+    content->setContentsMargins(sides, gapSmall, sides, gapSmall);
     group->setLayout(content);
     return group;
 }
@@ -122,15 +146,15 @@ QWidget *Page(const QString &name, QLayout *content)
     auto *area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area->setFocusPolicy(Qt::NoFocus);
     auto *paper = new QWidget;
-    content->setContentsMargins(gapWide, gapWide, gapWide, gapWide);
+    content->setContentsMargins(gap, gapWide, gap, gapWide);
     paper->setLayout(content);
     area->setWidget(paper);
     auto *whole = Column(0);
     whole->addWidget(area);
     page->setLayout(whole);
+    page->setMinimumHeight(leastPageHeight);
     return page;
 }
 

@@ -20,7 +20,7 @@ class IsButtonWidget;
 // The one scale of distances in windows, in pixels.
 constexpr int gapSmall = 4; ///< within a group: a label and its field
 constexpr int gap = 8; ///< between neighbours
-constexpr int gapWide = 12; ///< between groups, and from the edge of a page
+constexpr int gapWide = 12; ///< between groups, and from the upper edge of a page
 constexpr int gapWindow = 16; ///< from the edge of a dialog
 
 /// A widget that becomes the face of the control of that name. It has no parent yet.
@@ -50,8 +50,8 @@ IsButtonWidget *PageButton(const QString &name);
 /// A small one beside a field, for "...".
 IsButtonWidget *DotsButton(const QString &name, const QString &spoken);
 QProgressBar *Progress(const QString &name, const QString &spoken);
-/// A titled frame around a layout.
-QGroupBox *Group(const QString &name, QLayout *content);
+/// A titled frame around a layout, with that distance at its sides.
+QGroupBox *Group(const QString &name, QLayout *content, int sides = gapSmall);
 /// A thin line across; without a name it is mere ornament.
 QFrame *Line(const QString &name = {});
 

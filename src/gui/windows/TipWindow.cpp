@@ -27,20 +27,26 @@ QWidget *MakePicture()
     return holder;
 }
 
+void Enlarge(QWidget &widget, double factor, bool bold)
+{
+    QFont font = widget.font();
+    font.setPointSizeF(font.pointSizeF() * factor);
+    font.setBold(bold);
+    widget.setFont(font);
+}
+
 QLabel *MakeHeading()
 {
     auto *heading = Part<QLabel>(u"Label1"_s);
-    QFont font = heading->font();
-    font.setPointSizeF(font.pointSizeF() * 1.4);
-    font.setBold(true);
-    heading->setFont(font);
+    Enlarge(*heading, 1.5, true);
     return heading;
 }
 
 QLabel *MakeText()
 {
-    constexpr int roomForFourLongLines = 130;
+    constexpr int roomForFourLongLines = 136;
     auto *text = WrappedLabel(u"lblTipText"_s);
+    Enlarge(*text, 1.1, false);
     text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     text->setMinimumHeight(roomForFourLongLines);
     text->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -51,7 +57,7 @@ QLabel *MakeText()
 
 TipWindow::TipWindow()
 {
-    constexpr QSize firstSize(460, 260);
+    constexpr QSize firstSize(480, 264);
     setObjectName(u"frmTip"_s);
 
     auto *words = Column(gap);

@@ -3,6 +3,7 @@
 
 #include "machine/QtDialogs.h"
 
+#include "gui/WhenUp.h"
 #include "machine/BusyCursor.h"
 #include "machine/FileFilters.h"
 
@@ -20,30 +21,6 @@
 
 using namespace tressel;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// Does something with the next modal dialog of this kind once it is up; a failed check ends the dialog.
-template <typename Dialog, typename Act> void WhenUp(Act act)
-{
-    QTimer::singleShot(0, qApp, [act] {
-        auto *dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget());
-        if (!dialog || !dialog->isVisible()) {
-            WhenUp<Dialog>(act);
-            return;
-        }
-        act(*dialog);
-        if (QTest::currentTestFailed())
-            dialog->reject();
-    });
-}
-
-void Accept(QFileDialog &dialog)
-{
-    QMetaObject::invokeMethod(&dialog, "accept", Qt::QueuedConnection);
-}
-
-} // namespace
 
 class QtDialogsTest : public QObject {
     Q_OBJECT

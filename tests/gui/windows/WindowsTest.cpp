@@ -2,9 +2,102 @@
 // SPDX-License-Identifier: MIT
 
 #include "DesktopStage.h"
+#include "gui/WhenUp.h"
+#include "widgets/IsButtonWidget.h"
+#include "widgets/SideBarWidget.h"
+
+#include <QAccessible>
+#include <QCheckBox>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QMimeData>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTreeView>
 
 using namespace tressel;
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int entryCount = 7;
+
+/// Answers the next file dialog.
+void WillChoose(const QString &path)
+{
+    WhenUp<QFileDialog>([path](QFileDialog &dialog) {
+        dialog.selectFile(path);
+        Accept(dialog);
+    });
+}
+
+void Click(QWidget &widget)
+{
+    QTest::mouseClick(&widget, Qt::LeftButton);
+}
+
+void DropOn(QWidget &widget, const QString &path)
+{
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(path)});
+    const QPoint middle = widget.rect().center();
+    QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent drop(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &drop);
+}
+
+void WriteFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), content.size());
+}
+
+QByteArray ContentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(can't be read)");
+}
+
+/// The stops of the tab key from the window's first one on, each once.
+QList<QWidget *> TabStops(QWidget &window)
+{
+    QList<QWidget *> stops;
+    QWidget *first = window.focusWidget();
+    do {
+        stops += window.focusWidget();
+        QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+    } while (window.focusWidget() != first && stops.size() < 1000);
+    return stops;
+}
+
+QString SpokenName(QWidget *widget)
+{
+    QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(widget);
+    return spoken ? spoken->text(QAccessible::Name).trimmed() : QString();
+}
+
+/// The widgets of the names that can't be seen whole within the window, even after scrolling to them.
+QStringList Clipped(QWidget &window, const QList<Control *> &controls)
+{
+    QStringList clipped;
+    for (const Control *control : controls) {
+        auto *widget = window.findChild<QWidget *>(control->Name());
+        if (!widget || !widget->isVisible())
+            continue;
+        QWidget *parent = widget->parentWidget();
+        if (!parent->rect().contains(widget->geometry()))
+            clipped += control->Name();
+    }
+    return clipped;
+}
+
+} // namespace
 
 class WindowsTest : public QObject {
     Q_OBJECT
@@ -27,6 +120,189 @@ private Q_SLOTS:
         QVERIFY(face);
         QCOMPARE(face->Faces().ControlsWithoutFace(), QStringList());
         QCOMPARE(face->Faces().WidgetsWithoutControl(), QStringList());
+    }
+
+    void ListIsLoadedMadeAndSavedOnTheDisc()
+    {
+        DesktopStage stage;
+        stage.Put(keys::IndxBar, u"2"_s);
+        stage.Put(keys::FileExt, u"0"_s);
+        WriteFile(stage.Place(u"names.txt"_s), "; a comment\r\nSales\\2024\\Q1\r\nLetters\r\n");
+        QVERIFY(QDir(stage.Place({})).mkdir(u"made"_s));
+        stage.Start();
+
+        WillChoose(stage.Place(u"names.txt"_s));
+        Click(stage.Face<IsButtonWidget>(u"btnGBLoadFile"_s));
+        stage.Settle();
+        const QAbstractItemModel &names = *stage.Face<QListView>(u"LstItem"_s).model();
+        QCOMPARE(names.rowCount(), 2);
+        QCOMPARE(names.index(0, 0).data().toString(), u"Sales\\2024\\Q1"_s);
+
+        DropOn(stage.Face<QLineEdit>(u"txtStrtPath"_s), stage.Place(u"made"_s));
+        stage.Settle();
+        QCOMPARE(stage.Face<QLineEdit>(u"txtStrtPath"_s).text(), stage.Place(u"made"_s));
+
+        Click(stage.Face<IsButtonWidget>(u"btnGBToolbarCreate"_s));
+        stage.Settle();
+        QVERIFY(QDir(stage.Place(u"made/Sales/2024/Q1"_s)).exists());
+        QVERIFY(QDir(stage.Place(u"made/Letters"_s)).exists());
+        QCOMPARE(stage.Face<QLabel>(u"lblStatusLine"_s).text(), u"Finished, folders created successfully"_s);
+        const QAbstractItemModel &tree = *stage.Face<QTreeView>(u"TVList"_s).model();
+        QCOMPARE(tree.rowCount(), 1);
+        QCOMPARE(tree.rowCount(tree.index(0, 0)), 2);
+
+        WillChoose(stage.Place(u"saved.txt"_s));
+        Click(stage.Face<IsButtonWidget>(u"btnGBSaveFile"_s));
+        stage.Settle();
+        QCOMPARE(ContentOf(stage.Place(u"saved.txt"_s)), QByteArray("Sales\\2024\\Q1\r\nLetters\r\n"));
+    }
+
+    void TabKeyReachesEveryEnabledControlAndEachHasAName()
+    {
+        DesktopStage stage;
+        stage.Start();
+        stage.Window().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&stage.Window()));
+        for (int entry = 1; entry <= entryCount; ++entry) {
+            stage.OpenEntry(entry);
+            stage.Face<SideBarWidget>(u"EyeDropper1"_s).setFocus();
+            const QList<QWidget *> stops = TabStops(stage.Window());
+            for (QWidget *stop : stops)
+                QVERIFY2(!SpokenName(stop).isEmpty(), qPrintable(stop->objectName()));
+            for (const Control *control : stage.Form().Controls()) {
+                auto *widget = stage.Window().findChild<QWidget *>(control->Name());
+                // Of round buttons of a group only the selected one is a stop.
+                if (!widget || !widget->isVisible() || !widget->isEnabled()
+                    || widget->inherits("QRadioButton") || !(widget->focusPolicy() & Qt::TabFocus))
+                    continue;
+                QWidget *stop = widget->focusProxy() ? widget->focusProxy() : widget;
+                QVERIFY2(stops.contains(stop) || stops.contains(widget), qPrintable(control->Name()));
+            }
+        }
+    }
+
+    void NoPageIsCutOffAtTheLeastSize()
+    {
+        DesktopStage stage;
+        stage.Put(keys::MainWidth, u"100"_s);
+        stage.Put(keys::MainHeight, u"100"_s);
+        stage.Start();
+        QCOMPARE(stage.Window().size(), QSize(542, 455));
+        for (int entry = 1; entry <= entryCount; ++entry) {
+            stage.OpenEntry(entry);
+            QCOMPARE(Clipped(stage.Window(), stage.Form().Controls()).join(u' '), QString());
+            for (const QScrollArea *area : stage.Window().findChildren<QScrollArea *>()) {
+                if (area->isVisible())
+                    QCOMPARE(area->horizontalScrollBar()->maximum(), 0);
+            }
+            QVERIFY(stage.Face<QTreeView>(u"TVList"_s).viewport()->height() > 60);
+            QVERIFY(stage.Face<QListView>(u"LstItem"_s).viewport()->height() > 60);
+        }
+    }
+
+    void WindowKeepsItsLeastSize()
+    {
+        DesktopStage stage;
+        stage.Start();
+        QCOMPARE(stage.Window().size(), QSize(722, 524));
+        stage.Window().resize(100, 100);
+        stage.Settle();
+        QCOMPARE(stage.Window().size(), QSize(542, 455));
+        QVERIFY(stage.Form().Width() >= 8120);
+        QVERIFY(stage.Form().Height() >= 6825);
+    }
+
+    void ToolbarHidesAndThePathRowMovesUpAndBack()
+    {
+        DesktopStage stage;
+        stage.Start();
+        const auto &path = stage.Face<QLineEdit>(u"txtStrtPath"_s);
+        auto &tree = stage.Face<QTreeView>(u"TVList"_s);
+        const int before = path.y();
+        const int treeHeight = tree.height();
+        stage.Face<QCheckBox>(u"chkButtonBar"_s).click();
+        stage.Settle();
+        QVERIFY(!stage.Face<QWidget>(u"FrmeToolbar"_s).isVisible());
+        QVERIFY(path.y() < before - 50);
+        QVERIFY(tree.height() > treeHeight);
+        stage.Face<QCheckBox>(u"chkButtonBar"_s).click();
+        stage.Settle();
+        QCOMPARE(path.y(), before);
+        QCOMPARE(tree.height(), treeHeight);
+    }
+
+    void SplitBarStaysWithinItsLimits_data()
+    {
+        QTest::addColumn<QString>("grip");
+        QTest::addColumn<int>("by");
+        QTest::addColumn<int>("left");
+        QTest::newRow("bar to the far left") << u"PicStrip"_s << -400 << 340;
+        QTest::newRow("bar to the far right") << u"PicStrip"_s << 600 << 722 - 233;
+        QTest::newRow("bar a little") << u"PicStrip"_s << 60 << 400;
+        QTest::newRow("grip a little") << u"PicHold"_s << 60 << 400;
+    }
+
+    void SplitBarStaysWithinItsLimits()
+    {
+        QFETCH(QString, grip);
+        QFETCH(int, by);
+        QFETCH(int, left);
+        DesktopStage stage;
+        stage.Start();
+        auto &bar = stage.Face<QWidget>(u"PicStrip"_s);
+        auto &page = stage.Face<SideBarWidget>(u"EyeDropper1"_s);
+        QCOMPARE(bar.x(), 340); // The settings' first place is below the limit.
+        QCOMPARE(page.width(), 340);
+
+        auto &held = stage.Face<QWidget>(grip);
+        QWindow *window = stage.Window().windowHandle();
+        // From the edge of what is held: where the mouse is over it is what the bar moves by.
+        const QPoint start = held.mapTo(&stage.Window(), QPoint(0, 5));
+        QTest::mousePress(window, Qt::LeftButton, {}, start);
+        for (int step = 1; step <= 4; ++step)
+            QTest::mouseMove(window, start + QPoint(by * step / 4, 0));
+        stage.Settle();
+        QCOMPARE(page.width(), 340);
+        QTest::mouseRelease(window, Qt::LeftButton, {}, start + QPoint(by, 0));
+        stage.Settle();
+        QVERIFY2(qAbs(bar.x() - left) <= 2, qPrintable(QString::number(bar.x())));
+        QCOMPARE(page.width(), bar.x());
+        QVERIFY(stage.Face<QTreeView>(u"TVList"_s).mapTo(&stage.Window(), QPoint()).x() > bar.x());
+    }
+
+    void ArrowKeysMoveTheSplitBar()
+    {
+        DesktopStage stage;
+        stage.Start();
+        auto &bar = stage.Face<QWidget>(u"PicStrip"_s);
+        QTest::keyClick(&bar, Qt::Key_Right);
+        stage.Settle();
+        QCOMPARE(bar.x(), 350);
+        QTest::keyClick(&bar, Qt::Key_Left);
+        QTest::keyClick(&bar, Qt::Key_Left);
+        stage.Settle();
+        QCOMPARE(bar.x(), 340);
+    }
+
+    void MainWindowHasNoCloseBox()
+    {
+        DesktopStage stage;
+        stage.Start();
+        QVERIFY(!(stage.Window().windowFlags() & Qt::WindowCloseButtonHint));
+    }
+
+    void TipWindowGoesAndTheMainOneComes()
+    {
+        DesktopStage stage;
+        stage.Put(keys::ShowTips, u"1"_s);
+        stage.Start();
+        QVERIFY(!stage.desktop->FaceOf(u"frmMain"_s));
+        QWidget &tip = stage.desktop->FaceOf(u"frmTip"_s)->Window();
+        QVERIFY(tip.isVisible());
+        Click(*tip.findChild<IsButtonWidget *>(u"cmdOK"_s));
+        stage.Settle();
+        QVERIFY(!tip.isVisible());
+        QVERIFY(stage.Window().isVisible());
     }
 };
 
