@@ -3,9 +3,10 @@
 
 #include "Arguments.h"
 
+#include "CommandParsers.h"
 #include "base/Version.h"
 
-#include <QCommandLineParser>
+#include <array>
 
 namespace tressel {
 
@@ -13,78 +14,46 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString
-    helpText =
-        uR"help(Usage: tressel-cli create --to DIR [--remove-ext] [--quiet] (--list FILE | --names-of DIR | NAME...)
+const QString helpText = uR"(Usage: tressel-cli create --to DIR (--list FILE | --names-of DIR | NAME...)
+       tressel-cli series make|delete --in DIR --base TEXT --from N --to N
+       tressel-cli report DIR
+       tressel-cli COMMAND --help
        tressel-cli --help | --version
 
-Makes one folder in DIR for each name. "\" in a name stands between nested folders; characters that no
-folder name may hold become "_". What exists is left as it is; for a name that exists, a folder is made
-that has the name before it and " (1)",
-    as the window does.
+  create  makes one folder for each name
+  series  makes or deletes folders whose names end in a running number
+  report  lists the folders and files of a tree
 
-    --to DIR the folder to make them in;
-it is made if it isn't there --list FILE names from a text file, one a line; lines that start with ";" are comments
-  --names-of DIR  the names of the files in a folder
-  --remove-ext    what the window's "Remove Ext" does: a list file loses extensions of three letters as it
-                  is read, and each name loses its last four characters as its folder is made
-  --quiet         no progress and no closing line
+Exit status: 0 all done, 1 something failed, 2 wrong usage, 130 interrupted.)"_s;
 
-The last line says what was made. Exit status: 0 all made, 1 something failed, 2 wrong usage,
-130 interrupted.)help"_s;
-
-QString Absolute(const QString &path, const QString &workingFolder)
-{
-    if (path.startsWith(u'/'))
-        return path;
-    return workingFolder.endsWith(u'/') ? workingFolder + path : workingFolder + u'/' + path;
-}
-
-Command ParseCreate(const QStringList &arguments, const QString &workingFolder)
-{
-    QCommandLineParser parser;
-    const QCommandLineOption to(u"to"_s, {}, u"DIR"_s);
-    const QCommandLineOption list(u"list"_s, {}, u"FILE"_s);
-    const QCommandLineOption namesOf(u"names-of"_s, {}, u"DIR"_s);
-    const QCommandLineOption removeExtension(u"remove-ext"_s);
-    const QCommandLineOption quiet(u"quiet"_s);
-    const QCommandLineOption help(u"help"_s);
-    parser.addOptions({to, list, namesOf, removeExtension, quiet, help});
-    if (!parser.parse(arguments))
-        return UsageError{parser.errorText()};
-    if (parser.isSet(help))
-        return ShowText{helpText};
-    if (parser.values(to).size() != 1 || parser.value(to).isEmpty())
-        return UsageError{u"create needs one --to DIR"_s};
-    const bool hasNames = !parser.positionalArguments().isEmpty();
-    if (parser.values(list).size() + parser.values(namesOf).size() + (hasNames ? 1 : 0) != 1)
-        return UsageError{u"create takes its names from one of --list FILE, --names-of DIR or NAME..."_s};
-
-    CreateRequest request;
-    request.destination = Absolute(parser.value(to), workingFolder);
-    request.removeExtension = parser.isSet(removeExtension);
-    request.quiet = parser.isSet(quiet);
-    if (parser.isSet(list))
-        request.listFile = Absolute(parser.value(list), workingFolder);
-    if (parser.isSet(namesOf))
-        request.namesOf = Absolute(parser.value(namesOf), workingFolder);
-    request.names = parser.positionalArguments();
-    return request;
-}
+struct Parser {
+    QString name;
+    Command (*parse)(const QStringList &, const QString &);
+};
 
 } // namespace
 
+QString AbsolutePath(const QString &path, const QString &workingFolder)
+{
+    const QString whole = path.startsWith(u'/') ? path : workingFolder + u'/' + path;
+    QStringList levels = whole.split(u'/', Qt::SkipEmptyParts);
+    levels.removeAll(u"."_s);
+    return u'/' + levels.join(u'/');
+}
+
 Command ParseArguments(const QStringList &arguments, const QString &workingFolder)
 {
+    static const std::array<Parser, 3> parsers{
+        {{u"create"_s, ParseCreate}, {u"series"_s, ParseSeries}, {u"report"_s, ParseReport}}};
     const QString first = arguments.value(0);
     if (first == u"--help"_s || first == u"-h"_s)
         return ShowText{helpText};
-    if (first == u"--version"_s) {
+    if (first == u"--version"_s)
         return ShowText{u"tressel-cli %1.%2.%3"_s.arg(MajorVersion).arg(MinorVersion).arg(Revision)};
+    for (const Parser &parser : parsers) {
+        if (parser.name == first)
+            return parser.parse(arguments, workingFolder);
     }
-    // The parser passes over the first of its arguments, where a program's name would stand.
-    if (first == u"create"_s)
-        return ParseCreate(arguments, workingFolder);
     return UsageError{first.isEmpty() ? u"no command given"_s : u"unknown command %1"_s.arg(first)};
 }
 

@@ -4,6 +4,8 @@
 #pragma once
 
 #include "CreateCommand.h"
+#include "ReportCommand.h"
+#include "SeriesCommand.h"
 
 #include <QString>
 #include <QStringList>
@@ -22,7 +24,7 @@ struct UsageError {
     QString sentence;
 };
 
-using Command = std::variant<CreateRequest, ShowText, UsageError>;
+using Command = std::variant<CreateRequest, SeriesRequest, ReportRequest, ShowText, UsageError>;
 
 /// Understands the arguments behind the program's name. Relative paths are taken from `workingFolder`.
 Command ParseArguments(const QStringList &arguments, const QString &workingFolder);

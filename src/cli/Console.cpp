@@ -7,6 +7,7 @@
 
 #include <QDeadlineTimer>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <unistd.h>
@@ -30,6 +31,11 @@ void WriteLine(std::FILE *stream, const QString &line)
     std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stream);
 }
 
+qint64 Now()
+{
+    return QDeadlineTimer::current().deadline();
+}
+
 } // namespace
 
 void Print(const QString &line)
@@ -37,10 +43,15 @@ void Print(const QString &line)
     WriteLine(stdout, line);
 }
 
-void PrintError(const QString &sentence)
+void PrintAside(const QString &line)
 {
     std::fflush(stdout);
-    WriteLine(stderr, u"tressel-cli: "_s + sentence);
+    WriteLine(stderr, line);
+}
+
+void PrintError(const QString &sentence)
+{
+    PrintAside(u"tressel-cli: "_s + sentence);
 }
 
 void NoteInterruptions()
@@ -63,25 +74,33 @@ ProgressLine::ProgressLine(bool wanted)
 
 ProgressLine::~ProgressLine()
 {
-    if (isDrawn)
-        std::fputs("\r\033[K", stderr);
+    Clear();
 }
 
-void ProgressLine::Show(int done, int total)
+bool ProgressLine::IsDue() const
 {
     constexpr qint64 pause = 50;
+    return isShown && (!isDrawn || Now() - lastDrawn >= pause);
+}
+
+void ProgressLine::Show(double done, double total)
+{
     constexpr int width = 40;
-    if (!isShown || total <= 0)
+    if (total <= 0 || !IsDue())
         return;
-    const qint64 now = QDeadlineTimer::current().deadline();
-    if (isDrawn && now - lastDrawn < pause)
-        return;
-    lastDrawn = now;
+    lastDrawn = Now();
     isDrawn = true;
-    const int filled = static_cast<int>(static_cast<qint64>(width) * done / total);
+    const int filled = static_cast<int>(width * std::clamp(done / total, 0.0, 1.0));
     const QString bar = QString(filled, u'#') + QString(width - filled, u'.');
-    std::fprintf(stderr, "\r[%s] %d of %d", bar.toLatin1().constData(), done, total);
+    std::fprintf(stderr, "\r[%s] %.0f of %.0f\033[K", bar.toLatin1().constData(), done, total);
     std::fflush(stderr);
+}
+
+void ProgressLine::Clear()
+{
+    if (isDrawn)
+        std::fputs("\r\033[K", stderr);
+    isDrawn = false;
 }
 
 } // namespace tressel

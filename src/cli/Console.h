@@ -18,6 +18,9 @@ enum ExitStatus : int {
 /// A line on standard output, names that aren't UTF-8 byte for byte.
 void Print(const QString &line);
 
+/// The same on standard error, where standard output is taken by what the command was asked for.
+void PrintAside(const QString &line);
+
 /// "tressel-cli: " and a sentence on standard error.
 void PrintError(const QString &sentence);
 
@@ -33,8 +36,13 @@ public:
     ProgressLine(const ProgressLine &) = delete;
     ProgressLine &operator=(const ProgressLine &) = delete;
 
-    /// Draws the bar anew if the last time is a twentieth of a second ago.
-    void Show(int done, int total);
+    /// True if there is anybody to see it and the last time that it was drawn is a twentieth of a second ago.
+    bool IsDue() const;
+    /// Draws the bar anew if that is due.
+    void Show(double done, double total);
+    /// Takes the bar away, to make room for a line.
+    void Clear();
+    bool IsShown() const { return isShown; }
 
 private:
     bool isShown;

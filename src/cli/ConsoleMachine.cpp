@@ -27,8 +27,8 @@ std::optional<FileDialogAnswer> ConsoleDialogs::OpenFile(const FileDialogRequest
     return FileDialogAnswer{{namedFile}, request.folder};
 }
 
-ConsoleMachine::ConsoleMachine(FileSystem &disc, Clock &systemClock, Program &runningProgram)
-    : files(disc)
+ConsoleMachine::ConsoleMachine(FileSystem &fileSystem, Clock &systemClock, Program &runningProgram)
+    : files(fileSystem)
     , clock(systemClock)
     , program(runningProgram)
 {

@@ -3,11 +3,11 @@
 
 #pragma once
 
-#include "CountingFiles.h"
 #include "machine/Clipboard.h"
 #include "machine/Dialogs.h"
 #include "machine/Events.h"
 #include "machine/Machine.h"
+#include "machine/Program.h"
 #include "machine/Screen.h"
 #include "machine/Shell.h"
 #include "machine/Sound.h"
@@ -58,6 +58,24 @@ public:
     std::optional<FontChoice> ChooseFont(const FontChoice &) override { return {}; }
 };
 
+/// The running program, which writes no files of its own: no folder is made for them.
+class ProgramWithoutFiles : public Program {
+public:
+    explicit ProgramWithoutFiles(Program &running)
+        : program(running)
+    {
+    }
+
+    QString Folder() const override { return program.Folder(); }
+    QString WritableFolder() const override { return program.Folder(); }
+    QString ExecutableName() const override { return program.ExecutableName(); }
+    QString CommandLine() const override { return program.CommandLine(); }
+    void End(int status) override { program.End(status); }
+
+private:
+    Program &program;
+};
+
 /// A run's pauses are used to show how far it is and to notice an interruption.
 class ConsoleEvents : public Events {
 public:
@@ -76,18 +94,18 @@ public:
 /// and nothing to see or hear.
 class ConsoleMachine {
 public:
-    ConsoleMachine(FileSystem &disc, Clock &clock, Program &program);
+    ConsoleMachine(FileSystem &files, Clock &clock, Program &program);
 
     Machine AsMachine();
 
-    CountingFiles files;
     MemorySettingsHive hive;
     ConsoleDialogs dialogs;
     ConsoleEvents events;
 
 private:
+    FileSystem &files;
     Clock &clock;
-    Program &program;
+    ProgramWithoutFiles program;
     SilentSound sound;
     NoShell shell;
     NoClipboard clipboard;

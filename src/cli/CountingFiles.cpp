@@ -9,11 +9,6 @@
 
 namespace tressel {
 
-CountingFiles::CountingFiles(FileSystem &fileSystem)
-    : files(fileSystem)
-{
-}
-
 void CountingFiles::StartCounting(const QString &destination)
 {
     // A run tests "destination//entry".
@@ -40,6 +35,8 @@ std::optional<Failure> CountingFiles::TryMakeFolder(const QString &path)
 {
     const bool isTopLevel = path.indexOf(files.Separator()) == path.lastIndexOf(files.Separator());
     if (isTopLevel) {
+        if (onEntry)
+            onEntry();
         AddEntry(done);
         ++done.tried;
         entryExisted = std::exchange(nextExists, false);

@@ -4,11 +4,10 @@
 #include "CreateCommand.h"
 
 #include "Console.h"
-#include "ConsoleMachine.h"
-#include "forms/Application.h"
+#include "ConsoleProgram.h"
+#include "CountingFiles.h"
 #include "language/Language.h"
 #include "machine/Paths.h"
-#include "machine/Program.h"
 
 namespace tressel {
 
@@ -58,16 +57,6 @@ bool FillList(const CreateRequest &request, ConsoleMachine &machine, MainForm &f
     return form.area.lblStatusLine.Caption() == u"Finished"_s;
 }
 
-/// Prints what was really done, and says how the command ended.
-int Conclude(const CreateRequest &request, const CreationCount &count, int wanted)
-{
-    const int failed = count.failed + (wanted - count.tried);
-    if (!request.quiet) {
-        Print(u"made %1, already there %2, failed %3"_s.arg(count.made).arg(count.alreadyThere).arg(failed));
-    }
-    return failed > 0 ? SomethingFailed : AllDone;
-}
-
 } // namespace
 
 int RunCreate(const CreateRequest &request, FileSystem &disc, Clock &clock, Program &program)
@@ -77,33 +66,32 @@ int RunCreate(const CreateRequest &request, FileSystem &disc, Clock &clock, Prog
         return SomethingFailed;
     }
 
-    ConsoleMachine machine(disc, clock, program);
-    Application application(machine.AsMachine());
-    application.settings.Write(keys::ShowTips, u"0"_s);
-    application.Start();
-    MainForm &form = application.frmMain();
-    if (!FillList(request, machine, form)) {
+    CountingFiles files(disc);
+    ConsoleProgram console(files, clock, program);
+    MainForm &form = console.form;
+    if (!FillList(request, console.machine, form)) {
         PrintError(u"only %1 names could be read from the list file; nothing was made"_s.arg(
             form.area.LstItem.ListCount()));
         return SomethingFailed;
     }
 
     const int wanted = form.area.LstItem.ListCount();
-    NoteInterruptions();
     ProgressLine progress(!request.quiet);
-    machine.files.StartCounting(request.destination);
-    machine.events.onPause = [&] {
-        progress.Show(machine.files.Count().tried, wanted);
-        if (WasInterrupted()) {
-            // What was made stays, and the rest was never tried.
-            Conclude(request, machine.files.Count(), machine.files.Count().tried);
-            program.End(Interrupted);
-        }
+    files.StartCounting(request.destination);
+    console.machine.events.onPause = [&] {
+        progress.Show(files.Tried(), wanted);
+        // What was made stays, and the rest was never tried.
+        EndIfInterrupted(program, progress, [&] { TellCreation(files.Count(), request.quiet); });
     };
+    NoteInterruptions();
     form.area.txtStrtPath.SetText(request.destination);
     form.btnGBToolbarCreate.UserClicks();
-    machine.events.onPause = {};
-    return Conclude(request, machine.files.Count(), wanted);
+    console.machine.events.onPause = {};
+    progress.Clear();
+
+    CreationCount count = files.Count();
+    count.failed += wanted - count.tried;
+    return TellCreation(count, request.quiet);
 }
 
 } // namespace tressel

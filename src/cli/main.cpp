@@ -35,25 +35,33 @@ QString WorkingFolder()
     return path ? DecodeText(QByteArray(path), NameBytes::Raw) : u"/"_s;
 }
 
-int Run(const Command &command, int count, char **arguments)
-{
-    if (const auto *text = std::get_if<ShowText>(&command)) {
-        Print(text->text);
+struct Runner {
+    FileSystem &files;
+    Clock &clock;
+    Program &program;
+
+    int operator()(const ShowText &text) const
+    {
+        Print(text.text);
         return AllDone;
     }
-    if (const auto *error = std::get_if<UsageError>(&command)) {
-        PrintError(error->sentence + u" (see tressel-cli --help)"_s);
+    int operator()(const UsageError &error) const
+    {
+        PrintError(error.sentence + u" (see tressel-cli --help)"_s);
         return WrongUsage;
     }
-    PosixFileSystem files;
-    PosixClock clock;
-    PosixProgram program(count, arguments, [] { std::fflush(stdout); });
-    return RunCreate(std::get<CreateRequest>(command), files, clock, program);
-}
+    int operator()(const CreateRequest &request) const { return RunCreate(request, files, clock, program); }
+    int operator()(const SeriesRequest &request) const { return RunSeries(request, files, clock, program); }
+    int operator()(const ReportRequest &request) const { return RunReport(request, files, clock, program); }
+};
 
 } // namespace
 
 int main(int count, char **arguments)
 {
-    return Run(ParseArguments(TextOf(count, arguments), WorkingFolder()), count, arguments);
+    PosixFileSystem files;
+    PosixClock clock;
+    PosixProgram program(count, arguments, [] { std::fflush(stdout); });
+    const Command command = ParseArguments(TextOf(count, arguments), WorkingFolder());
+    return std::visit(Runner{files, clock, program}, command);
 }

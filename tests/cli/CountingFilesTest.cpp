@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "CountingFiles.h"
+
 #include "language/Language.h"
 #include "support/MemoryMachine.h"
 #include "support/Text.h"
@@ -34,7 +35,7 @@ protected:
     }
 
     MemoryMachine machine;
-    CountingFiles counting {machine.files};
+    CountingFiles counting{machine.files};
 };
 
 TEST_F(Counting, EveryFolderMadeCounts)

@@ -1,102 +1,28 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
-#include <csignal>
-#include <cstdlib>
-#include <fcntl.h>
-#include <filesystem>
+#include "RunCommand.h"
+
 #include <fstream>
 #include <gtest/gtest.h>
-#include <sched.h>
-#include <set>
-#include <string>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
 
 namespace {
 
+using namespace tressel;
 namespace fs = std::filesystem;
 
-struct Outcome {
-    int status = -1;
-    std::string out;
-    std::string err;
-};
-
-/// Runs the built program in a fresh home.
-class CreateCommand : public testing::Test {
+class CreateCommand : public testing::Test, protected CommandPlace {
 protected:
-    CreateCommand()
-    {
-        std::string pattern = (fs::temp_directory_path() / "tressel-cli-XXXXXX").string();
-        folder = mkdtemp(pattern.data());
-        fs::create_directories(folder / "home");
-    }
-    ~CreateCommand() override { fs::remove_all(folder); }
-
-    fs::path Put(const std::string &name, const std::string &contents)
-    {
-        std::ofstream(folder / name, std::ios::binary) << contents;
-        return folder / name;
-    }
-
-    Outcome Run(const std::vector<std::string> &arguments, uid_t asUser = 0)
-    {
-        const fs::path out = folder / "stdout";
-        const fs::path err = folder / "stderr";
-        const pid_t child = fork();
-        if (child == 0) {
-            if (asUser != 0 && setuid(asUser) != 0)
-                _exit(99);
-            Replace(STDOUT_FILENO, out);
-            Replace(STDERR_FILENO, err);
-            setenv("HOME", (folder / "home").c_str(), 1);
-            setenv("XDG_CONFIG_HOME", (folder / "home/.config").c_str(), 1);
-            std::vector<char *> words{const_cast<char *>(TRESSEL_CLI)};
-            for (const std::string &argument : arguments)
-                words.push_back(const_cast<char *>(argument.c_str()));
-            words.push_back(nullptr);
-            execv(TRESSEL_CLI, words.data());
-            _exit(98);
-        }
-        if (!interruptAfter.empty()) {
-            while (!fs::exists(interruptAfter) && waitpid(child, nullptr, WNOHANG) == 0)
-                sched_yield();
-            kill(child, SIGINT);
-        }
-        int status = 0;
-        waitpid(child, &status, 0);
-        return {WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status), Contents(out), Contents(err)};
-    }
-
-    static void Replace(int descriptor, const fs::path &path)
-    {
-        const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
-        dup2(file, descriptor);
-    }
-    static std::string Contents(const fs::path &path)
-    {
-        std::ifstream file(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-    std::set<std::string> Made(const std::string &below = "out")
-    {
-        std::set<std::string> made;
-        for (const auto &entry : fs::recursive_directory_iterator(folder / below))
-            made.insert(fs::relative(entry.path(), folder / below).string());
-        return made;
-    }
+    std::set<std::string> Made() const { return Below("out"); }
     std::string To() const { return (folder / "out").string(); }
-
-    fs::path folder;
-    fs::path interruptAfter; ///< the run is interrupted as soon as this is there
 };
 
 TEST_F(CreateCommand, MakesTheNamedFolders)
 {
-    const Outcome outcome = Run({"create", "--to", To(), "one", "two: 2", "a\\b", "\xC3\xA9t\xC3\xA9"});
+    const Outcome outcome = RunCli({"create", "--to", To(), "one", "two: 2", "a\\b", "\xC3\xA9t\xC3\xA9"});
     EXPECT_EQ(outcome.out, "made 5, already there 0, failed 0\n");
     EXPECT_EQ(outcome.err, "");
     EXPECT_EQ(outcome.status, 0);
@@ -105,8 +31,8 @@ TEST_F(CreateCommand, MakesTheNamedFolders)
 
 TEST_F(CreateCommand, SecondRunSaysWhatWasThere)
 {
-    Run({"create", "--to", To(), "a", "b"});
-    const Outcome outcome = Run({"create", "--to", To(), "a", "b"});
+    RunCli({"create", "--to", To(), "a", "b"});
+    const Outcome outcome = RunCli({"create", "--to", To(), "a", "b"});
     EXPECT_EQ(outcome.out, "made 1, already there 2, failed 0\n");
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(Made(), (std::set<std::string>{"a", "b", "b (1)"}));
@@ -115,7 +41,7 @@ TEST_F(CreateCommand, SecondRunSaysWhatWasThere)
 TEST_F(CreateCommand, ListFileIsReadByTheWindowsRules)
 {
     const fs::path list = Put("names.txt", "; comment\r\n\r\nreport.txt\r\nSales\\Q1\r\n");
-    const Outcome outcome = Run({"create", "--to", To(), "--list", list});
+    const Outcome outcome = RunCli({"create", "--to", To(), "--list", list});
     EXPECT_EQ(outcome.out, "made 3, already there 0, failed 0\n");
     EXPECT_EQ(Made(), (std::set<std::string>{"report.txt", "Sales", "Sales/Q1"}));
 }
@@ -125,21 +51,22 @@ TEST_F(CreateCommand, NamesOfAFolderAreItsFiles)
     fs::create_directories(folder / "music/sub");
     Put("music/a.mp3", "");
     Put("music/b\xFF.mp3", "");
-    const Outcome outcome = Run({"create", "--to", To(), "--remove-ext", "--names-of", folder / "music"});
+    const Outcome outcome = RunCli({"create", "--to", To(), "--remove-ext", "--names-of", folder / "music"});
     EXPECT_EQ(outcome.out, "made 2, already there 0, failed 0\n");
     EXPECT_EQ(Made(), (std::set<std::string>{"a", "b\xFF"}));
 }
 
 TEST_F(CreateCommand, ShortEntryWithRemoveExtLeavesTheRestUnmadeAndSaysSo)
 {
-    const Outcome outcome = Run({"create", "--to", To(), "--remove-ext", "one.txt", "abc", "two.txt"});
+    const Outcome outcome = RunCli({"create", "--to", To(), "--remove-ext", "one.txt", "abc", "two.txt"});
     EXPECT_EQ(outcome.out, "made 1, already there 0, failed 2\n");
     EXPECT_EQ(outcome.status, 1);
 }
 
 TEST_F(CreateCommand, NameTooLongFailsAndTheRestIsMade)
 {
-    const Outcome outcome = Run({"create", "--to", To(), std::string(255, 'x'), std::string(256, 'y'), "z"});
+    const Outcome outcome =
+        RunCli({"create", "--to", To(), std::string(255, 'x'), std::string(256, 'y'), "z"});
     EXPECT_EQ(outcome.out, "made 2, already there 0, failed 1\n");
     EXPECT_EQ(outcome.status, 1);
 }
@@ -148,14 +75,14 @@ TEST_F(CreateCommand, FileInTheWayIsLeftAlone)
 {
     fs::create_directories(folder / "out");
     Put("out/taken", "precious");
-    const Outcome outcome = Run({"create", "--to", To(), "taken"});
+    const Outcome outcome = RunCli({"create", "--to", To(), "taken"});
     EXPECT_EQ(outcome.out, "made 0, already there 0, failed 1\n");
     EXPECT_EQ(Contents(folder / "out/taken"), "precious");
 }
 
 TEST_F(CreateCommand, MissingListFileIsAClearSentence)
 {
-    const Outcome outcome = Run({"create", "--to", To(), "--list", folder / "none.txt"});
+    const Outcome outcome = RunCli({"create", "--to", To(), "--list", folder / "none.txt"});
     EXPECT_EQ(outcome.status, 1);
     EXPECT_NE(outcome.err.find("none.txt can't be read: File not found"), std::string::npos) << outcome.err;
     EXPECT_FALSE(fs::exists(folder / "out"));
@@ -164,7 +91,7 @@ TEST_F(CreateCommand, MissingListFileIsAClearSentence)
 TEST_F(CreateCommand, FolderAsListFileIsAClearSentence)
 {
     fs::create_directories(folder / "list");
-    const Outcome outcome = Run({"create", "--to", To(), "--list", folder / "list"});
+    const Outcome outcome = RunCli({"create", "--to", To(), "--list", folder / "list"});
     EXPECT_EQ(outcome.status, 1);
     EXPECT_NE(outcome.err.find("can't be read"), std::string::npos) << outcome.err;
 }
@@ -172,7 +99,7 @@ TEST_F(CreateCommand, FolderAsListFileIsAClearSentence)
 TEST_F(CreateCommand, DestinationThatIsAFileIsAClearSentence)
 {
     Put("out", "precious");
-    const Outcome outcome = Run({"create", "--to", To(), "a"});
+    const Outcome outcome = RunCli({"create", "--to", To(), "a"});
     EXPECT_EQ(outcome.status, 1);
     EXPECT_NE(outcome.err.find("is no folder and can't be made"), std::string::npos) << outcome.err;
     EXPECT_EQ(Contents(folder / "out"), "precious");
@@ -185,15 +112,15 @@ TEST_F(CreateCommand, DestinationWithoutRightsIsTold)
     fs::create_directories(folder / "closed");
     chmod((folder / "closed").c_str(), 0755);
     chmod(folder.c_str(), 0777);
-    const Outcome outcome = Run({"create", "--to", folder / "closed", "a"}, 65534);
+    const Outcome outcome = RunCli({"create", "--to", folder / "closed", "a"}, 65534);
     EXPECT_EQ(outcome.out, "made 0, already there 0, failed 1\n");
     EXPECT_EQ(outcome.status, 1);
 }
 
 TEST_F(CreateCommand, ListThatCannotBeReadWholeMakesNothing)
 {
-    const Outcome outcome =
-        Run({"create", "--to", To(), "--remove-ext", "--list", Put("l.txt", "report.txt\nabc\nnotes.txt\n")});
+    const Outcome outcome = RunCli(
+        {"create", "--to", To(), "--remove-ext", "--list", Put("l.txt", "report.txt\nabc\nnotes.txt\n")});
     EXPECT_EQ(outcome.status, 1);
     EXPECT_NE(outcome.err.find("only 1 names could be read"), std::string::npos) << outcome.err;
     EXPECT_TRUE(Made().empty());
@@ -206,14 +133,14 @@ TEST_F(CreateCommand, FolderThatCannotBeListedIsAClearSentence)
     chmod(folder.c_str(), 0777);
     fs::create_directories(folder / "closed");
     chmod((folder / "closed").c_str(), 0);
-    const Outcome outcome = Run({"create", "--to", To(), "--names-of", folder / "closed"}, 65534);
+    const Outcome outcome = RunCli({"create", "--to", To(), "--names-of", folder / "closed"}, 65534);
     EXPECT_EQ(outcome.status, 1);
     EXPECT_NE(outcome.err.find("can't be taken"), std::string::npos) << outcome.err;
 }
 
 TEST_F(CreateCommand, QuietSaysNothing)
 {
-    const Outcome outcome = Run({"create", "--quiet", "--to", To(), "a"});
+    const Outcome outcome = RunCli({"create", "--quiet", "--to", To(), "a"});
     EXPECT_EQ(outcome.out + outcome.err, "");
     EXPECT_EQ(outcome.status, 0);
     EXPECT_TRUE(fs::exists(folder / "out/a"));
@@ -224,7 +151,7 @@ TEST_F(CreateCommand, BinaryListFileDoesNoHarm)
     std::string bytes;
     for (int byte = 0; byte < 4096; ++byte)
         bytes += static_cast<char>(byte * 7 % 256);
-    const Outcome outcome = Run({"create", "--to", To(), "--list", Put("binary", bytes)});
+    const Outcome outcome = RunCli({"create", "--to", To(), "--list", Put("binary", bytes)});
     EXPECT_TRUE(outcome.status == 0 || outcome.status == 1) << outcome.status;
     EXPECT_EQ(outcome.out.substr(0, 5), "made ");
 }
@@ -234,21 +161,22 @@ TEST_F(CreateCommand, LongestListIsMade)
     std::string lines;
     for (int line = 0; line < 32767; ++line)
         lines += std::to_string(line) + "\n";
-    const Outcome outcome = Run({"create", "--to", To(), "--list", Put("long.txt", lines)});
+    const Outcome outcome = RunCli({"create", "--to", To(), "--list", Put("long.txt", lines)});
     EXPECT_EQ(outcome.out, "made 32767, already there 0, failed 0\n");
 }
 
 TEST_F(CreateCommand, WrongUsageIsStatusTwo)
 {
-    EXPECT_EQ(Run({"create"}).status, 2);
-    EXPECT_EQ(Run({}).status, 2);
-    EXPECT_NE(Run({"create", "--bogus"}).err, "");
+    EXPECT_EQ(RunCli({"create"}).status, 2);
+    EXPECT_EQ(RunCli({}).status, 2);
+    EXPECT_NE(RunCli({"create", "--bogus"}).err, "");
 }
 
 TEST_F(CreateCommand, HelpAndVersionAreOnStandardOutput)
 {
-    EXPECT_NE(Run({"--help"}).out.find("tressel-cli create --to DIR"), std::string::npos);
-    EXPECT_EQ(Run({"--version"}).out, "tressel-cli 5.0.1450\n");
+    EXPECT_NE(RunCli({"--help"}).out.find("tressel-cli create --to DIR"), std::string::npos);
+    EXPECT_NE(RunCli({"create", "--help"}).out.find("--remove-ext"), std::string::npos);
+    EXPECT_EQ(RunCli({"--version"}).out, "tressel-cli 5.0.1450\n");
 }
 
 TEST_F(CreateCommand, InterruptionKeepsWhatWasMadeAndSaysSo)
@@ -259,7 +187,7 @@ TEST_F(CreateCommand, InterruptionKeepsWhatWasMadeAndSaysSo)
     const fs::path list = Put("long.txt", lines);
     fs::create_directories(folder / "out");
     interruptAfter = folder / "out/100";
-    const Outcome outcome = Run({"create", "--to", To(), "--list", list});
+    const Outcome outcome = RunCli({"create", "--to", To(), "--list", list});
     EXPECT_EQ(outcome.status, 130);
     const auto made = static_cast<std::size_t>(std::stoi(outcome.out.substr(5)));
     EXPECT_EQ(outcome.out, "made " + std::to_string(made) + ", already there 0, failed 0\n");
@@ -269,8 +197,8 @@ TEST_F(CreateCommand, InterruptionKeepsWhatWasMadeAndSaysSo)
 
 TEST_F(CreateCommand, SettingsOfTheWindowStayUntouched)
 {
-    Run({"create", "--to", To(), "a"});
-    EXPECT_FALSE(fs::exists(folder / "home/.config/tressel"));
+    RunCli({"create", "--to", To(), "a"});
+    EXPECT_FALSE(fs::exists(folder / "home/tressel"));
 }
 
 } // namespace
