@@ -201,13 +201,13 @@ void IsButton::PlaceIcon(const Picture &picture)
 
 void IsButton::SetWidth(int twips)
 {
-    Control::SetWidth(std::max(twips, leastSize));
+    Control::SetWidth(twips);
     Resize();
 }
 
 void IsButton::SetHeight(int twips)
 {
-    Control::SetHeight(std::max(twips, leastSize));
+    Control::SetHeight(twips);
     Resize();
 }
 
@@ -246,6 +246,8 @@ QRect IsButton::TextBox() const
 
 void IsButton::Resize()
 {
+    Control::SetWidth(std::max(Width(), leastSize));
+    Control::SetHeight(std::max(Height(), leastSize));
     textDrawFlags = FlagsOf(own.captionAlign);
     NoteChanged();
 }

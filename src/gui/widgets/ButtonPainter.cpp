@@ -24,7 +24,9 @@ constexpr qreal disabledIconOpacity = 0.4;
 QPalette LightPalette(const QPalette &desktop)
 {
     QPalette light = desktop;
-    light.setColor(QPalette::All, QPalette::ButtonText, Qt::black);
+    light.setColor(QPalette::All, QPalette::Button, QColor(0xF0F0EA));
+    if (desktop.color(QPalette::Active, QPalette::ButtonText).lightness() > 127)
+        light.setColor(QPalette::All, QPalette::ButtonText, Qt::black);
     light.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0xA1A192));
     return light;
 }
@@ -152,10 +154,11 @@ void DrawIcon(QImage &drawn, Canvas &canvas, const IsButton &button, const FaceT
 void DrawFocusMark(Canvas &canvas, const IsButton &button, const ButtonSurroundings &around,
                    const FaceToDraw &face, const Look *look)
 {
-    const bool seenAnyway = look && look->ShowsFocus();
+    const bool seenAnyway = look && look->ShowsFocus(face);
     if (!face.focused || !(button.ShowFocus() || (around.marksFocus && !seenAnyway)))
         return;
-    constexpr int inset = 3;
+    // Halfway between the frames of the looks and the caption's box.
+    constexpr int inset = 2;
     canvas.DotFrame(inset, inset, canvas.Width() - 2 * inset - 1, canvas.Height() - 2 * inset - 1,
                     TextColour(button, face));
 }

@@ -102,27 +102,38 @@ int CtlProgressWidget::FrameWidth() const
     return control->BorderStyle() == 0 ? 0 : 1;
 }
 
-void CtlProgressWidget::DrawFrame(QPainter &painter) const
+void CtlProgressWidget::DrawFrame(QPainter &painter, QSize screenSize, int thick) const
 {
+    const int w = screenSize.width();
+    const int h = screenSize.height();
     const QColor dark = ColourOf(SystemColour::ButtonShadow, palette());
     const QColor light = control->Appearance() == 0 ? dark : palette().color(QPalette::Light);
-    painter.fillRect(QRect(0, 0, width(), 1), dark);
-    painter.fillRect(QRect(0, 0, 1, height()), dark);
-    painter.fillRect(QRect(0, height() - 1, width(), 1), light);
-    painter.fillRect(QRect(width() - 1, 0, 1, height()), light);
+    painter.fillRect(QRect(0, 0, w, thick), dark);
+    painter.fillRect(QRect(0, 0, thick, h), dark);
+    painter.fillRect(QRect(0, h - thick, w, thick), light);
+    painter.fillRect(QRect(w - thick, 0, thick, h), light);
+}
+
+QImage CtlProgressWidget::DrawWhole(QSize screenSize, qreal scale) const
+{
+    const int thick = qRound(FrameWidth() * scale);
+    const QColor background = TranslateColour(control->BackColor(), palette());
+    const QImage inside = DrawProgress(control->Drawn(), background, palette(), font(),
+                                       screenSize - QSize(2 * thick, 2 * thick), scale);
+    if (thick == 0)
+        return inside;
+    QImage whole(screenSize, QImage::Format_RGB32);
+    QPainter painter(&whole);
+    DrawFrame(painter, screenSize, thick);
+    painter.drawImage(thick, thick, inside);
+    return whole;
 }
 
 void CtlProgressWidget::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const int frame = FrameWidth();
-    const QRect inside = rect().adjusted(frame, frame, -frame, -frame);
-    DrawOnPixels(painter, inside, [&](QSize screenSize, qreal scale) {
-        return DrawProgress(control->Drawn(), TranslateColour(control->BackColor(), palette()), palette(),
-                            font(), screenSize, scale);
-    });
-    if (frame > 0)
-        DrawFrame(painter);
+    DrawOnPixels(painter, rect(),
+                 [&](QSize screenSize, qreal scale) { return DrawWhole(screenSize, scale); });
 }
 
 int CtlProgressWidget::Appearance() const
@@ -198,6 +209,16 @@ int CtlProgressWidget::CaptionStyle() const
 void CtlProgressWidget::SetCaptionStyle(int style)
 {
     control->SetCaptionStyle(static_cast<tressel::CaptionStyle>(ToInt16(static_cast<double>(style))));
+}
+
+QFont CtlProgressWidget::CaptionFont() const
+{
+    return control->CaptionFont() ? ToFont(*control->CaptionFont()) : font();
+}
+
+void CtlProgressWidget::SetCaptionFont(const QFont &captionFont)
+{
+    control->SetCaptionFont(ToFontFace(captionFont));
 }
 
 uint CtlProgressWidget::FillColor() const

@@ -6,6 +6,7 @@
 #include "controls/CtlProgress.h"
 #include "controls/Form.h"
 
+#include <QFont>
 #include <QImage>
 #include <QWidget>
 
@@ -30,6 +31,7 @@ class CtlProgressWidget : public QWidget {
     Q_PROPERTY(bool Enabled READ Enabled WRITE SetEnabled)
     Q_PROPERTY(int BorderStyle READ BorderStyle WRITE SetBorderStyle)
     Q_PROPERTY(int CaptionStyle READ CaptionStyle WRITE SetCaptionStyle)
+    Q_PROPERTY(QFont CaptionFont READ CaptionFont WRITE SetCaptionFont)
     Q_PROPERTY(uint FillColor READ FillColor WRITE SetFillColor)
     Q_PROPERTY(uint ForeColor READ ForeColor WRITE SetForeColor)
     Q_PROPERTY(uint BackColor READ BackColor WRITE SetBackColor)
@@ -65,6 +67,8 @@ public:
     void SetBorderStyle(int style);
     int CaptionStyle() const;
     void SetCaptionStyle(int style);
+    QFont CaptionFont() const;
+    void SetCaptionFont(const QFont &captionFont);
     uint FillColor() const;
     void SetFillColor(uint colour);
     uint ForeColor() const;
@@ -81,7 +85,8 @@ protected:
 private:
     void UseOwnControl();
     int FrameWidth() const;
-    void DrawFrame(QPainter &painter) const;
+    void DrawFrame(QPainter &painter, QSize screenSize, int thick) const;
+    QImage DrawWhole(QSize screenSize, qreal scale) const;
 
     std::unique_ptr<Form> ownForm;
     std::unique_ptr<CtlProgress> ownControl;

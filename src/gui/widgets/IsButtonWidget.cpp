@@ -19,6 +19,7 @@
 #include <QStyle>
 
 #include <algorithm>
+#include <utility>
 
 namespace tressel {
 
@@ -105,13 +106,21 @@ void IsButtonWidget::TakeOver()
 {
     if (isEnabled() != control->IsEnabled())
         setEnabled(control->IsEnabled());
-    if (control->Font() && ToFont(*control->Font()) != font())
-        setFont(ToFont(*control->Font()));
+    TakeFont();
     TakeShape();
     TakeMnemonic();
     TellAssistance();
     updateGeometry();
     update();
+}
+
+void IsButtonWidget::TakeFont()
+{
+    const bool hadFont = std::exchange(fontIsControls, control->Font().has_value());
+    if (control->Font() && ToFont(*control->Font()) != font())
+        setFont(ToFont(*control->Font()));
+    else if (!control->Font() && hadFont)
+        setFont(QFont());
 }
 
 void IsButtonWidget::TakeShape()
@@ -337,6 +346,7 @@ void IsButtonWidget::keyPressEvent(QKeyEvent *event)
         return;
     }
     const QPointer<IsButtonWidget> self(this);
+    spaceDown = true;
     control->UserPressesSpace();
     repaint();
     control->UserTypesSpace();
@@ -350,6 +360,7 @@ void IsButtonWidget::keyReleaseEvent(QKeyEvent *event)
         QWidget::keyReleaseEvent(event);
         return;
     }
+    spaceDown = false;
     control->UserReleasesSpace();
     update();
 }
@@ -365,6 +376,10 @@ void IsButtonWidget::focusOutEvent(QFocusEvent *)
 {
     keyboardFocus = false;
     control->TakeFocus(false);
+    // A space key held down is released elsewhere, as in a box that its press opened: the button would look
+    // pressed for good.
+    if (std::exchange(spaceDown, false))
+        PointerLeft();
     update();
 }
 

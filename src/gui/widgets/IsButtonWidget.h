@@ -141,6 +141,7 @@ private:
     void UseOwnControl();
     void PointerCame();
     void PointerLeft();
+    void TakeFont();
     void TakeShape();
     void TakeMnemonic();
     void TellAssistance();
@@ -154,6 +155,8 @@ private:
     bool toldValue = false;
     int shortcut = 0;
     bool keyboardFocus = false;
+    bool spaceDown = false;
+    bool fontIsControls = false;
 };
 
 } // namespace tressel

@@ -9,29 +9,10 @@
 #include <QFontMetrics>
 
 #include <algorithm>
-#include <cmath>
 
 namespace tressel {
 
 namespace {
-
-/// Relative luminance after WCAG 2.1, 0 black to 1 white.
-double Luminance(const QColor &colour)
-{
-    const auto linear = [](double part) {
-        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
-        + 0.0722 * linear(colour.blueF());
-}
-
-/// Contrast ratio after WCAG 2.1, 1 to 21.
-double Contrast(const QColor &one, const QColor &other)
-{
-    const double first = Luminance(one);
-    const double second = Luminance(other);
-    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
-}
 
 QFont FontOf(const FontChoice &choice, QFont font)
 {
@@ -117,9 +98,9 @@ QColor SideBarLook::Readable(const QColor &wanted, const QColor &ground)
 {
     // The least that WCAG 2.1 lets pass for large text.
     constexpr double legible = 3.0;
-    if (Contrast(wanted, ground) >= legible)
+    if (ContrastOf(wanted, ground) >= legible)
         return wanted;
-    return Contrast(Qt::black, ground) > Contrast(Qt::white, ground) ? Qt::black : Qt::white;
+    return ContrastOf(Qt::black, ground) > ContrastOf(Qt::white, ground) ? Qt::black : Qt::white;
 }
 
 } // namespace tressel

@@ -332,6 +332,15 @@ TEST(IsButtonSize, BelowThreeHundredTwipsIsRaised)
     EXPECT_EQ(button.Bounds(), QRect(0, 0, 20, 30));
 }
 
+TEST(IsButtonSize, IsRaisedWithoutAFaceToo)
+{
+    Form form(u"frmTest"_s);
+    const IsButton button(form, u"btnTest"_s);
+    EXPECT_EQ(button.Width(), 300);
+    EXPECT_EQ(button.Height(), 300);
+    EXPECT_EQ(button.TextBox(), QRect(4, 4, 12, 12));
+}
+
 TEST(IsButtonCaption, EachPlaceHasItsDrawFlags)
 {
     Form form{u"frmTest"_s};
@@ -404,8 +413,8 @@ TEST(IsButtonTheme, GivenUpTakesTheOtherStyleForGood)
 
 TEST(IsButtonTheme, StaysWhereItIsItsOwnReplacement)
 {
-    Form form {u"frmTest"_s};
-    IsButton button {form, u"btnTest"_s};
+    Form form{u"frmTest"_s};
+    IsButton button{form, u"btnTest"_s};
     button.SetNonThemeStyle(ButtonStyle::SystemTheme);
     button.SetStyle(ButtonStyle::SystemTheme);
     form.TakeChanged();

@@ -86,6 +86,18 @@ const std::vector<Column> &Columns()
              AddIcon(button);
              button.SetEnabled(false);
          }},
+        {u"icon focus"_s,
+         [](IsButton &button) {
+             AddIcon(button);
+             button.SetCaption(u"&Copy (big) Folder"_s);
+             button.TakeFocus(true);
+         }},
+        {u"low focus"_s,
+         [](IsButton &button) {
+             button.SetCaption(u"&Copy (big) Folder"_s);
+             button.TakeSize(104 * twips, 22 * twips);
+             button.TakeFocus(true);
+         }},
         {u"too long"_s, [](IsButton &button) { button.SetCaption(u"A caption too long for it"_s); }},
         {u"smallest"_s,
          [](IsButton &button) {
@@ -186,6 +198,7 @@ void DrawBars(const QString &file, const QPalette &palette, qreal scale)
 
 int main(int argc, char **argv)
 {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     const QString folder = argc > 1 ? QString::fromLocal8Bit(argv[1]) : u"."_s;
     if (!QDir().mkpath(folder)) {

@@ -54,6 +54,8 @@ private Q_SLOTS:
     void HighlightCastsAShadow();
     void CaptionStandsInItsFivePlaces();
     void CaptionHasItsColours();
+    void TextOfLightFacesIsTheDesktopsWhereThatIsDark();
+    void DisabledCaptionIsReadable();
     void LongCaptionIsElided();
     void RightToLeftCaptionIsDrawn();
     void TinyFacesAreDrawn();
@@ -210,6 +212,49 @@ void ButtonPaintingTest::CaptionHasItsColours()
     QVERIFY(holds(drawn(LookState::Pressed, true), QColor(0, 255, 0)));
     QVERIFY(holds(drawn(LookState::Disabled, false), System(SystemColour::GrayText)));
     QVERIFY(holds(drawn(LookState::Disabled, true), System(SystemColour::GrayText)));
+}
+
+void ButtonPaintingTest::TextOfLightFacesIsTheDesktopsWhereThatIsDark()
+{
+    for (const int style : {5, 10}) {
+        Sample sample(style);
+        sample.button.SetCaption(u"\u2588\u2588"_s);
+        QCOMPARE(sample.At(w / 2, h / 2), System(SystemColour::ButtonText));
+        sample.around.palette.setColor(QPalette::ButtonText, Qt::white);
+        QCOMPARE(sample.At(w / 2, h / 2), QColor(Qt::black));
+    }
+}
+
+void ButtonPaintingTest::DisabledCaptionIsReadable()
+{
+    const QList<std::pair<QRgb, QRgb>> faint{
+        {0xEFEFEF, 0xBEBEBE}, {0x353535, 0x484848}, {0xFFFFFF, 0xFFFFFF}};
+    for (const auto &[face, grey] : faint) {
+        QPalette palette = TestPalette();
+        palette.setColor(QPalette::Button, QColor(face));
+        palette.setColor(QPalette::ButtonText, qGray(face) > 127 ? Qt::black : Qt::white);
+        palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(grey));
+        const QColor readable = ColourOf(SystemColour::GrayText, palette);
+        QVERIFY(ContrastOf(readable, QColor(face)) >= 3);
+        QVERIFY(ContrastOf(readable, QColor(face)) < 5);
+        for (int style = 0; style <= 11; ++style) {
+            Sample sample(style);
+            sample.around.palette = palette;
+            sample.button.SetCaption(u"\u2588\u2588"_s);
+            sample.Show(LookState::Disabled);
+            Sample empty(style);
+            empty.around.palette = palette;
+            empty.Show(LookState::Disabled);
+            const QColor ground = style == 11 ? QColor(face) : empty.At(w / 2, h / 2);
+            QVERIFY2(ContrastOf(sample.At(w / 2, h / 2), ground) > 2.2, qPrintable(QString::number(style)));
+        }
+    }
+    // A text that is no more readable itself is no help.
+    QPalette flat = TestPalette();
+    flat.setColor(QPalette::All, QPalette::Button, Qt::gray);
+    flat.setColor(QPalette::All, QPalette::ButtonText, Qt::gray);
+    QCOMPARE(ColourOf(SystemColour::GrayText, flat), QColor(Qt::gray));
+    QCOMPARE(ContrastOf(Qt::black, Qt::white), 21.0);
 }
 
 void ButtonPaintingTest::LongCaptionIsElided()

@@ -24,7 +24,7 @@ inline QPalette TestPalette()
     QPalette palette(QColor(0xC8, 0xC8, 0xC0), QColor(0xE0, 0xE0, 0xD8));
     palette.setColor(QPalette::Button, QColor(0x90, 0xA0, 0x98));
     palette.setColor(QPalette::ButtonText, QColor(0x10, 0x20, 0x30));
-    palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0x70, 0x78, 0x80));
+    palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0x38, 0x40, 0x48));
     palette.setColor(QPalette::Highlight, QColor(0x30, 0x60, 0x90));
     palette.setColor(QPalette::Dark, QColor(0x50, 0x58, 0x60));
     palette.setColor(QPalette::Base, QColor(0xF8, 0xF0, 0xE8));

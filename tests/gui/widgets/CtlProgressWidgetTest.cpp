@@ -46,6 +46,7 @@ private Q_SLOTS:
     void EqualBoundsFailToTheCaller();
     void AccessTellsValueAndBounds();
     void FrameIsDrawn();
+    void FrameIsSharpAtEachScale();
 
 private:
     Form form{u"frmTest"_s};
@@ -139,6 +140,10 @@ void CtlProgressWidgetTest::EveryPropertyIsTheControls()
     }
     QCOMPARE(widget.property("text").toString(), u"x"_s);
     QCOMPARE(widget.Control().Max(), 400);
+    QCOMPARE(widget.CaptionFont(), widget.font());
+    QVERIFY(widget.setProperty("CaptionFont", QFont(u"Serif"_s, 14)));
+    QCOMPARE(widget.property("CaptionFont").value<QFont>().pointSizeF(), 14.0);
+    QCOMPARE(widget.Control().CaptionFont()->family, u"Serif"_s);
 }
 
 void CtlProgressWidgetTest::EqualBoundsFailToTheCaller()
@@ -177,6 +182,34 @@ void CtlProgressWidgetTest::FrameIsDrawn()
     widget.SetBorderStyle(0);
     const QImage plain = widget.grab().toImage();
     QVERIFY(framed.pixel(0, 0) != plain.pixel(0, 0));
+}
+
+void CtlProgressWidgetTest::FrameIsSharpAtEachScale()
+{
+    CtlProgressWidget widget;
+    widget.resize(101, 21);
+    widget.SetAppearance(0);
+    widget.SetBackColor(0xFFFFFF);
+    widget.SetForeColor(0xFFFFFF);
+    widget.SetValue(0);
+    for (const qreal scale : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+        QPixmap screen(QSize(qRound(101 * scale), qRound(21 * scale)));
+        screen.setDevicePixelRatio(scale);
+        screen.fill(Qt::red);
+        widget.render(&screen);
+        const QImage drawn = screen.toImage();
+        const int thick = qRound(scale);
+        const QColor frame = drawn.pixelColor(0, 0);
+        QVERIFY(frame.lightness() < 220);
+        for (int x = 0; x < drawn.width(); ++x) {
+            const bool isFrame = x < thick || x >= drawn.width() - thick;
+            QCOMPARE(drawn.pixelColor(x, drawn.height() / 2), isFrame ? frame : QColor(Qt::white));
+        }
+        for (int y = 0; y < drawn.height(); ++y) {
+            const bool isFrame = y < thick || y >= drawn.height() - thick;
+            QCOMPARE(drawn.pixelColor(drawn.width() / 2, y), isFrame ? frame : QColor(Qt::white));
+        }
+    }
 }
 
 QTEST_MAIN(CtlProgressWidgetTest)

@@ -62,6 +62,8 @@ private Q_SLOTS:
     void LeavingWhilePressedClearsHover();
     void SpaceKeyClicks();
     void HeldSpaceKeyClicksOnce();
+    void SpaceKeyReleasedElsewhereLeavesNothingPressed();
+    void FontTakenBackIsTheContainers();
     void MnemonicPresses();
     void TabReachesIt();
     void PaletteAndStyleChangesRepaint();
@@ -246,6 +248,34 @@ void IsButtonWidgetTest::HeldSpaceKeyClicksOnce()
     QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Space, {}, u" "_s, true);
     QApplication::sendEvent(button, &repeated);
     QCOMPARE(clicks, 1);
+}
+
+void IsButtonWidgetTest::SpaceKeyReleasedElsewhereLeavesNothingPressed()
+{
+    // As where the click opens a box, which gets the release.
+    auto *other = new IsButtonWidget(window.get());
+    other->show();
+    control->Click.Handle([&] {
+        ++clicks;
+        other->setFocus();
+    });
+    button->setFocus();
+    QTest::keyPress(button, Qt::Key_Space);
+    QCOMPARE(clicks, 1);
+    QCOMPARE(control->ShownState(), LookState::Normal);
+    QCOMPARE(control->LastButton(), MouseButton::None);
+    QCOMPARE(leaves, 0);
+}
+
+void IsButtonWidgetTest::FontTakenBackIsTheContainers()
+{
+    const QFont before = button->font();
+    control->SetFont(FontFace{u"Serif"_s, 21});
+    button->TakeOver();
+    QCOMPARE(button->font().pointSizeF(), 21.0);
+    control->SetFont({});
+    button->TakeOver();
+    QCOMPARE(button->font(), before);
 }
 
 void IsButtonWidgetTest::MnemonicPresses()

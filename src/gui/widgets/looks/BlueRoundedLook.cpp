@@ -18,7 +18,7 @@ struct RoundedColours {
     std::array<QColor, 2> top; ///< from the outer line inwards, as those below
     std::array<QColor, 3> bottom;
     std::array<QColor, 2> right;
-    QColor left;
+    std::array<QColor, 2> left;
 };
 
 /// The glowing ring of a hovered or focused button: two lines at the top, two at the bottom, and sides that
@@ -42,7 +42,7 @@ RoundedColours FixedColours(LookState state)
                 {Rgb(0xD1CCC1), Rgb(0xDAD8CE)},
                 {Rgb(0xF2F1EE), Rgb(0xE4E3DC), Rgb(0xE4E3DC)},
                 {Rgb(0xE3E2DB), Rgb(0xE4E3DC)},
-                Rgb(0xDAD8CE)};
+                {Rgb(0xDAD8CE), Rgb(0xE3E2DB)}};
     if (state == LookState::Disabled)
         return {Rgb(0xD6D0C5),
                 Rgb(0xF5F4F2),
@@ -50,14 +50,14 @@ RoundedColours FixedColours(LookState state)
                 {Rgb(0xF5F4F2), Rgb(0xF5F4F2)},
                 {Rgb(0xF5F4F2), Rgb(0xF5F4F2), Rgb(0xF5F4F2)},
                 {Rgb(0xF5F4F2), Rgb(0xF5F4F2)},
-                Rgb(0xF5F4F2)};
+                {Rgb(0xF5F4F2), Rgb(0xF5F4F2)}};
     return {Rgb(0x003C74),
             Rgb(0xFCFCFB),
             Rgb(0xF0F0EA),
             {Rgb(0xFBFBFA), Rgb(0xFCFCFB)},
             {Rgb(0xD6D0C5), Rgb(0xE4E2DA), Rgb(0xEBEBE6)},
             {Rgb(0xDBD7CD), Rgb(0xF5F4F2)},
-            Rgb(0xFAFAF9)};
+            {Rgb(0xF0F0F0), Rgb(0xFAFAF9)}};
 }
 
 RoundedColours CustomColours(const FaceToDraw &face)
@@ -71,7 +71,7 @@ RoundedColours CustomColours(const FaceToDraw &face)
                 {ShiftColor(pressed, -37), ShiftColor(pressed, -24)},
                 {ShiftColor(pressed, 5), ShiftColor(pressed, -5), ShiftColor(pressed, -8)},
                 {ShiftColor(pressed, -15), ShiftColor(pressed, -8)},
-                ShiftColor(pressed, -24)};
+                {ShiftColor(pressed, -24), ShiftColor(pressed, -15)}};
     }
     return {ShiftColor(back, -128),
             ShiftColor(back, 16),
@@ -79,7 +79,7 @@ RoundedColours CustomColours(const FaceToDraw &face)
             {ShiftColor(back, 16), ShiftColor(back, 16)},
             {ShiftColor(back, -37), ShiftColor(back, -21), ShiftColor(back, -8)},
             {ShiftColor(back, -32), ShiftColor(back, -15)},
-            ShiftColor(back, 5)};
+            {ShiftColor(back, -5), ShiftColor(back, 5)}};
 }
 
 std::optional<RingColours> RingOf(const FaceToDraw &face)
@@ -117,7 +117,8 @@ void DrawInnerLines(Canvas &canvas, const RoundedColours &colours)
 {
     const int w = canvas.Width();
     const int h = canvas.Height();
-    canvas.DrawLine(1, 1, 1, h - 2, colours.left);
+    canvas.DrawLine(1, 1, 1, h - 2, colours.left[0]);
+    canvas.DrawLine(2, 2, 2, h - 3, colours.left[1]);
     canvas.DrawLine(w - 2, 1, w - 2, h - 2, colours.right[0]);
     canvas.DrawLine(w - 3, 2, w - 3, h - 3, colours.right[1]);
     canvas.DrawLine(1, 1, w - 2, 1, colours.top[0]);
@@ -146,7 +147,8 @@ public:
     int Margin() const override { return 5; }
     QRegion Shape(QSize size) const override { return ClippedShape(size); }
     bool HasLightFace(const FaceToDraw &face) const override { return !face.custom; }
-    bool ShowsFocus() const override { return true; }
+    /// The ring of a hovered button takes the place of the focused one's.
+    bool ShowsFocus(const FaceToDraw &face) const override { return face.state == LookState::Normal; }
 
 private:
     static constexpr qreal cornerRadius = 3;

@@ -147,13 +147,18 @@ void Canvas::RoundFrame(int x, int y, int w, int h, qreal radius, const QColor &
 
 void Canvas::DotFrame(int x, int y, int w, int h, const QColor &colour)
 {
-    for (int column = x; column <= x + w; column += 2) {
-        SetPixel(column, y, colour);
-        SetPixel(column, y + h, colour);
+    const QRect box = OnScreen(QRect(x, y, w + 1, h + 1));
+    const int dot = std::max(1, qRound(scale));
+    const auto drawDot = [&](int left, int top) {
+        painter.fillRect(QRect(left, top, dot, dot) & box, colour);
+    };
+    for (int left = box.left(); left <= box.right(); left += 2 * dot) {
+        drawDot(left, box.top());
+        drawDot(left, box.bottom() - dot + 1);
     }
-    for (int row = y; row <= y + h; row += 2) {
-        SetPixel(x, row, colour);
-        SetPixel(x + w, row, colour);
+    for (int top = box.top(); top <= box.bottom(); top += 2 * dot) {
+        drawDot(box.left(), top);
+        drawDot(box.right() - dot + 1, top);
     }
 }
 

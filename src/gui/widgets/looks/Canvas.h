@@ -54,7 +54,7 @@ public:
     void GradientColumn(const QColor &from, const QColor &to, int x, int y1, int y2);
     /// A frame as FrameBox draws it, whose corners are rounded.
     void RoundFrame(int x, int y, int w, int h, qreal radius, const QColor &colour);
-    /// A dotted frame, as FrameBox draws it.
+    /// A dotted frame, as FrameBox draws it. Its dots and gaps are alike all around at any scale.
     void DotFrame(int x, int y, int w, int h, const QColor &colour);
     /// Takes away what was drawn outside a rounded box of the whole size.
     void RoundCorners(qreal radius);

@@ -22,11 +22,27 @@ Glaze GlazeOf(LookState state)
         return {37, 5, 5, 37};
     case LookState::Pressed:
         return {-53, -32, -37, -21};
-    case LookState::Normal:
     case LookState::Disabled:
+        return {5, -21, -21, 5};
+    case LookState::Normal:
         break;
     }
     return {32, -21, -32, 5};
+}
+
+/// What a state adds to the face's colour in the frame.
+int FrameOf(LookState state)
+{
+    switch (state) {
+    case LookState::Hover:
+        return -112;
+    case LookState::Disabled:
+        return -53;
+    case LookState::Normal:
+    case LookState::Pressed:
+        break;
+    }
+    return -128;
 }
 
 /// Glazed like a tile: a bright upper half, a darker middle, and a deep frame.
@@ -44,8 +60,7 @@ public:
         canvas.GradientFill(ShiftColor(base, glaze.belowMiddle), ShiftColor(base, glaze.bottom), 0,
                             middle - 1, w - 1, h - middle);
         DrawEdges(canvas, base, face.state == LookState::Pressed);
-        const bool pale = face.state == LookState::Disabled;
-        canvas.RoundFrame(0, 0, w - 1, h - 1, cornerRadius, ShiftColor(base, pale ? -53 : -128));
+        canvas.RoundFrame(0, 0, w - 1, h - 1, cornerRadius, ShiftColor(base, FrameOf(face.state)));
         canvas.RoundCorners(cornerRadius);
         return true;
     }

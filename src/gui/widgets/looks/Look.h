@@ -42,7 +42,7 @@ public:
     /// True where the face's colours are always the same light ones, whatever the desktop's are.
     virtual bool HasLightFace(const FaceToDraw &) const { return false; }
     /// True where the face itself tells a focused button from others.
-    virtual bool ShowsFocus() const { return false; }
+    virtual bool ShowsFocus(const FaceToDraw &) const { return false; }
 };
 
 /// Null for a number that is none of the eleven.

@@ -67,7 +67,7 @@ public:
         return shape;
     }
     bool HasLightFace(const FaceToDraw &) const override { return true; }
-    bool ShowsFocus() const override { return true; }
+    bool ShowsFocus(const FaceToDraw &) const override { return true; }
 
 private:
     static void DrawSides(Canvas &canvas, const PillColours &colours)

@@ -59,7 +59,6 @@ public:
         canvas.Painter().drawImage(0, 0, drawn);
         return true;
     }
-    bool ShowsFocus() const override { return false; }
 
 private:
     static void DrawWithStyle(QImage &image, const FaceToDraw &face, const QRect &bounds)
