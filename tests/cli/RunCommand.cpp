@@ -37,15 +37,7 @@ void Replace(int descriptor, const fs::path &path)
 
 CommandPlace::CommandPlace()
 {
-    std::string pattern = (fs::temp_directory_path() / "tressel-cli-XXXXXX").string();
-    folder = mkdtemp(pattern.data());
     fs::create_directories(folder / "home");
-}
-
-CommandPlace::~CommandPlace()
-{
-    std::error_code ignored;
-    fs::remove_all(folder, ignored);
 }
 
 Outcome CommandPlace::RunCli(const std::vector<std::string> &arguments, uid_t asUser) const

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "support/TemporaryFolder.h"
+
 #include <filesystem>
 #include <set>
 #include <string>
@@ -22,9 +24,6 @@ struct Outcome {
 class CommandPlace {
 public:
     CommandPlace();
-    ~CommandPlace();
-    CommandPlace(const CommandPlace &) = delete;
-    CommandPlace &operator=(const CommandPlace &) = delete;
 
     /// Runs the program and waits for its end; as another user if a number is given, which takes root.
     Outcome RunCli(const std::vector<std::string> &arguments, uid_t asUser = 0) const;
@@ -35,7 +34,11 @@ public:
     /// The paths of all that is below a folder, links not followed.
     std::set<std::string> Below(const std::string &name) const;
 
-    std::filesystem::path folder;
+private:
+    TemporaryFolder temporary;
+
+public:
+    const std::filesystem::path folder{temporary.Path().toStdString()};
     std::filesystem::path interruptAfter; ///< a run is interrupted as soon as this is there
     std::string standardOutput; ///< what takes the standard output in place of Outcome::out; empty for none
 };

@@ -56,8 +56,7 @@ public:
     QChar Separator() const override { return u'\\'; }
     std::optional<FileStatus> Status(const QString &path, Links links) override;
     QList<FolderEntry> List(const QString &folder, Lengths lengths = Lengths::LeftOut) override;
-    std::unique_ptr<FolderReader> Read(const QString &folder,
-                                       Lengths lengths = Lengths::LeftOut) override;
+    std::unique_ptr<FolderReader> Read(const QString &folder, Lengths lengths = Lengths::LeftOut) override;
     std::optional<Failure> TryMakeFolder(const QString &path) override;
     std::optional<Failure> TryRemoveFolder(const QString &path) override;
     void RemoveFile(const QString &path) override;

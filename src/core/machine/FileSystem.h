@@ -119,8 +119,7 @@ public:
     /// regard to case.
     virtual QList<FolderEntry> List(const QString &folder, Lengths lengths = Lengths::LeftOut) = 0;
     /// The same one by one, in the order of the file system.
-    virtual std::unique_ptr<FolderReader> Read(const QString &folder,
-                                               Lengths lengths = Lengths::LeftOut) = 0;
+    virtual std::unique_ptr<FolderReader> Read(const QString &folder, Lengths lengths = Lengths::LeftOut) = 0;
 
     /// Makes one folder, whose parent must exist. Reports its failure instead of throwing it, since
     /// most callers try levels that exist.

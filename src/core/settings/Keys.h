@@ -162,7 +162,8 @@ inline constexpr KeyEntry OnlyListFilename{Main, u"OnlyListFilename", Number, 0,
 inline constexpr KeyEntry GenLastPath{Main, u"GenLastPath", Text, u"", FormLoad, Unload};
 inline constexpr KeyEntry LastSavePath{Main, u"LastSavePath", Text, u"", FormLoad, Unload};
 inline constexpr KeyEntry ReportFile{Main, u"ReportFile", Text, u"", Tool, AtOnce};
-inline constexpr KeyEntry RecentPath = Numbered({Main, u"RecentPath ", Text, u"", FormLoad, Tool | Unload}, 0, 4);
+inline constexpr KeyEntry RecentPath =
+    Numbered({Main, u"RecentPath ", Text, u"", FormLoad, Tool | Unload}, 0, 4);
 
 // The rename runs.
 inline constexpr KeyEntry TotalFileCount{Main, u"TotalFileCount", Text, u"0", Tool, Tool};

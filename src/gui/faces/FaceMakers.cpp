@@ -15,8 +15,6 @@
 #include "faces/TextFace.h"
 #include "faces/TreeFace.h"
 
-#include <ranges>
-
 namespace tressel {
 
 FaceMakers::FaceMakers(const FaceLooks &looks)
@@ -39,8 +37,9 @@ FaceMakers::FaceMakers(const FaceLooks &looks)
 
 Face *FaceMakers::Make(Control &control, QWidget &widget) const
 {
-    for (const Maker &maker : std::views::reverse(makers)) {
-        if (Face *face = maker(control, widget))
+    // The makers added last come first.
+    for (auto maker = makers.rbegin(); maker != makers.rend(); ++maker) {
+        if (Face *face = (*maker)(control, widget))
             return face;
     }
     return nullptr;
