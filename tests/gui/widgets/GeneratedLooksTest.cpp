@@ -35,6 +35,19 @@ QRgb Plain(const QColor &colour)
     return colour.rgb() & 0xFFFFFF;
 }
 
+/// A line of a gradient between two steps from the desktop's face.
+QRgb Step(int from, int to, int line, int lines)
+{
+    const QColor face = System(SystemColour::ButtonFace);
+    return Plain(MixColor(ShiftColor(face, from), ShiftColor(face, to), double(line) / lines));
+}
+
+/// One step from the desktop's face.
+QRgb Step(int delta)
+{
+    return Plain(ShiftColor(System(SystemColour::ButtonFace), delta));
+}
+
 } // namespace
 
 /// The looks whose faces are made of gradients and lines, each a step from one colour.
@@ -200,19 +213,15 @@ void GeneratedLooksTest::PlastikHasEachStepAtItsPlace()
     for (const Row &row : rows) {
         Sample sample(7);
         sample.Show(row.state);
-        const auto mixed = [](int from, int to, int line, int lines) {
-            const QColor face = System(SystemColour::ButtonFace);
-            return Plain(MixColor(ShiftColor(face, from), ShiftColor(face, to), double(line) / lines));
-        };
         QCOMPARE(Differing(sample.Draw(),
-                           {{w / 2, 0, mixed(row.frame, 0, 0, 1)},
-                            {0, h / 2, mixed(row.frame, 0, 0, 1)},
-                            {w / 2, 1, mixed(row.topLine, 0, 0, 1)},
-                            {w / 2, 2, mixed(row.top, row.bottom, 3, h)},
-                            {w / 2, h - 3, mixed(row.top, row.bottom, h - 2, h)},
-                            {w / 2, h - 2, mixed(row.bottomLine, 0, 0, 1)},
-                            {1, h - 4, mixed(row.topLine, row.leftLine, h - 4, h - 2)},
-                            {w - 2, h - 4, mixed(row.rightLine, row.bottomLine, h - 4, h - 2)}}),
+                           {{w / 2, 0, Step(row.frame)},
+                            {0, h / 2, Step(row.frame)},
+                            {w / 2, 1, Step(row.topLine)},
+                            {w / 2, 2, Step(row.top, row.bottom, 3, h)},
+                            {w / 2, h - 3, Step(row.top, row.bottom, h - 2, h)},
+                            {w / 2, h - 2, Step(row.bottomLine)},
+                            {1, h - 4, Step(row.topLine, row.leftLine, h - 4, h - 2)},
+                            {w - 2, h - 4, Step(row.rightLine, row.bottomLine, h - 4, h - 2)}}),
                  0);
     }
 }
@@ -236,21 +245,17 @@ void GeneratedLooksTest::KeramikHasEachStepAtItsPlace()
     for (const Row &row : rows) {
         Sample sample(9);
         sample.Show(row.state);
-        const auto mixed = [](int from, int to, int line, int lines) {
-            const QColor face = System(SystemColour::ButtonFace);
-            return Plain(MixColor(ShiftColor(face, from), ShiftColor(face, to), double(line) / lines));
-        };
         QCOMPARE(Differing(sample.Draw(),
-                           {{w / 2, 0, mixed(row.frame, 0, 0, 1)},
-                            {w - 1, h / 2, mixed(row.frame, 0, 0, 1)},
-                            {w / 2, 1, mixed(row.shine, 0, 0, 1)},
-                            {w / 2, 2, mixed(row.top, row.aboveMiddle, 3, h / 2)},
-                            {w / 2, h / 2 - 1, mixed(row.aboveMiddle, 0, 0, 1)},
-                            {w / 2, h / 2, mixed(row.belowMiddle, row.bottom, 1, h / 2)},
-                            {w / 2, h - 3, mixed(row.belowMiddle, row.bottom, h / 2 - 2, h / 2)},
-                            {w / 2, h - 2, mixed(row.shade, 0, 0, 1)},
-                            {1, h / 2, mixed(row.shine, -37, h / 2, h - 2)},
-                            {w - 2, h / 2, mixed(-21, row.shade, h / 2, h - 2)}}),
+                           {{w / 2, 0, Step(row.frame)},
+                            {w - 1, h / 2, Step(row.frame)},
+                            {w / 2, 1, Step(row.shine)},
+                            {w / 2, 2, Step(row.top, row.aboveMiddle, 3, h / 2)},
+                            {w / 2, h / 2 - 1, Step(row.aboveMiddle)},
+                            {w / 2, h / 2, Step(row.belowMiddle, row.bottom, 1, h / 2)},
+                            {w / 2, h - 3, Step(row.belowMiddle, row.bottom, h / 2 - 2, h / 2)},
+                            {w / 2, h - 2, Step(row.shade)},
+                            {1, h / 2, Step(row.shine, -37, h / 2, h - 2)},
+                            {w - 2, h / 2, Step(-21, row.shade, h / 2, h - 2)}}),
                  0);
     }
 }

@@ -304,6 +304,44 @@ private Q_SLOTS:
         QVERIFY(!tip.isVisible());
         QVERIFY(stage.Window().isVisible());
     }
+
+    void AltAndTheUnderlinedLetterPressAButton()
+    {
+        DesktopStage stage;
+        stage.Start();
+        QVERIFY(QTest::qWaitForWindowActive(&stage.Window()));
+        int clicks = 0;
+        IsButton &button = stage.Form().btnGBToolbarBrowse;
+        button.Click.Handle([&] { ++clicks; });
+        button.SetCaption(u"&Zebra"_s);
+        stage.Settle();
+        QTest::keyClick(&stage.Window(), Qt::Key_Z, Qt::AltModifier);
+        QCOMPARE(clicks, 1);
+        QVERIFY(button.HasFocus());
+        button.SetEnabled(false);
+        stage.Settle();
+        QTest::keyClick(&stage.Window(), Qt::Key_Z, Qt::AltModifier);
+        QCOMPARE(clicks, 1);
+    }
+
+    void FocusThatTheTabKeyGaveIsSeenInEveryLook()
+    {
+        DesktopStage stage;
+        stage.Start();
+        QVERIFY(QTest::qWaitForWindowActive(&stage.Window()));
+        auto &face = stage.Face<QWidget>(u"btnGBToolbarBrowse"_s);
+        auto &before = stage.Face<QWidget>(u"btnGBToolbarLoadList"_s);
+        for (int style = 0; style <= 10; ++style) {
+            stage.Form().btnGBToolbarBrowse.SetStyle(static_cast<ButtonStyle>(style));
+            before.setFocus(Qt::TabFocusReason);
+            stage.Settle();
+            const QImage unfocused = face.grab().toImage();
+            QTest::keyClick(&before, Qt::Key_Tab);
+            stage.Settle();
+            QVERIFY(face.hasFocus());
+            QVERIFY2(face.grab().toImage() != unfocused, qPrintable(QString::number(style)));
+        }
+    }
 };
 
 QTEST_MAIN(WindowsTest)
