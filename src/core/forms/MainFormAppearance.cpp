@@ -35,9 +35,19 @@ constexpr FontKeys captionKeys{keys::TitleCapFont,   keys::TitleCapSize,      ke
 
 FontChoice ReadFont(Settings &settings, Steps &steps, const FontKeys &font, FontChoice choice)
 {
-    steps.Do([&] { choice.family = settings.ReadText(font.family); });
+    const auto readFamily = [&] { choice.family = settings.ReadText(font.family); };
+    const auto readBold = [&] { choice.bold = settings.ReadBoolean(font.bold); };
+    // The two fonts are read in orders of their own.
+    const bool isFamilyFirst = &font == &titleKeys;
+    if (isFamilyFirst)
+        steps.Do(readFamily);
+    else
+        steps.Do(readBold);
     steps.Do([&] { choice.points = ToNumber(settings.Read(font.size)); });
-    steps.Do([&] { choice.bold = settings.ReadBoolean(font.bold); });
+    if (isFamilyFirst)
+        steps.Do(readBold);
+    else
+        steps.Do(readFamily);
     steps.Do([&] { choice.italic = settings.ReadBoolean(font.italic); });
     steps.Do([&] { choice.underline = settings.ReadBoolean(font.underline); });
     steps.Do([&] { choice.colour = static_cast<quint32>(settings.ReadInt32(font.colour)); });
