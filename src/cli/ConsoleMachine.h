@@ -87,6 +87,7 @@ public:
         if (onPause)
             onPause();
     }
+    void ShowAnimationStep() override { LetEventsRun(); }
     void SetBusyPointer(bool) override { }
 };
 

@@ -34,6 +34,8 @@ public:
     bool IsBusy() const { return busy; }
 
     void LetEventsRun() override;
+    /// The same as LetEventsRun here.
+    void ShowAnimationStep() override { LetEventsRun(); }
     /// Journal: "BusyPointer" about "on" or "off".
     void SetBusyPointer(bool isBusy) override;
 

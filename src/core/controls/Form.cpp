@@ -43,6 +43,13 @@ void Form::SetSize(int newWidth, int newHeight)
     Resize.Raise();
 }
 
+void Form::SetLeastSize(int newWidth, int newHeight)
+{
+    leastWidth = newWidth;
+    leastHeight = newHeight;
+    NoteFormChanged();
+}
+
 void Form::SetState(WindowState newState)
 {
     if (state == newState)

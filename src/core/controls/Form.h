@@ -52,6 +52,11 @@ public:
     /// Raises Resize if the size differs.
     void SetSize(int newWidth, int newHeight);
 
+    /// The user can't make the window smaller, in twips. At 0 the window's own content says what is least.
+    int LeastWidth() const { return leastWidth; }
+    int LeastHeight() const { return leastHeight; }
+    void SetLeastSize(int newWidth, int newHeight);
+
     WindowState State() const { return state; }
     void SetState(WindowState newState);
 
@@ -120,6 +125,8 @@ private:
     int top = 0;
     int width = 0;
     int height = 0;
+    int leastWidth = 0;
+    int leastHeight = 0;
     int borderWidth = 0;
     int borderHeight = 0;
     WindowState state = WindowState::Normal;

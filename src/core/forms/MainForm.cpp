@@ -18,6 +18,8 @@ namespace {
 // The window as it was drawn, in twips.
 constexpr int designWidth = 13470;
 constexpr int designHeight = 19275;
+constexpr int narrowest = 8120;
+constexpr int lowest = 6825;
 constexpr int toolbarHeight = 1095;
 constexpr int statusHeight = 315;
 constexpr int barWidth = 80;
@@ -85,6 +87,7 @@ void MainForm::SetFirstValues()
 {
     SetCaption(u"Tressel"_s);
     SetSize(designWidth, designHeight);
+    SetLeastSize(narrowest, lowest);
     FrmeToolbar.SetHeight(toolbarHeight);
     FrmeToolbar.SetWidth(designWidth);
     PicStrip.SetWidth(barWidth);

@@ -39,10 +39,6 @@ class MainForm : public Form {
 public:
     MainForm(const Machine &machine, Settings &settings, Session &session, OptionForm &options);
 
-    // The window can't be made smaller, in twips.
-    static constexpr int leastWidth = 8120;
-    static constexpr int leastHeight = 6825;
-
 private:
     Machine machine;
     Settings &settings;

@@ -110,10 +110,10 @@ void MainForm::LayOutPending()
 
 void MainForm::KeepLeastSize()
 {
-    if (Height() < leastHeight)
-        SetSize(Width(), leastHeight);
-    if (Width() < leastWidth)
-        SetSize(leastWidth, Height());
+    if (Height() < LeastHeight())
+        SetSize(Width(), LeastHeight());
+    if (Width() < LeastWidth())
+        SetSize(LeastWidth(), Height());
 }
 
 void MainForm::PlaceWithoutToolbar()

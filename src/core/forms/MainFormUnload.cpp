@@ -27,8 +27,11 @@ constexpr int foldedWidth = 1700;
 
 void MainForm::SaveSplitterPage()
 {
-    settings.Write(keys::WindowLeft, QString::number(Left()));
-    settings.Write(keys::WindowTop, QString::number(Top()));
+    // A second Exit while the window folds up finds it on its way to nothing.
+    if (!foldsUp) {
+        settings.Write(keys::WindowLeft, QString::number(Left()));
+        settings.Write(keys::WindowTop, QString::number(Top()));
+    }
     settings.Write(keys::SplitSize, splitter.cmbSplitSize.Text());
     settings.Write(keys::SplitCount, splitter.txtSplitCount.Text());
     settings.WriteBoolean(keys::SplitOption, splitter.optSplit.IsSelected(SplitterPage::FileCount));
@@ -40,7 +43,7 @@ void MainForm::SaveSplitterPage()
 void MainForm::UnloadForm(bool &refused)
 {
     // A minimised or maximised window keeps the place of its last normal state.
-    if (State() == WindowState::Normal) {
+    if (State() == WindowState::Normal && !foldsUp) {
         settings.Write(keys::MainLeft, Left());
         settings.Write(keys::MainTop, Top());
         settings.Write(keys::MainWidth, Width());
@@ -71,8 +74,10 @@ void MainForm::UnloadForm(bool &refused)
         refused = true;
         return;
     }
+    // Whatever fails from here on, the program ends.
+    Steps folding;
     if (State() != WindowState::Minimised && options.ChkAnimOption.IsChecked())
-        FoldUp();
+        folding.Do([&] { FoldUp(); });
 }
 
 bool MainForm::ExitsThoughUpdateLoads()
@@ -87,22 +92,25 @@ bool MainForm::ExitsThoughUpdateLoads()
 void MainForm::FoldUp()
 {
     foldsUp = true;
-    // Kept: a text that is no number leaves its fold out.
-    Steps steps;
-    steps.Do([&] {
-        while (Height() > foldedHeight) {
-            SetSize(Width(), std::max(0, Height() - FoldStep(options.txtHeight)));
-            Move(Left(), (machine.screen.Height() - Height()) / 2);
-            machine.events.LetEventsRun();
-        }
-    });
-    steps.Do([&] {
-        while (Width() > foldedWidth) {
-            SetSize(std::max(0, Width() - FoldStep(options.txtWidth)), Height());
-            Move((machine.screen.Width() - Width()) / 2, Top());
-            machine.events.LetEventsRun();
-        }
-    });
+    SetLeastSize(1, 1);
+    // Counted here: a desktop may refuse a window as small as this, or the user draw it larger meanwhile.
+    const int heightStep = FoldStep(options.txtHeight);
+    int height = Height();
+    while (height > foldedHeight) {
+        height = std::max(height - heightStep, 0);
+        SetSize(Width(), height);
+        Move(Left(), (machine.screen.Height() - height) / 2);
+        machine.events.ShowAnimationStep();
+    }
+    const int widthStep = FoldStep(options.txtWidth);
+    int width = Width();
+    while (width > foldedWidth) {
+        width = std::max(width - widthStep, 0);
+        SetSize(width, Height());
+        Move((machine.screen.Width() - width) / 2, Top());
+        machine.events.ShowAnimationStep();
+    }
+    Hide();
 }
 
 int MainForm::FoldStep(const TextBox &twips)

@@ -70,6 +70,7 @@ void WindowFace::ShowForm()
     if (window.windowTitle() != title)
         window.setWindowTitle(title);
     ShowCloseBox();
+    ShowLeastSize();
     const bool wasShown = form.TakeShown();
     if (!form.IsVisible()) {
         window.hide();
@@ -93,6 +94,13 @@ void WindowFace::ShowCloseBox()
     // A window on show is hidden by new flags.
     if (wasVisible)
         window.show();
+}
+
+void WindowFace::ShowLeastSize()
+{
+    const QSize least(ToPixels(form.LeastWidth()), ToPixels(form.LeastHeight()));
+    if (!least.isNull() && window.minimumSize() != least)
+        window.setMinimumSize(least);
 }
 
 void WindowFace::ShowGeometry()

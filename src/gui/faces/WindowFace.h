@@ -38,6 +38,7 @@ protected:
 private:
     void ShowForm();
     void ShowCloseBox();
+    void ShowLeastSize();
     void ShowGeometry();
     void ShowState();
     void BringToFront();

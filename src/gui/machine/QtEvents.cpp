@@ -41,6 +41,12 @@ void QtEvents::LetEventsRun()
     resumeAt = end + std::clamp(4 * (end - begin), shortestRest, longestRest);
 }
 
+void QtEvents::ShowAnimationStep()
+{
+    updates.Flush();
+    QCoreApplication::processEvents();
+}
+
 void QtEvents::SetBusyPointer(bool busy)
 {
     cursor.SetBusy(busy);

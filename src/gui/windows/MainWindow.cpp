@@ -53,7 +53,6 @@ QFrame *ToolSeparator(const QString &name)
 MainWindow::MainWindow(const MainForm &form)
 {
     setObjectName(form.Name());
-    setMinimumSize(ToPixels(MainForm::leastWidth), ToPixels(MainForm::leastHeight));
 
     auto *bands = Column(0);
     bands->addWidget(MakeToolbar());

@@ -35,36 +35,55 @@ protected:
     void Leave() { EXPECT_THROW(Form().btnGBToolbarExit.UserClicks(), ProcessEnded); }
 };
 
+/// The names with one thing in front of all.
+QStringList Below(const QString &key, const QStringList &names)
+{
+    QStringList paths;
+    for (const QString &name : names)
+        paths += key + u'\\' + name;
+    return paths;
+}
+
+/// "Color11", "Color12" and so on.
+QStringList Numbered(const QString &name, int first, int last)
+{
+    QStringList names;
+    for (int number = first; number <= last; ++number)
+        names += name + QString::number(number);
+    return names;
+}
+
 TEST_F(MainFormLoad, ReadsTheSettingsInItsOrder)
 {
     Start();
-    const QStringList read = Settings(u"ReadSetting"_s);
-    const QStringList order = {
-        u"Options\\ButtonStyle"_s, u"Options\\ShowDigit"_s, u"Options\\EnableAnimation"_s,
-        u"Options\\DigitType"_s, u"Options\\Sound"_s, u"Options\\Show Tips at Startup"_s,
-        u"Options\\AnimHeight"_s, u"Options\\AnimWidth"_s,
+    const QStringList place =
+        Below(u"Main"_s, {u"MainWidth"_s, u"MainHeight"_s, u"MainLeft"_s, u"MainTop"_s});
+    const QStringList colours = Below(u"Main"_s, Numbered(u"Color"_s, 11, 21));
+    const QStringList order = Below(u"Options"_s,
+                                    {u"ButtonStyle"_s, u"ShowDigit"_s, u"EnableAnimation"_s, u"DigitType"_s,
+                                     u"Sound"_s, u"Show Tips at Startup"_s, u"AnimHeight"_s, u"AnimWidth"_s})
         // The main window: the pages, the first look at its place, the list.
-        u"Main\\SearchPath"_s, u"Main\\DatabaseFile"_s, u"Main\\SQLString"_s, u"Main\\Table"_s,
-        u"Options\\MakeDel"_s, u"Options\\FromDir"_s, u"Options\\ToDir"_s, u"Options\\Folder"_s,
-        u"Options\\SubFolder"_s, u"Options\\LastNumPath"_s, u"Main\\MainWidth"_s, u"Main\\MainHeight"_s,
-        u"Main\\MainLeft"_s, u"Main\\MainTop"_s, u"Main\\FilePath"_s, u"Main\\FileExt"_s,
-        u"Main\\ButtonBar"_s, u"Main\\LastPath"_s, u"Main\\LastFile"_s, u"Main\\LastDBPath"_s,
-        u"Main\\OpenTXTPath"_s, u"Main\\OpenDBPath"_s, u"Main\\Separate"_s, u"Main\\RecentPath 0"_s,
-        u"Main\\OnlyListFilename"_s, u"Main\\GenLastPath"_s, u"Main\\LastSavePath"_s,
-        // The second store, then the appearance with the second look at the place.
-        u"Settings\\WindowLeft"_s, u"Settings\\WindowTop"_s, u"Settings\\SplitSize"_s,
-        u"Settings\\SplitCount"_s, u"Settings\\SplitOption"_s, u"Settings\\DeleteParts"_s,
-        u"Settings\\OpenExplorer"_s, u"Settings\\CopyToFloppy"_s, u"Main\\RightToLeft"_s, u"Main\\Color11"_s,
-        u"Main\\Color21"_s, u"Main\\MainWidth"_s, u"Main\\MainHeight"_s, u"Main\\MainLeft"_s,
-        u"Main\\MainTop"_s, u"Main\\IndxBar"_s, u"Main\\VisibleItems"_s, u"Main\\TabStrip"_s,
-        u"Main\\TitleBarFont"_s, u"Main\\TitleCapTextCol"_s, u"Main\\OutlookColors"_s, u"Main\\CustomColor"_s,
-        u"Main\\chk1"_s, u"Main\\chk7"_s, u"Main\\Menu1"_s, u"Main\\Menu7"_s};
-    qsizetype from = 0;
-    for (const QString &name : order) {
-        const qsizetype at = read.indexOf(name, from);
-        EXPECT_GE(at, 0) << name.toStdString() << " isn't read in its turn";
-        from = std::max(from, at + 1);
-    }
+        + Below(u"Main"_s, {u"SearchPath"_s, u"DatabaseFile"_s, u"SQLString"_s, u"Table"_s})
+        + Below(u"Options"_s,
+                {u"MakeDel"_s, u"FromDir"_s, u"ToDir"_s, u"Folder"_s, u"SubFolder"_s, u"LastNumPath"_s})
+        + place
+        + Below(u"Main"_s,
+                {u"FilePath"_s, u"FileExt"_s, u"ButtonBar"_s, u"LastPath"_s, u"LastFile"_s, u"LastDBPath"_s,
+                 u"OpenTXTPath"_s, u"OpenDBPath"_s, u"Separate"_s, u"RecentPath 0"_s, u"OnlyListFilename"_s,
+                 u"GenLastPath"_s, u"LastSavePath"_s})
+        + Below(u"Settings"_s,
+                {u"WindowLeft"_s, u"WindowTop"_s, u"SplitSize"_s, u"SplitCount"_s, u"SplitOption"_s,
+                 u"DeleteParts"_s, u"OpenExplorer"_s, u"CopyToFloppy"_s})
+        // The appearance, with the colours once more on top of the default ones, and the second look at
+        // the place.
+        + Below(u"Main"_s, {u"RightToLeft"_s}) + colours + colours + place
+        + Below(u"Main"_s,
+                {u"IndxBar"_s, u"VisibleItems"_s, u"TabStrip"_s, u"TitleBarFont"_s, u"TitleBarSize"_s,
+                 u"TitleBarBold"_s, u"TitleBarItalic"_s, u"TitleBarUnderline"_s, u"TitleBarColor"_s,
+                 u"TitleCapBold"_s, u"TitleCapSize"_s, u"TitleCapFont"_s, u"TitleCapItalic"_s,
+                 u"TitleCapUnderline"_s, u"TitleCapTextCol"_s, u"OutlookColors"_s, u"CustomColor"_s})
+        + Below(u"Main"_s, Numbered(u"chk"_s, 1, 7)) + Below(u"Main"_s, Numbered(u"Menu"_s, 1, 7));
+    EXPECT_EQ(Settings(u"ReadSetting"_s), order);
 }
 
 TEST_F(MainFormLoad, WritesTheSettingsInItsOrder)
@@ -356,14 +375,54 @@ TEST_F(MainFormUnload, AnimationFoldsHeightThenWidth)
     EXPECT_FALSE(Form().IsVisible());
 }
 
-TEST_F(MainFormUnload, AnimationTextThatIsNoNumberLeavesItsFoldOut)
+TEST_F(MainFormUnload, AnimationTextThatIsNoNumberEndsTheAnimation)
 {
     Start();
     application.frmOption().ChkAnimOption.SetChecked(true);
     application.frmOption().txtHeight.SetText(u""_s);
     Leave();
     EXPECT_EQ(Form().Height(), 7860);
-    EXPECT_LE(Form().Width(), 1700);
+    EXPECT_EQ(Form().Width(), 10830);
+    EXPECT_FALSE(Form().IsVisible());
+
+    StartedProgram program;
+    program.Start();
+    program.application.frmOption().ChkAnimOption.SetChecked(true);
+    program.application.frmOption().txtWidth.SetText(u"wide"_s);
+    EXPECT_THROW(program.Form().Unload(), ProcessEnded);
+    EXPECT_LE(program.Form().Height(), 420);
+    EXPECT_EQ(program.Form().Width(), 10830);
+}
+
+TEST_F(MainFormUnload, AnimationEndsThoughTheWindowIsHeldOpen)
+{
+    Start();
+    application.frmOption().ChkAnimOption.SetChecked(true);
+    const int before = machine.events.Calls();
+    // A desktop that knows a least size of its own.
+    for (int step = 1; step <= 15 + 46; ++step) {
+        machine.events.At(step, [&] {
+            Form().TakeGeometry(Form().Left(), Form().Top(), 10830, 3000, WindowState::Normal);
+        });
+    }
+    Leave();
+    EXPECT_EQ(machine.events.Calls() - before, 15 + 46);
+}
+
+TEST_F(MainFormUnload, ExitDuringTheAnimationEndsItAndKeepsThePlace)
+{
+    application.settings.Write(keys::MainLeft, 300);
+    application.settings.Write(keys::MainTop, 400);
+    Start();
+    application.frmOption().ChkAnimOption.SetChecked(true);
+    const int before = machine.events.Calls();
+    machine.events.At(20, [&] { Form().btnGBToolbarExit.UserClicks(); });
+    Leave();
+    EXPECT_EQ(machine.events.Calls() - before, 15 + 46);
+    EXPECT_EQ(application.settings.ReadInt32(keys::MainWidth), 10830);
+    EXPECT_EQ(application.settings.ReadInt32(keys::MainHeight), 7860);
+    EXPECT_EQ(application.settings.ReadInt32(keys::MainTop), 400);
+    EXPECT_EQ(application.settings.ReadText(keys::WindowTop), u"400"_s);
 }
 
 TEST_F(MainFormUnload, AnimationThatWouldNeverEndIsLeftOut)

@@ -50,6 +50,20 @@ class QtEventsTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void AnimationStepsRunEachTime()
+    {
+        FaceUpdates updates;
+        BusyCursor cursor;
+        QtEvents::Time now = 5s;
+        QtEvents events(updates, cursor, [&] { return now; });
+        Served served(now, 0ms);
+        for (int step = 1; step <= 3; ++step) {
+            served.Post();
+            events.ShowAnimationStep();
+            QCOMPARE(served.count, step);
+        }
+    }
+
     void RunsAtMostEachTwentyMilliseconds()
     {
         FaceUpdates updates;

@@ -284,6 +284,30 @@ private Q_SLOTS:
         QCOMPARE(bar.x(), 340);
     }
 
+    void ClosingAnimationFoldsTheWindowBelowItsLeastSize()
+    {
+        DesktopStage stage;
+        stage.Start();
+        stage.desktop->application.frmOption().ChkAnimOption.SetChecked(true);
+        struct Sizes : QObject {
+            bool eventFilter(QObject *, QEvent *event) override
+            {
+                if (event->type() == QEvent::Resize)
+                    seen += static_cast<QResizeEvent *>(event)->size();
+                return false;
+            }
+            QList<QSize> seen;
+        } sizes;
+        stage.Window().installEventFilter(&sizes);
+        QVERIFY_THROWS_EXCEPTION(ProcessEnded, stage.Form().Unload());
+        // Each step shows: 15 of 500 twips in height, then 46 of 200 in width.
+        QCOMPARE(sizes.seen.size(), 15 + 46);
+        QCOMPARE(sizes.seen.at(0), QSize(722, 491));
+        QCOMPARE(sizes.seen.at(14), QSize(722, 24));
+        QCOMPARE(sizes.seen.last(), QSize(109, 24));
+        QCOMPARE(stage.desktop->application.settings.ReadInt32(keys::MainHeight), 7860);
+    }
+
     void MainWindowHasNoCloseBox()
     {
         DesktopStage stage;
