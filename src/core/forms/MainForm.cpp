@@ -152,6 +152,7 @@ void MainForm::TieToolbar()
 void MainForm::TiePathRow()
 {
     area.chkExtension.Click.Handle([this] { chkExtension_Click(); });
+    listing.ResetEmptyFolderPage.Handle([this] { emptyFolders.ResetFoundList(area.lblStatusLine); });
     area.txtStrtPath.Drop.Handle([this](const QStringList &paths) {
         if (!paths.isEmpty())
             area.txtStrtPath.SetText(paths.first());

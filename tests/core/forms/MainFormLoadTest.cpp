@@ -322,6 +322,20 @@ TEST_F(MainFormLoad, ListOfTheLastSessionComesBack)
     EXPECT_EQ(Area().TVList.Nodes().at(0).text, u"Create 2 Main Folders"_s);
 }
 
+TEST_F(MainFormLoad, ListingResetsTheEmptyFolderPageOnItsWay)
+{
+    machine.files.PutFile(u"C:\\Music\\a.mp3"_s, "x");
+    Start();
+    Form().emptyFolders.ListRemove.AddItem(u"C:\\Old"_s);
+    Form().emptyFolders.btnGBToolbarOpenDir.SetEnabled(true);
+    Form().listing.CboFilePath.SetText(u"C:\\Music"_s);
+    Form().listing.ChckValg.SetChecked(true);
+    Form().listing.btnGBMakeList.UserClicks();
+    EXPECT_EQ(Form().emptyFolders.ListRemove.ListCount(), 0);
+    EXPECT_FALSE(Form().emptyFolders.btnGBToolbarOpenDir.IsEnabled());
+    EXPECT_EQ(Status(), u"Generate File list - Finished"_s);
+}
+
 class MainFormUnload : public MainFormLoad { };
 
 TEST_F(MainFormUnload, WindowThatIsntNormalKeepsTheOldPlace)

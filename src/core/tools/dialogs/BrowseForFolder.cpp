@@ -6,13 +6,13 @@
 #include "base/Numbers.h"
 #include "machine/Dialogs.h"
 #include "machine/FileSystem.h"
+#include "machine/Paths.h"
 
 namespace tressel {
 
 using namespace Qt::StringLiterals;
 
-QString BrowseForFolder(Dialogs &dialogs, const FileSystem &files, const QString &Title,
-                        const QString &StartPath)
+QString BrowseForFolder(Dialogs &dialogs, FileSystem &files, const QString &Title, const QString &StartPath)
 {
     // A root that is nothing but the separator stays: without it there would be no place to start at.
     QString start = StartPath;
@@ -20,7 +20,10 @@ QString BrowseForFolder(Dialogs &dialogs, const FileSystem &files, const QString
         start.chop(1);
     static_cast<void>(ToInt16(static_cast<double>(start.size())));
     const QString prompt = Title.isEmpty() ? u"Please, Select a folder."_s : Title;
-    return dialogs.ChooseFolder(prompt, start).value_or(QString());
+    const QString chosen = dialogs.ChooseFolder(prompt, start).value_or(QString());
+    // The root of a drive is known by the separator at its end.
+    const QString asRoot = chosen.isEmpty() ? chosen : WithSeparator(files, chosen);
+    return IsDriveRoot(files, asRoot) ? asRoot : chosen;
 }
 
 } // namespace tressel

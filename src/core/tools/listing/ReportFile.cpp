@@ -41,6 +41,7 @@ void ReportFile::NextReportFile(const QString &source, bool withHeader)
         ReportFolder = OnDriveC(files, u"C:"_s);
 
     try {
+        RefuseLink();
         files.Open(Path(), OpenFor::Changing)->Close();
         ++ReportNumber;
         const auto writer = Create();
@@ -55,6 +56,7 @@ void ReportFile::NextReportFile(const QString &source, bool withHeader)
 
 std::unique_ptr<LineWriter> ReportFile::Create() const
 {
+    RefuseLink();
     try {
         return std::make_unique<LineWriter>(files, Path(), OpenFor::Writing, NameBytes::Raw);
     } catch (const Failure &failure) {
@@ -73,10 +75,19 @@ void ReportFile::WriteHeader(LineWriter &writer)
 
 std::unique_ptr<LineWriter> ReportFile::OpenToAppend() const
 {
+    RefuseLink();
     const QString path = Path();
     if (!FileExists(files, path))
         throw Failure(FailureNumber::FileNotFound);
     return std::make_unique<LineWriter>(files, path, OpenFor::Appending, NameBytes::Raw);
+}
+
+void ReportFile::RefuseLink() const
+{
+    // A link of that name leads to a file that isn't ours to empty.
+    const auto status = files.Status(Path(), Links::Keep);
+    if (status && status->kind == EntryKind::Link)
+        throw Failure(FailureNumber::PermissionDenied);
 }
 
 QString ReportFile::Name() const

@@ -38,6 +38,7 @@ public:
     std::unique_ptr<LineWriter> OpenToAppend() const;
 
 private:
+    void RefuseLink() const;
     QString Name() const;
 
     FileSystem &files;

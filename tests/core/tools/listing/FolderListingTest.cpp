@@ -447,6 +447,24 @@ TEST_F(FolderListingTest, ARefusedReportFallsBackOnDriveCAndWritesNothing)
     }
 }
 
+TEST_F(FolderListingTest, ALinkOfTheReportsNameIsNotFollowed)
+{
+    machine.files.PutFile(u"C:\\precious"_s, "mine");
+    machine.files.PutLink(ReportPath(), u"C:\\precious"_s);
+    machine.dialogs.ExpectBox(u"NB! Report is saved on C:\\List-01 2004-03-31.txt"_s);
+    Make();
+    EXPECT_EQ(machine.files.Bytes(u"C:\\precious"_s), "mine");
+}
+
+TEST_F(FolderListingTest, ANameThatTheFolderCannotHoldIsToldByItsNumber)
+{
+    machine.files.FailAt(Operation::OpenForWriting, ReportPath(), 1, FailureNumber::PathNotFound);
+    ExpectFailureBox(u"76, Path not found"_s);
+    Make();
+    EXPECT_EQ(page.btnGBMakeList.Caption(), u"Make List"_s);
+    EXPECT_FALSE(machine.events.IsBusy());
+}
+
 TEST_F(FolderListingTest, AFallbackIgnoresEveryLaterFailure)
 {
     machine.files.PutFile(temporary, "old");

@@ -170,7 +170,7 @@ TEST_F(NumberedPageTest, PaddingComesFromTheTextOfToAlone)
         QStringList folders;
     };
     const QList<Row> rows{
-        {u"1"_s, u"2"_s, {u"Disk1\\"_s, u"Disk2\\"_s}},
+        {u"1"_s, u"5"_s, {u"Disk1\\"_s, u"Disk2\\"_s, u"Disk3\\"_s, u"Disk4\\"_s, u"Disk5\\"_s}},
         {u"11"_s, u"12"_s, {u"Disk11\\"_s, u"Disk12\\"_s}},
         {u"0001"_s, u"02"_s, {u"Disk01\\"_s, u"Disk02\\"_s}},
         {u"99"_s, u"100"_s, {u"Disk099\\"_s, u"Disk100\\"_s}},
@@ -184,7 +184,10 @@ TEST_F(NumberedPageTest, PaddingComesFromTheTextOfToAlone)
     for (const Row &row : rows) {
         Make(row.from, row.to);
         EXPECT_EQ(Work(), row.folders) << qPrintable(row.from) << " to " << qPrintable(row.to);
+        machine.journal.Clear();
         Delete(row.from, row.to);
+        EXPECT_EQ(machine.journal.Count(u"RemoveFolder"_s) == 0, row.folders.isEmpty())
+            << qPrintable(row.from) << " to " << qPrintable(row.to);
         // The folder of the series goes with the last of it.
         machine.files.PutFolder(u"D:\\Work"_s);
     }
