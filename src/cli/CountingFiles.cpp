@@ -35,18 +35,44 @@ std::optional<Failure> CountingFiles::TryMakeFolder(const QString &path)
 {
     const bool isTopLevel = path.indexOf(files.Separator()) == path.lastIndexOf(files.Separator());
     if (isTopLevel) {
-        if (onEntry)
-            onEntry();
-        AddEntry(done);
-        ++done.tried;
-        entryExisted = std::exchange(nextExists, false);
+        CallHook();
+        BeginEntry();
     }
     const auto failure = files.TryMakeFolder(path);
-    lastLevelMade = !failure;
-    lastLevel = path;
-    if (!failure)
-        ++done.made;
+    NoteLevel(path, !failure);
     return failure;
+}
+
+bool CountingFiles::MadeAtOnce(const QString &path)
+{
+    CallHook();
+    // If not, the entry begins with the first of its levels.
+    if (!files.MadeAtOnce(path))
+        return false;
+    BeginEntry();
+    NoteLevel(path, true);
+    return true;
+}
+
+void CountingFiles::CallHook() const
+{
+    if (onEntry)
+        onEntry();
+}
+
+void CountingFiles::BeginEntry()
+{
+    AddEntry(done);
+    ++done.tried;
+    entryExisted = std::exchange(nextExists, false);
+}
+
+void CountingFiles::NoteLevel(const QString &path, bool made)
+{
+    lastLevelMade = made;
+    lastLevel = path;
+    if (made)
+        ++done.made;
 }
 
 void CountingFiles::AddEntry(CreationCount &to) const

@@ -10,8 +10,9 @@ namespace tressel {
 
 /// The disc, with an eye on what a creation run does there: the run itself keeps no count.
 ///
-/// A run asks for each entry whether its folder is there, and then makes one path level by level from
-/// the top. What counts is the answer, and the last level of the path. A run that doesn't ask counts too.
+/// A run asks for each entry whether its folder is there, and then makes one path: at once, or level
+/// by level from the top. What counts is the answer, and the path. A run that doesn't ask
+/// counts too.
 class CountingFiles : public ForwardingFiles {
 public:
     using ForwardingFiles::ForwardingFiles;
@@ -23,13 +24,17 @@ public:
     /// The entries that the run got to so far; asks the disc nothing.
     int Tried() const { return done.tried; }
 
-    /// Called before each entry is counted.
+    /// Called before each entry, or more often.
     StepHook onEntry;
 
     std::optional<FileStatus> Status(const QString &path, Links links) override;
     std::optional<Failure> TryMakeFolder(const QString &path) override;
+    bool MadeAtOnce(const QString &path) override;
 
 private:
+    void CallHook() const;
+    void BeginEntry();
+    void NoteLevel(const QString &path, bool made);
     void AddEntry(CreationCount &to) const;
 
     QString testedBelow; ///< how the path of a test for an entry starts

@@ -31,6 +31,7 @@ public:
         return files.Read(folder, lengths);
     }
     std::optional<Failure> TryMakeFolder(const QString &path) override { return files.TryMakeFolder(path); }
+    bool MadeAtOnce(const QString &path) override { return files.MadeAtOnce(path); }
     std::optional<Failure> TryRemoveFolder(const QString &path) override
     {
         return files.TryRemoveFolder(path);

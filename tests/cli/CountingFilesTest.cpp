@@ -4,8 +4,12 @@
 #include "CountingFiles.h"
 
 #include "language/Language.h"
+#include "machine/posix/PosixFileSystem.h"
 #include "support/MemoryMachine.h"
+#include "support/TemporaryFolder.h"
 #include "support/Text.h"
+
+#include <QSet>
 
 #include <gtest/gtest.h>
 
@@ -68,6 +72,26 @@ TEST_F(Counting, FolderThatCannotBeMadeFailed)
     Handle(u"file"_s, u"file"_s);
     Handle(u"file\\below"_s, u"file\\below"_s);
     ExpectCount(0, 0, 2);
+}
+
+TEST(CountingOnDisc, PathsThatAreMadeAtOnceCountAsAnyOther)
+{
+    const TemporaryFolder folder;
+    PosixFileSystem disc;
+    CountingFiles counting(disc);
+    counting.StartCounting(folder.Path());
+    QList<int> made;
+    counting.onEntry = [&] { made += counting.Count().made; };
+    for (const QString &entry : {u"a"_s, u"b/c"_s, u"a"_s, u"a/d"_s, u"a/"_s + QString(256, u'x')}) {
+        FolderPathExists(counting, folder.Path() + u"//"_s + entry);
+        MakeFolderPath(counting, folder.Path() + u'/' + entry);
+    }
+    const CreationCount count = counting.Count();
+    EXPECT_EQ(count.made, 4);
+    EXPECT_EQ(count.alreadyThere, 1);
+    EXPECT_EQ(count.failed, 1);
+    EXPECT_EQ(count.tried, 5);
+    EXPECT_EQ(QSet<int>(made.begin(), made.end()), (QSet<int>{0, 1, 3, 4}));
 }
 
 } // namespace

@@ -71,6 +71,10 @@ bool FolderPathExists(FileSystem &files, const QString &path)
 
 bool MakeFolderPath(FileSystem &files, const QString &path)
 {
+    // Mostly the levels above are there, and would have failed.
+    const bool hasLevelsAbove = path.indexOf(files.Separator()) != path.lastIndexOf(files.Separator());
+    if (hasLevelsAbove && files.MadeAtOnce(path))
+        return false;
     Steps steps;
     WalkLevels(files, path, [&](const QString &level) { steps.Note(files.TryMakeFolder(level)); });
     return !steps.Pending();

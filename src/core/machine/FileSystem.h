@@ -124,6 +124,10 @@ public:
     /// Makes one folder, whose parent must exist. Reports its failure instead of throwing it, since
     /// most callers try levels that exist.
     [[nodiscard]] virtual std::optional<Failure> TryMakeFolder(const QString &path) = 0;
+    /// A short way for those who would try each level of a path: makes the folder if all levels above it
+    /// are there. True if it was made; false leaves everything as it was, and a file system that has no
+    /// such way says false without trying.
+    virtual bool MadeAtOnce(const QString &) { return false; }
     /// Removes one empty folder; never follows a link.
     [[nodiscard]] virtual std::optional<Failure> TryRemoveFolder(const QString &path) = 0;
     /// Removes one file or link; never a folder.

@@ -59,6 +59,16 @@ QString ByteMark(unsigned char byte)
     return QString(QChar(0xDC80 + (byte - 0x80)));
 }
 
+TEST_F(PosixFileSystemTest, FolderIsMadeAtOnceOnlyIfAllAboveIsThere)
+{
+    EXPECT_FALSE(files.MadeAtOnce(At(u"a/b"_s)));
+    EXPECT_FALSE(FolderExists(files, At(u"a"_s)));
+    EXPECT_TRUE(files.MadeAtOnce(At(u"a"_s)));
+    EXPECT_FALSE(files.MadeAtOnce(At(u"a"_s)));
+    EXPECT_TRUE(files.MadeAtOnce(At(u"a/b"_s)));
+    EXPECT_TRUE(FolderExists(files, At(u"a/b"_s)));
+}
+
 TEST_F(PosixFileSystemTest, NamesOfAnyBytesComeBackAsTheSameBytes)
 {
     // Latin-1, a cut sequence, the UTF-8 pattern of a byte's own surrogate, a mark, a blank and a line end.

@@ -16,6 +16,7 @@ public:
     QList<FolderEntry> List(const QString &folder, Lengths lengths = Lengths::LeftOut) override;
     std::unique_ptr<FolderReader> Read(const QString &folder, Lengths lengths = Lengths::LeftOut) override;
     std::optional<Failure> TryMakeFolder(const QString &path) override;
+    bool MadeAtOnce(const QString &path) override { return !TryMakeFolder(path); }
     std::optional<Failure> TryRemoveFolder(const QString &path) override;
     void RemoveFile(const QString &path) override;
     void Rename(const QString &from, const QString &to) override;
