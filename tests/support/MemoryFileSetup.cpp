@@ -89,9 +89,10 @@ QStringList MemoryFileSystem::Tree(const QString &folder)
     const auto walk = [&paths](const auto &walkBelow, const MemoryNode &node, const QString &above) -> void {
         for (const auto &[key, child] : node.children) {
             const bool isFolder = child->kind == EntryKind::Folder;
-            paths += above + child->name + (isFolder ? QStringLiteral("\\") : QString());
+            const QString path = above + child->name + (isFolder ? QStringLiteral("\\") : QString());
+            paths += path;
             if (isFolder)
-                walkBelow(walkBelow, *child, paths.last());
+                walkBelow(walkBelow, *child, path);
         }
     };
     walk(walk, *FindFolder(folder), {});

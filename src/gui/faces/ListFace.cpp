@@ -93,17 +93,18 @@ bool RowsFace::eventFilter(QObject *watched, QEvent *event)
 ListFace::ListFace(ListBox &control, QListView &widget, std::unique_ptr<ItemModel> rows)
     : RowsFace(control, widget, std::move(rows))
     , list(control)
+    , ground(widget.viewport())
 {
     widget.viewport()->setMouseTracking(true);
 }
 
 bool ListFace::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == View().viewport() && event->type() == QEvent::MouseMove) {
+    if (watched == ground && event->type() == QEvent::MouseMove) {
         const int row = View().indexAt(static_cast<QMouseEvent *>(event)->position().toPoint()).row();
         if (std::exchange(pointedAt, row) != row)
             Hand([&] { list.UserPointsAt(row); });
-    } else if (watched == View().viewport() && event->type() == QEvent::Leave) {
+    } else if (watched == ground && event->type() == QEvent::Leave) {
         pointedAt = -1;
     }
     return RowsFace::eventFilter(watched, event);

@@ -57,6 +57,7 @@ protected:
 
 private:
     ListBox &list;
+    const QWidget *ground; ///< what the rows are painted on; it still has events when the view has gone
     int pointedAt = -1;
 };
 

@@ -187,7 +187,7 @@ TEST_F(SideBarTest, NoneIsOpenOnlyWhileAllAreHidden)
 {
     Hide({1, 2, 3, 4, 5, 6, 7});
     EXPECT_EQ(Open(), 0);
-    EXPECT_EQ(ShownPages(), QList<int>{});
+    EXPECT_TRUE(ShownPages().isEmpty());
     bar.UserNext();
     bar.UserLast();
     bar.UserCycles(false);
@@ -208,7 +208,7 @@ TEST_F(SideBarTest, ClearHidesThePagesAndTheNextEntriesStartAnew)
     EXPECT_EQ(bar.Items().Count(), 0);
     EXPECT_EQ(Open(), 0);
     EXPECT_EQ(bar.FirstShown(), 1);
-    EXPECT_EQ(ShownPages(), QList<int>{});
+    EXPECT_TRUE(ShownPages().isEmpty());
     Fill();
     EXPECT_EQ(Open(), 1);
     EXPECT_EQ(ShownPages(), QList<int>{1});
@@ -219,7 +219,7 @@ TEST_F(SideBarTest, AnotherPageForTheOpenEntryTakesThePlaceOfTheFirst)
     Frame other{form, u"other"_s};
     bar.Items()[1].SetPage(other);
     EXPECT_TRUE(other.IsVisible());
-    EXPECT_EQ(ShownPages(), QList<int>{});
+    EXPECT_TRUE(ShownPages().isEmpty());
     bar.UserSelects(2);
     EXPECT_FALSE(other.IsVisible());
 }
@@ -292,7 +292,7 @@ TEST_F(SideBarTest, VisibleItemsReadsBackAsWrittenAndWorksWithinTheEntries)
     Hide({2, 3});
     EXPECT_EQ(bar.Rows(), 5);
     EXPECT_EQ(bar.RowEntries(), (QList<int>{1, 4, 5, 6, 7}));
-    EXPECT_EQ(bar.RestEntries(), QList<int>{});
+    EXPECT_TRUE(bar.RestEntries().isEmpty());
 }
 
 TEST_F(SideBarTest, RowsAndRestHoldEachShownEntryOnce)
@@ -309,7 +309,7 @@ TEST_F(SideBarTest, WithoutRowsAllAreRest)
     bar.SetVisibleItems(0);
     bar.SetFirstShown(4);
     EXPECT_EQ(bar.FirstShown(), 1);
-    EXPECT_EQ(bar.RowEntries(), QList<int>{});
+    EXPECT_TRUE(bar.RowEntries().isEmpty());
     EXPECT_EQ(bar.RestEntries(), (QList<int>{1, 2, 3, 4, 5, 6, 7}));
     EXPECT_FALSE(bar.CanScrollUp());
     EXPECT_FALSE(bar.CanScrollDown());
