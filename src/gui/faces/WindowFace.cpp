@@ -16,6 +16,9 @@ namespace tressel {
 
 namespace {
 
+// An X server knows no larger window; a picture of a much larger one wouldn't fit the memory.
+constexpr QSize largest(32767, 32767);
+
 // Twips finer than a pixel stay as they are while the pixels are the same.
 int Told(int twips, int pixels)
 {
@@ -108,7 +111,7 @@ void WindowFace::ShowGeometry()
     if (form.State() != WindowState::Normal
         || (window.windowState() & (Qt::WindowMaximized | Qt::WindowMinimized)))
         return;
-    const QSize size(ToPixels(form.Width()), ToPixels(form.Height()));
+    const QSize size = QSize(ToPixels(form.Width()), ToPixels(form.Height())).boundedTo(largest);
     if (window.size() != size)
         window.resize(size);
     if (form.Left() == shownLeft && form.Top() == shownTop)

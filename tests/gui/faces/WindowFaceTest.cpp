@@ -9,6 +9,8 @@
 #include <QLabel>
 #include <QTest>
 
+#include <limits>
+
 using namespace tressel;
 using namespace Qt::StringLiterals;
 
@@ -62,6 +64,16 @@ private Q_SLOTS:
         bound.updates.Flush();
         QCOMPARE(bound.window.size(), QSize(700, 510));
         QCOMPARE(bound.window.pos(), QPoint(30, 40));
+    }
+
+    void ASizeBeyondAllScreensIsCut()
+    {
+        Form form(u"frmMain"_s);
+        form.SetSize(std::numeric_limits<int>::max(), 7500);
+        Bound bound(form);
+        bound.Bind();
+        QCOMPARE(bound.window.size(), QSize(32767, 500));
+        QCOMPARE(form.Width(), 32767 * 15);
     }
 
     void AHandlerMayRefuseASize()
