@@ -252,6 +252,19 @@ TEST_F(MainFormLoad, CommandLineThatNamesNoFileIsIgnored)
     }
 }
 
+TEST_F(MainFormLoad, RenamePageStartsInTheProgramFolderUnlessAPathIsStored)
+{
+    Start();
+    EXPECT_EQ(Form().rename.txtCurrentPath.Text(), u"C:\\Tressel"_s);
+    EXPECT_EQ(Form().rename.ProgressBar.Max(), 2);
+    EXPECT_EQ(Form().rename.ProgressBar.Value(), 0);
+
+    StartedProgram program;
+    program.application.settings.Write(keys::LastPath, u"C:\\Docs"_s);
+    program.Start();
+    EXPECT_EQ(program.Form().rename.txtCurrentPath.Text(), u"C:\\Docs"_s);
+}
+
 TEST_F(MainFormLoad, HiddenEntriesAreHidden)
 {
     application.settings.Write(keys::Chk.At(3), u"0"_s);

@@ -87,4 +87,12 @@ void RenamePage::ShowExtensionFrame()
     fraAllExtensions.SetVisible(optExtensions.IsSelected(All));
 }
 
+void RenamePage::ResetRenamePage(const QString &programFolder)
+{
+    if (txtCurrentPath.Text().isEmpty())
+        txtCurrentPath.SetText(programFolder);
+    ProgressBar.SetRange(0, 2);
+    ProgressBar.SetValue(0);
+}
+
 } // namespace tressel

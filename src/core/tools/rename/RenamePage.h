@@ -18,6 +18,9 @@ class RenamePage {
 public:
     explicit RenamePage(Form &form);
 
+    /// Puts the page at its start: the program's folder where there is no path, and an empty bar.
+    void ResetRenamePage(const QString &programFolder);
+
     /// Entries of optRename and optReplace.
     enum Kinds { Folders, Files, Both };
     /// Entries of optCase.
