@@ -10,9 +10,10 @@
 missing_packages() {
     local wanted installed package
     wanted=$(sed 's/#.*//; s/[[:space:]]//g; /^$/d' "$root/packaging/packages.txt")
-    # dpkg-query fails when it has never heard of one of them, and still lists the others.
+    # dpkg-query fails when it has never heard of one of them, and still lists the others: under set -e that
+    # failure would end this shell with an empty list, as if nothing were missing.
     # shellcheck disable=SC2016,SC2086
-    installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' $wanted 2>/dev/null)
+    installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' $wanted 2>/dev/null) || true
     for package in $wanted; do
         grep -qxF "installed $package" <<<"$installed" || echo "$package"
     done
@@ -20,8 +21,9 @@ missing_packages() {
 
 # Installs what is missing; touches neither apt nor the network when nothing is.
 install_packages() {
-    local missing as_root=()
-    mapfile -t missing < <(missing_packages)
+    local list missing as_root=()
+    list=$(missing_packages) || return 1
+    mapfile -t missing < <(printf '%s' "$list")
     [[ ${#missing[@]} -eq 0 ]] && return 0
     if [[ $EUID -ne 0 ]]; then
         if ! command -v sudo >/dev/null; then

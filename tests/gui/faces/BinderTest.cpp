@@ -7,6 +7,7 @@
 #include "controls/TextBox.h"
 #include "controls/Timer.h"
 #include "faces/SelfDrawnFace.h"
+#include "gui/GuiTest.h"
 #include "gui/faces/Bound.h"
 
 #include <QComboBox>
@@ -177,5 +178,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(BinderTest)
+TRESSEL_GUI_TEST(BinderTest)
 #include "BinderTest.moc"

@@ -5,6 +5,7 @@
 #include "controls/DriveList.h"
 #include "controls/FileList.h"
 #include "controls/FolderList.h"
+#include "gui/GuiTest.h"
 #include "gui/faces/Bound.h"
 #include "support/MemoryMachine.h"
 
@@ -161,5 +162,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(DiscListFacesTest)
+TRESSEL_GUI_TEST(DiscListFacesTest)
 #include "DiscListFacesTest.moc"

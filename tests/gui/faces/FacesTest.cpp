@@ -8,6 +8,7 @@
 #include "controls/OptionGroup.h"
 #include "controls/ProgressBar.h"
 #include "controls/TextBox.h"
+#include "gui/GuiTest.h"
 #include "gui/faces/Bound.h"
 
 #include <QCheckBox>
@@ -444,5 +445,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(FacesTest)
+TRESSEL_GUI_TEST(FacesTest)
 #include "FacesTest.moc"

@@ -3,6 +3,7 @@
 
 #include "controls/ListBox.h"
 #include "controls/TreeView.h"
+#include "gui/GuiTest.h"
 #include "gui/faces/Bound.h"
 
 #include <QListView>
@@ -230,5 +231,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ListFacesTest)
+TRESSEL_GUI_TEST(ListFacesTest)
 #include "ListFacesTest.moc"

@@ -4,6 +4,7 @@
 #include "controls/Frame.h"
 #include "controls/Label.h"
 #include "controls/PictureBox.h"
+#include "gui/GuiTest.h"
 #include "gui/faces/Bound.h"
 
 #include <QFrame>
@@ -113,5 +114,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(LooksTest)
+TRESSEL_GUI_TEST(LooksTest)
 #include "LooksTest.moc"

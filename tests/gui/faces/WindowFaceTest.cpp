@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "controls/Label.h"
+#include "gui/GuiTest.h"
 #include "gui/faces/Bound.h"
 
 #include <QDialog>
@@ -206,5 +207,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(WindowFaceTest)
+TRESSEL_GUI_TEST(WindowFaceTest)
 #include "WindowFaceTest.moc"

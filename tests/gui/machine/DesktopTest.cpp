@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "faces/Twips.h"
+#include "gui/GuiTest.h"
 #include "machine/CanberraSound.h"
 #include "machine/QtClipboard.h"
 #include "machine/QtScreen.h"
@@ -65,5 +66,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(DesktopTest)
+TRESSEL_GUI_TEST(DesktopTest)
 #include "DesktopTest.moc"

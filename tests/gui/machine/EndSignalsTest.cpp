@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
+#include "gui/GuiTest.h"
 #include "machine/EndSignals.h"
 
 #include <QTest>
@@ -34,5 +35,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(EndSignalsTest)
+TRESSEL_GUI_TEST(EndSignalsTest)
 #include "EndSignalsTest.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
+#include "gui/GuiTest.h"
 #include "machine/QtDialogs.h"
 
 #include "gui/WhenUp.h"
@@ -280,5 +281,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(QtDialogsTest)
+TRESSEL_GUI_TEST(QtDialogsTest)
 #include "QtDialogsTest.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
+#include "gui/GuiTest.h"
 #include "machine/QtEvents.h"
 
 #include "controls/ListBox.h"
@@ -180,5 +181,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(QtEventsTest)
+TRESSEL_GUI_TEST(QtEventsTest)
 #include "QtEventsTest.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
+#include "gui/GuiTest.h"
 #include "widgets/IsButtonWidget.h"
 
 #include <QAccessible>
@@ -78,5 +79,5 @@ void ButtonAccessTest::AccessOfACheckButton()
     QCOMPARE(clicks, 1);
 }
 
-QTEST_MAIN(ButtonAccessTest)
+TRESSEL_GUI_TEST(ButtonAccessTest)
 #include "ButtonAccessTest.moc"

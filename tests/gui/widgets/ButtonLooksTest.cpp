@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
+#include "gui/GuiTest.h"
 #include "gui/widgets/ButtonSample.h"
 #include "widgets/looks/Canvas.h"
 #include "widgets/looks/PillColours.h"
@@ -359,5 +360,5 @@ void ButtonLooksTest::FaceStaysInItsShape()
     }
 }
 
-QTEST_MAIN(ButtonLooksTest)
+TRESSEL_GUI_TEST(ButtonLooksTest)
 #include "ButtonLooksTest.moc"

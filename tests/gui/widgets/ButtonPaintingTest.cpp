@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
+#include "gui/GuiTest.h"
 #include "gui/widgets/ButtonSample.h"
 #include "widgets/looks/Look.h"
 #include "widgets/looks/PillColours.h"
@@ -350,5 +351,5 @@ void ButtonPaintingTest::SystemColoursHaveOneTable()
     QVERIFY(!TranslateColour(0x01000000, palette).isValid());
 }
 
-QTEST_MAIN(ButtonPaintingTest)
+TRESSEL_GUI_TEST(ButtonPaintingTest)
 #include "ButtonPaintingTest.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
+#include "gui/GuiTest.h"
 #include "widgets/CtlProgressWidget.h"
 
 #include <QAccessible>
@@ -212,5 +213,5 @@ void CtlProgressWidgetTest::FrameIsSharpAtEachScale()
     }
 }
 
-QTEST_MAIN(CtlProgressWidgetTest)
+TRESSEL_GUI_TEST(CtlProgressWidgetTest)
 #include "CtlProgressWidgetTest.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
+#include "gui/GuiTest.h"
 #include "gui/widgets/ButtonSample.h"
 #include "widgets/looks/Canvas.h"
 
@@ -277,5 +278,5 @@ void GeneratedLooksTest::KeramikAndPlastikDeriveFromTheFace()
     }
 }
 
-QTEST_MAIN(GeneratedLooksTest)
+TRESSEL_GUI_TEST(GeneratedLooksTest)
 #include "GeneratedLooksTest.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
+#include "gui/GuiTest.h"
 #include "widgets/IsButtonWidget.h"
 
 #include "widgets/ButtonToolTip.h"
@@ -508,5 +509,5 @@ void IsButtonWidgetTest::FractionalPlacesStaySharp()
     }
 }
 
-QTEST_MAIN(IsButtonWidgetTest)
+TRESSEL_GUI_TEST(IsButtonWidgetTest)
 #include "IsButtonWidgetTest.moc"

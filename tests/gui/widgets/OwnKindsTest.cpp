@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
+#include "gui/GuiTest.h"
 #include "widgets/OwnKinds.h"
 
 #include "controls/CtlProgress.h"
@@ -81,5 +82,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(OwnKindsTest)
+TRESSEL_GUI_TEST(OwnKindsTest)
 #include "OwnKindsTest.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
+#include "gui/GuiTest.h"
 #include "gui/faces/Bound.h"
 #include "gui/widgets/SideBarStage.h"
 #include "widgets/SideBarFace.h"
@@ -691,5 +692,5 @@ void SideBarWidgetTest::TheBinderTiesItToItsControl()
     QVERIFY(bound.window.findChild<QWidget *>(first.Name())->isVisible());
 }
 
-QTEST_MAIN(SideBarWidgetTest)
+TRESSEL_GUI_TEST(SideBarWidgetTest)
 #include "SideBarWidgetTest.moc"

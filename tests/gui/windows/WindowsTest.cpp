@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "DesktopStage.h"
+#include "gui/GuiTest.h"
 #include "gui/WhenUp.h"
 #include "widgets/IsButtonWidget.h"
 #include "widgets/SideBarWidget.h"
@@ -368,5 +369,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(WindowsTest)
+TRESSEL_GUI_TEST(WindowsTest)
 #include "WindowsTest.moc"
