@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
-#include "gui/GuiTest.h"
 #include "machine/QtDialogs.h"
 
+#include "gui/GuiTest.h"
 #include "gui/WhenUp.h"
 #include "machine/BusyCursor.h"
 #include "machine/FileFilters.h"

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
-#include "gui/GuiTest.h"
 #include "machine/QtEvents.h"
 
 #include "controls/ListBox.h"
+#include "gui/GuiTest.h"
 #include "gui/faces/Bound.h"
 #include "machine/BusyCursor.h"
 

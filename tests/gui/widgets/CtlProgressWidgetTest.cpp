@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
-#include "gui/GuiTest.h"
 #include "widgets/CtlProgressWidget.h"
+
+#include "gui/GuiTest.h"
 
 #include <QAccessible>
 #include <QApplication>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
-#include "gui/GuiTest.h"
 #include "widgets/IsButtonWidget.h"
 
+#include "gui/GuiTest.h"
 #include "widgets/ButtonToolTip.h"
 #include "widgets/FontFaces.h"
 #include "widgets/SystemColours.h"

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
-#include "gui/GuiTest.h"
 #include "widgets/OwnKinds.h"
 
 #include "controls/CtlProgress.h"
 #include "controls/IsButton.h"
 #include "controls/SideBar.h"
+#include "gui/GuiTest.h"
 #include "gui/faces/Bound.h"
 #include "widgets/CtlProgressWidget.h"
 #include "widgets/IsButtonWidget.h"
