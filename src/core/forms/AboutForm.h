@@ -7,12 +7,12 @@
 
 namespace tressel {
 
-class Settings;
+struct FormContext;
 
 /// The window that says what the program is. Its check box and that of the tip window go together.
 class AboutForm : public Form {
 public:
-    explicit AboutForm(Settings &settings);
+    explicit AboutForm(const FormContext &context);
 
     CheckBox chkLoadTipsAtStartup;
 };

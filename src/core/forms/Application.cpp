@@ -15,10 +15,12 @@ namespace tressel {
 
 using namespace Qt::StringLiterals;
 
-Application::Application(const Machine &onMachine, std::function<void(Form &)> formMadeHook)
+Application::Application(const Machine &onMachine, std::function<void(Form &)> formMadeHook, RunWatch *watch)
     : settings(onMachine)
     , machine(onMachine)
     , formMade(std::move(formMadeHook))
+    , clickSound(machine, optionForm.OptSound)
+    , context{machine, settings, session, clickSound, watch ? *watch : silence}
 {
 }
 
@@ -75,42 +77,47 @@ void Application::ShowMainWindow()
 
 OptionForm &Application::frmOption()
 {
-    return optionForm ? *optionForm : Adopt(optionForm, std::make_unique<OptionForm>());
+    if (!std::exchange(optionFormMet, true))
+        Adopt(optionForm);
+    return optionForm;
 }
 
 MainForm &Application::frmMain()
 {
     if (mainForm)
         return *mainForm;
-    return Adopt(mainForm, std::make_unique<MainForm>(machine, settings, session, frmOption()));
+    return Keep(mainForm, std::make_unique<MainForm>(context, frmOption()));
 }
 
 TipForm &Application::frmTip()
 {
     if (tipForm)
         return *tipForm;
-    clickSound.emplace(machine.sound, machine.files, machine.program, frmOption().OptSound);
-    return Adopt(tipForm,
-                 std::make_unique<TipForm>(
-                     machine.files, machine.program, settings, *clickSound,
-                     [this](int value) { frmAbout().chkLoadTipsAtStartup.SetValue(value); },
-                     [this] { frmMain().Show(); }));
+    return Keep(tipForm,
+                std::make_unique<TipForm>(
+                    context, [this](int value) { frmAbout().chkLoadTipsAtStartup.SetValue(value); },
+                    [this] { frmMain().Show(); }));
 }
 
 AboutForm &Application::frmAbout()
 {
-    return aboutForm ? *aboutForm : Adopt(aboutForm, std::make_unique<AboutForm>(settings));
+    return aboutForm ? *aboutForm : Keep(aboutForm, std::make_unique<AboutForm>(context));
 }
 
-template <typename F> F &Application::Adopt(std::unique_ptr<F> &place, std::unique_ptr<F> made)
+template <typename F> F &Application::Keep(std::unique_ptr<F> &place, std::unique_ptr<F> made)
 {
     place = std::move(made);
-    place->SetFatalHandler([this](const Failure &failure) { EndAsFailed(failure); });
-    place->SetAfterEvent([this] { machine.hive.Flush(); });
-    if (formMade)
-        formMade(*place);
-    place->EnsureLoaded();
+    Adopt(*place);
     return *place;
+}
+
+void Application::Adopt(Form &form)
+{
+    form.SetFatalHandler([this](const Failure &failure) { EndAsFailed(failure); });
+    form.SetAfterEvent([this] { machine.hive.Flush(); });
+    if (formMade)
+        formMade(form);
+    form.EnsureLoaded();
 }
 
 void Application::EndAsFailed(const Failure &failure)

@@ -4,26 +4,29 @@
 #pragma once
 
 #include "forms/AboutForm.h"
+#include "forms/FormContext.h"
 #include "forms/MainForm.h"
 #include "forms/OptionForm.h"
 #include "forms/TipForm.h"
 #include "language/Session.h"
-#include "machine/Machine.h"
 #include "settings/Settings.h"
+#include "tools/ClickSound.h"
+#include "tools/RunWatch.h"
 
 #include <functional>
 #include <memory>
-#include <optional>
 
 namespace tressel {
 
 /// The whole program without its faces: the machine it runs on, its settings, what the tools share,
-/// and its forms. A form is made when it is first touched.
+/// the one click sound, and its forms. A form is made when it is first touched, but for the options, whose
+/// controls all others read.
 class Application {
 public:
     /// `formMade` is called with each new form, before anything is put into its controls: the moment for
-    /// whoever draws it.
-    explicit Application(const Machine &machine, std::function<void(Form &)> formMade = {});
+    /// whoever draws it. `watch` hears what the tools' runs do, if somebody wants to; it outlives this.
+    explicit Application(const Machine &machine, std::function<void(Form &)> formMade = {},
+                         RunWatch *watch = nullptr);
 
     /// The entry: restores the options, then shows the tip window or the main window. A failure that
     /// leaves it is shown in the fatal box and ends the process.
@@ -42,14 +45,18 @@ private:
     void RestoreOptions();
     void ShowTips();
     void ShowMainWindow();
-    template <typename F> F &Adopt(std::unique_ptr<F> &place, std::unique_ptr<F> made);
+    template <typename F> F &Keep(std::unique_ptr<F> &place, std::unique_ptr<F> made);
+    void Adopt(Form &form);
     void EndAsFailed(const Failure &failure);
 
     Machine machine;
     std::function<void(Form &)> formMade;
-    std::unique_ptr<OptionForm> optionForm;
+    RunWatch silence; ///< what the runs tell is heard by nobody
+    OptionForm optionForm;
+    bool optionFormMet = false; ///< somebody touched it, so that who draws it knows it
+    ClickSound clickSound;
+    FormContext context;
     std::unique_ptr<AboutForm> aboutForm;
-    std::optional<ClickSound> clickSound; ///< of the tip window
     std::unique_ptr<TipForm> tipForm;
     std::unique_ptr<MainForm> mainForm;
 };

@@ -3,10 +3,12 @@
 
 #include "forms/MainForm.h"
 
+#include "forms/FormContext.h"
 #include "forms/OptionForm.h"
 #include "machine/Dialogs.h"
 #include "machine/Paths.h"
 #include "machine/Shell.h"
+#include "tools/ClickSound.h"
 #include "tools/dialogs/BrowseForFolder.h"
 
 namespace tressel {
@@ -28,14 +30,14 @@ constexpr int gripHeight = 43 * 15;
 
 } // namespace
 
-MainForm::MainForm(const Machine &onMachine, Settings &stored, Session &shared, OptionForm &allOptions)
+MainForm::MainForm(const FormContext &program, OptionForm &allOptions)
     : Form(u"frmMain"_s)
-    , machine(onMachine)
-    , settings(stored)
-    , session(shared)
+    , machine(program.machine)
+    , settings(program.settings)
+    , session(program.session)
     , optionForm(allOptions)
     , options(allOptions.Live())
-    , clickSound(machine.sound, machine.files, machine.program, options.OptSound)
+    , clickSound(program.clickSound)
     , FrmeToolbar(*this, u"FrmeToolbar"_s)
     , btnGBToolbarCreate(*this, u"btnGBToolbarCreate"_s, u"Create"_s)
     , btnGBToolbarLoadList(*this, u"btnGBToolbarLoadList"_s, u"Load List"_s)
@@ -46,21 +48,22 @@ MainForm::MainForm(const Machine &onMachine, Settings &stored, Session &shared, 
     , btnGBToolbarExit(*this, u"btnGBToolbarExit"_s, u"Exit"_s)
     , FrmeSep{Frame(*this, u"FrmeSep(0)"_s), Frame(*this, u"FrmeSep(1)"_s)}
     , area(*this)
-    , tree(area, machine.events, session)
-    , listFile(area, tree, machine.files, machine.events, machine.dialogs, settings, session)
+    , context{*this, area, machine, settings, session, options, clickSound, program.watch}
+    , tree(context)
+    , listFile(context, tree)
     , EyeDropper1(*this, u"EyeDropper1"_s)
     , Picture3(*this, u"Picture3"_s)
-    , browse(area, machine.files, tree, listFile, session)
+    , browse(context, tree, listFile)
     , FrameXPMenu6(*this, u"FrameXPMenu(6)"_s)
-    , textLists(area, machine.files, machine.dialogs, clickSound, listFile, session)
-    , listing(area, machine, clickSound, listFile, settings, session)
-    , erase(*this)
-    , creation(area, browse.DirList, machine.files, machine.events, machine.dialogs, session)
-    , numbered(*this, browse.DirList, options, clickSound, machine.files, machine.events, settings)
-    , splitter(*this)
-    , database(*this)
-    , emptyFolders(*this, machine.files)
-    , rename(*this)
+    , textLists(context, listFile)
+    , listing(context, listFile)
+    , erase(context)
+    , creation(context, browse.DirList)
+    , numbered(context, browse.DirList)
+    , splitter(context)
+    , database(context)
+    , emptyFolders(context)
+    , rename(context)
     , FrameXPMenu3(*this, u"FrameXPMenu(3)"_s)
     , Picture4(*this, u"Picture4"_s)
     , PicStrip(*this, u"PicStrip"_s)
@@ -152,7 +155,7 @@ void MainForm::TieToolbar()
 void MainForm::TiePathRow()
 {
     area.chkExtension.Click.Handle([this] { chkExtension_Click(); });
-    listing.ResetEmptyFolderPage.Handle([this] { emptyFolders.ResetFoundList(area.lblStatusLine); });
+    listing.ResetEmptyFolderPage.Handle([this] { emptyFolders.ResetFoundList(); });
     area.txtStrtPath.Drop.Handle([this](const QStringList &paths) {
         if (!paths.isEmpty())
             area.txtStrtPath.SetText(paths.first());

@@ -8,10 +8,8 @@
 #include "controls/PictureBox.h"
 #include "controls/SideBar.h"
 #include "language/Session.h"
-#include "machine/Machine.h"
 #include "settings/Settings.h"
-#include "tools/ClickSound.h"
-#include "tools/LiveOptions.h"
+#include "tools/ToolContext.h"
 #include "tools/WorkArea.h"
 #include "tools/database/DatabasePage.h"
 #include "tools/emptyfolders/EmptyFoldersPage.h"
@@ -32,12 +30,13 @@ namespace tressel {
 
 class OptionForm;
 class Steps;
+struct FormContext;
 
 /// The main window: the toolbar, the path row, the pages with the tools, the tree and the list, and the
 /// status line. It restores every tool's last state when it loads and writes it back when it goes.
 class MainForm : public Form {
 public:
-    MainForm(const Machine &machine, Settings &settings, Session &session, OptionForm &options);
+    MainForm(const FormContext &program, OptionForm &options);
 
 private:
     Machine machine;
@@ -45,7 +44,7 @@ private:
     Session &session;
     OptionForm &optionForm;
     LiveOptions options;
-    ClickSound clickSound;
+    const ClickSound &clickSound;
 
 public:
     Frame FrmeToolbar;
@@ -59,6 +58,11 @@ public:
     std::array<Frame, 2> FrmeSep;
 
     WorkArea area;
+
+private:
+    ToolContext context; ///< what the tools below are made from
+
+public:
     FolderTree tree;
     FolderListFile listFile;
 
@@ -94,8 +98,8 @@ public:
     void ApplyAppearance();
     /// Gives all buttons of the window the look of the selected entry of optButtonStyle.
     void ApplyStyleToMain();
-    /// The buttons of the window, in the order in which they are given their look.
-    QList<IsButton *> Buttons();
+    /// All buttons of the window, in the order in which they are given their look.
+    QList<IsButton *> Buttons() const;
 
     // MainFormSideBar.cpp
 

@@ -7,6 +7,7 @@
 #include "forms/OptionForm.h"
 #include "settings/Settings.h"
 
+#include <algorithm>
 #include <array>
 
 namespace tressel {
@@ -17,6 +18,19 @@ namespace {
 
 /// The look of each entry of optButtonStyle. Kept: the two orders differ.
 constexpr std::array<int, 9> styleOfEntry{0, 2, 10, 5, 4, 8, 9, 7, 3};
+
+/// In which order the window's buttons are given their look.
+constexpr std::array<QStringView, 30> buttonOrder{
+    u"btnGBLoadFile",        u"btnGBSaveFile",      u"btnGBLoadList",
+    u"btnGBOpenDatabase",    u"btnGBMake",          u"btnGBBrowse",
+    u"btnGBDelete",          u"btnGBToolbarExit",   u"btnGBToolbarOption",
+    u"btnGBToolbarLoadList", u"btnGBToolbarBrowse", u"btnGBToolbarCreate",
+    u"btnGBToolbarUpdate",   u"btnGBToolbarAbout",  u"btnGBToolbarSearch",
+    u"btnGBToolbarOpenDir",  u"btnGBToolbarDelDir", u"btnGBToolbarDeleteAll",
+    u"btnGBToolbarCopy",     u"btnGBMakeList",      u"btnGBResult",
+    u"btnGBSplitFile",       u"btnGBJoinFile",      u"btnBrowse",
+    u"btnGBErase",           u"btnGBBrowsePath",    u"btnGBRename",
+    u"btnGBReplace",         u"btnGBExtension",     u"btnGBCancel"};
 
 /// The keys of one of the side bar's two fonts.
 struct FontKeys {
@@ -70,38 +84,17 @@ void MainForm::ApplyStyleToMain()
         button->SetStyle(StyleOfEntry(entry));
 }
 
-QList<IsButton *> MainForm::Buttons()
+QList<IsButton *> MainForm::Buttons() const
 {
-    return {&textLists.btnGBLoadFile,
-            &textLists.btnGBSaveFile,
-            &database.btnGBLoadList,
-            &database.btnGBOpenDatabase,
-            &numbered.btnGBMake,
-            &listing.btnGBBrowse,
-            &numbered.btnGBDelete,
-            &btnGBToolbarExit,
-            &btnGBToolbarOption,
-            &btnGBToolbarLoadList,
-            &btnGBToolbarBrowse,
-            &btnGBToolbarCreate,
-            &btnGBToolbarUpdate,
-            &btnGBToolbarAbout,
-            &emptyFolders.btnGBToolbarSearch,
-            &emptyFolders.btnGBToolbarOpenDir,
-            &emptyFolders.btnGBToolbarDelDir,
-            &emptyFolders.btnGBToolbarDeleteAll,
-            &emptyFolders.btnGBToolbarCopy,
-            &listing.btnGBMakeList,
-            &listing.btnGBResult,
-            &splitter.btnGBSplitFile,
-            &splitter.btnGBJoinFile,
-            &splitter.btnBrowse,
-            &erase.btnGBErase,
-            &rename.btnGBBrowsePath,
-            &rename.btnGBRename,
-            &rename.btnGBReplace,
-            &rename.btnGBExtension,
-            &rename.btnGBCancel};
+    QList<IsButton *> buttons;
+    for (Control *control : Controls()) {
+        if (auto *button = dynamic_cast<IsButton *>(control))
+            buttons.append(button);
+    }
+    // One that the order doesn't name comes after those that it does.
+    const auto place = [](const IsButton *button) { return std::ranges::find(buttonOrder, button->Name()); };
+    std::ranges::stable_sort(buttons, {}, place);
+    return buttons;
 }
 
 void MainForm::ApplyAppearance()

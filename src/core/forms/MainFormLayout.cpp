@@ -76,7 +76,7 @@ void MainForm::TieLayout()
     area.chkButtonBar.Click.Handle([this] { chkButtonBar_Click(); });
     area.lblStatusLine.Change.Handle([this] { PlaceUpdateNotice(); });
     area.lblStatusLine.Resize.Handle([this] { PlaceUpdateNotice(); });
-    erase.Timer1.Tick.Handle([this] { LayOutPending(); });
+    erase.Timer1.Tick.Also([this] { LayOutPending(); });
 
     PicStrip.MouseMove.Handle([this](int buttons, int x) { DragBar(buttons, x); });
     PicHold.MouseMove.Handle([this](int buttons, int x) { DragBar(buttons, x); });

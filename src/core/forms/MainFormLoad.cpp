@@ -19,7 +19,7 @@ void MainForm::LoadForm()
     Steps steps;
     SetCloseBox(false);
     SetListingToolTips();
-    emptyFolders.ResetFoundList(area.lblStatusLine);
+    emptyFolders.ResetFoundList();
     RestoreEmptyFoldersPage(steps);
     RestoreDatabasePage(steps);
     numbered.FillNumberCombos();

@@ -3,6 +3,7 @@
 
 #include "forms/TipForm.h"
 
+#include "forms/FormContext.h"
 #include "machine/Paths.h"
 #include "machine/Program.h"
 #include "machine/TextFile.h"
@@ -26,8 +27,7 @@ const QString builtInTips =
 
 } // namespace
 
-TipForm::TipForm(FileSystem &fileSystem, const Program &runningProgram, Settings &settings,
-                 const ClickSound &clickSound, std::function<void(int)> tipsSwitched,
+TipForm::TipForm(const FormContext &context, std::function<void(int)> tipsSwitched,
                  std::function<void()> unloaded)
     : Form(u"frmTip"_s)
     , Picture1(*this, u"Picture1"_s)
@@ -38,26 +38,27 @@ TipForm::TipForm(FileSystem &fileSystem, const Program &runningProgram, Settings
     , cmdAbout(*this, u"cmdAbout"_s, u"About"_s)
     , cmdOK(*this, u"cmdOK"_s, u"OK"_s)
     , chkLoadTipsAtStartup(*this, u"chkLoadTipsAtStartup"_s, u"&Show Tips at Startup"_s)
-    , files(fileSystem)
-    , program(runningProgram)
+    , files(context.machine.files)
+    , program(context.machine.program)
 {
     SetCaption(u"Tip of the Day"_s);
     // The window that it opens isn't there yet.
     cmdAbout.SetEnabled(false);
     Load.Handle([this] { LoadForm(); });
     Unloaded.Handle(std::move(unloaded));
-    cmdNextTip.Click.Handle([this, &clickSound] {
+    cmdNextTip.Click.Handle([this, &clickSound = context.clickSound] {
         clickSound.Play();
         NextTip();
     });
-    cmdOK.Click.Handle([this, &clickSound] {
+    cmdOK.Click.Handle([this, &clickSound = context.clickSound] {
         clickSound.Play();
         Unload();
     });
-    chkLoadTipsAtStartup.Click.Handle([this, &settings, tipsSwitched = std::move(tipsSwitched)] {
-        settings.Write(keys::ShowTips, QString::number(chkLoadTipsAtStartup.Value()));
-        tipsSwitched(chkLoadTipsAtStartup.Value());
-    });
+    chkLoadTipsAtStartup.Click.Handle(
+        [this, &settings = context.settings, tipsSwitched = std::move(tipsSwitched)] {
+            settings.Write(keys::ShowTips, QString::number(chkLoadTipsAtStartup.Value()));
+            tipsSwitched(chkLoadTipsAtStartup.Value());
+        });
 }
 
 void TipForm::LoadForm()

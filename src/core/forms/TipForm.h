@@ -13,18 +13,17 @@
 
 namespace tressel {
 
-class ClickSound;
 class FileSystem;
 class Program;
-class Settings;
+struct FormContext;
 
 /// The small window that can open before the main one and shows one line of TIPOFDAY.TXT at a time.
 class TipForm : public Form {
 public:
     /// `tipsSwitched` is called with the check box's value after each click on it, `unloaded` when the
     /// window has gone, in whatever way.
-    TipForm(FileSystem &files, const Program &program, Settings &settings, const ClickSound &clickSound,
-            std::function<void(int)> tipsSwitched, std::function<void()> unloaded);
+    TipForm(const FormContext &context, std::function<void(int)> tipsSwitched,
+            std::function<void()> unloaded);
 
     Frame Picture1; ///< holds the picture
     Frame Image1;

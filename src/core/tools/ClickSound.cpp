@@ -5,17 +5,17 @@
 
 #include "controls/OptionGroup.h"
 #include "language/Language.h"
+#include "machine/Machine.h"
 #include "machine/Paths.h"
 #include "machine/Program.h"
 #include "machine/Sound.h"
 
 namespace tressel {
 
-ClickSound::ClickSound(Sound &soundDevice, const FileSystem &fileSystem, const Program &runningProgram,
-                       const OptionGroup &soundOption)
-    : sound(soundDevice)
-    , files(fileSystem)
-    , program(runningProgram)
+ClickSound::ClickSound(const Machine &machine, const OptionGroup &soundOption)
+    : sound(machine.sound)
+    , files(machine.files)
+    , program(machine.program)
     , OptSound(soundOption)
 {
 }

@@ -7,9 +7,8 @@ namespace tressel {
 
 using namespace Qt::StringLiterals;
 
-WorkArea::WorkArea(Form &owner)
-    : form(owner)
-    , lblTitle(form, u"lblTitle"_s, u" Start in:"_s)
+WorkArea::WorkArea(Form &form)
+    : lblTitle(form, u"lblTitle"_s, u" Start in:"_s)
     , txtStrtPath(form, u"txtStrtPath"_s, u"c:\\"_s)
     , chkExtension(form, u"chkExtension"_s, u"Remove Ext"_s)
     , chkButtonBar(form, u"chkButtonBar"_s, u"Hide Toolbar"_s)

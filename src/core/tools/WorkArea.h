@@ -17,8 +17,6 @@ class WorkArea {
 public:
     explicit WorkArea(Form &form);
 
-    Form &form; ///< the main window itself; its caption tells what was loaded or clicked
-
     Label lblTitle;
     TextBox txtStrtPath;
     CheckBox chkExtension;

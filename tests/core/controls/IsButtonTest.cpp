@@ -102,7 +102,7 @@ TEST_F(IsButtonStates, CheckButtonStaysPressedUntilTheNextClick)
 {
     button.SetButtonType(ButtonKind::Check);
     bool valueInHandler = false;
-    button.Click.Handle([&] { valueInHandler = button.Value(); });
+    button.Click.Also([&] { valueInHandler = button.Value(); });
     EXPECT_EQ(button.ShownState(), LookState::Normal);
     button.UserPressesMouse(MouseButton::Left);
     EXPECT_EQ(button.ShownState(), LookState::Pressed);
@@ -312,7 +312,7 @@ TEST_F(IsButtonStates, AFailureInItsHandlerReachesTheForm)
 {
     int number = 0;
     form.SetFatalHandler([&](const Failure &failure) { number = failure.Number(); });
-    button.Click.Handle([] { throw Failure(FailureNumber::PathNotFound); });
+    button.Click.Also([] { throw Failure(FailureNumber::PathNotFound); });
     button.UserClicks();
     EXPECT_EQ(number, 76);
 }

@@ -155,9 +155,9 @@ TEST_F(Start, FailureThatNobodyHandlesEndsTheProcess)
 {
     TipsOff();
     application.Start();
-    application.frmMain().btnGBToolbarBrowse.Click.Handle([] { throw Failure(FailureNumber::Overflow); });
+    application.frmMain().btnGBToolbarLoadList.Click.Also([] { throw Failure(FailureNumber::Overflow); });
     machine.dialogs.ExpectFatal(6, u"Overflow"_s);
-    EXPECT_THROW(application.frmMain().btnGBToolbarBrowse.UserClicks(), ProcessEnded);
+    EXPECT_THROW(application.frmMain().btnGBToolbarLoadList.UserClicks(), ProcessEnded);
 }
 
 } // namespace

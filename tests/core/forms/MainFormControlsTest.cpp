@@ -346,4 +346,15 @@ TEST_F(MainFormTest, ADriveOfTheSearchThatIsNotReadyIsAFatalFailure)
     EXPECT_EQ(fatal, 76);
 }
 
+TEST_F(MainFormTest, AToolMayAnswerTheTimerToo)
+{
+    form.Show();
+    int ticks = 0;
+    form.erase.Timer1.Tick.Handle([&] { ++ticks; });
+    ASSERT_TRUE(form.IsLayoutPending());
+    form.erase.Timer1.Elapse();
+    EXPECT_EQ(ticks, 1);
+    EXPECT_FALSE(form.IsLayoutPending());
+}
+
 } // namespace

@@ -301,6 +301,20 @@ TEST_F(MainFormLoad, PaletteOfNeitherNumberLeavesTheSideBarItsOwn)
     EXPECT_FALSE(Form().EyeDropper1.Colors());
 }
 
+TEST_F(MainFormLoad, ButtonsGetTheirLookInTheToldOrderAndNoneIsLeftOut)
+{
+    QStringList names;
+    for (const IsButton *button : Form().Buttons())
+        names += button->Name();
+    EXPECT_EQ(
+        names.join(u' '),
+        u"btnGBLoadFile btnGBSaveFile btnGBLoadList btnGBOpenDatabase btnGBMake btnGBBrowse btnGBDelete "
+        "btnGBToolbarExit btnGBToolbarOption btnGBToolbarLoadList btnGBToolbarBrowse btnGBToolbarCreate "
+        "btnGBToolbarUpdate btnGBToolbarAbout btnGBToolbarSearch btnGBToolbarOpenDir btnGBToolbarDelDir "
+        "btnGBToolbarDeleteAll btnGBToolbarCopy btnGBMakeList btnGBResult btnGBSplitFile btnGBJoinFile "
+        "btnBrowse btnGBErase btnGBBrowsePath btnGBRename btnGBReplace btnGBExtension btnGBCancel"_s);
+}
+
 TEST_F(MainFormLoad, EntryOfButtonStyleGivesAllButtonsTheirLook)
 {
     const QList<int> styles = {0, 2, 10, 5, 4, 8, 9, 7, 3};
@@ -308,7 +322,6 @@ TEST_F(MainFormLoad, EntryOfButtonStyleGivesAllButtonsTheirLook)
         StartedProgram program;
         program.application.settings.Write(keys::ButtonStyle, entry);
         program.Start();
-        EXPECT_EQ(program.Form().Buttons().size(), 30);
         for (const IsButton *button : program.Form().Buttons())
             EXPECT_EQ(static_cast<int>(button->Style()), styles.at(entry)) << button->Name().toStdString();
     }

@@ -4,9 +4,9 @@
 #pragma once
 
 #include "forms/MainForm.h"
-#include "forms/OptionForm.h"
 #include "support/MemoryMachine.h"
 #include "support/Text.h"
+#include "support/ToolBench.h"
 
 #include <gtest/gtest.h>
 
@@ -16,10 +16,11 @@ namespace tressel {
 class MainFormTest : public testing::Test {
 protected:
     MemoryMachine machine;
-    Settings settings{machine.machine};
-    Session session;
-    OptionForm options;
-    MainForm form{machine.machine, settings, session, options};
+    ToolBench bench{machine.machine};
+    Settings &settings = bench.settings;
+    Session &session = bench.session;
+    OptionForm &options = bench.options;
+    MainForm form{bench.program, options};
 };
 
 } // namespace tressel

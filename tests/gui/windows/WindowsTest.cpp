@@ -336,8 +336,8 @@ private Q_SLOTS:
         stage.Start();
         QVERIFY(QTest::qWaitForWindowActive(&stage.Window()));
         int clicks = 0;
-        IsButton &button = stage.Form().btnGBToolbarBrowse;
-        button.Click.Handle([&] { ++clicks; });
+        IsButton &button = stage.Form().btnGBToolbarLoadList;
+        button.Click.Also([&] { ++clicks; });
         button.SetCaption(u"&Zebra"_s);
         stage.Settle();
         QTest::keyClick(&stage.Window(), Qt::Key_Z, Qt::AltModifier);

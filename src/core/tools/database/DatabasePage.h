@@ -8,13 +8,14 @@
 #include "controls/IsButton.h"
 #include "controls/Label.h"
 #include "controls/TextBox.h"
+#include "tools/ToolContext.h"
 
 namespace tressel {
 
 /// The page that takes the rows of a database table into the list.
 class DatabasePage {
 public:
-    explicit DatabasePage(Form &form);
+    explicit DatabasePage(const ToolContext &context);
 
     Frame page;
     Label lblDatabaseFile;

@@ -3,20 +3,23 @@
 
 #include "tools/emptyfolders/EmptyFoldersPage.h"
 
+#include "tools/WorkArea.h"
+
 namespace tressel {
 
 using namespace Qt::StringLiterals;
 
-EmptyFoldersPage::EmptyFoldersPage(Form &form, FileSystem &files)
-    : page(form, u"FrameXPMenu(5)"_s)
-    , DrvListRemove(form, u"DrvListRemove"_s, files)
-    , DirListRemove(form, u"DirListRemove"_s, files)
-    , ListRemove(form, u"ListRemove"_s)
-    , btnGBToolbarSearch(form, u"btnGBToolbarSearch"_s, u"Find Dir"_s)
-    , btnGBToolbarOpenDir(form, u"btnGBToolbarOpenDir"_s, u"Open Dir"_s)
-    , btnGBToolbarDelDir(form, u"btnGBToolbarDelDir"_s, u"Del current"_s)
-    , btnGBToolbarDeleteAll(form, u"btnGBToolbarDeleteAll"_s, u"Delete All"_s)
-    , btnGBToolbarCopy(form, u"btnGBToolbarCopy"_s, u"Clipboard"_s)
+EmptyFoldersPage::EmptyFoldersPage(const ToolContext &context)
+    : page(context.form, u"FrameXPMenu(5)"_s)
+    , DrvListRemove(context.form, u"DrvListRemove"_s, context.machine.files)
+    , DirListRemove(context.form, u"DirListRemove"_s, context.machine.files)
+    , ListRemove(context.form, u"ListRemove"_s)
+    , btnGBToolbarSearch(context.form, u"btnGBToolbarSearch"_s, u"Find Dir"_s)
+    , btnGBToolbarOpenDir(context.form, u"btnGBToolbarOpenDir"_s, u"Open Dir"_s)
+    , btnGBToolbarDelDir(context.form, u"btnGBToolbarDelDir"_s, u"Del current"_s)
+    , btnGBToolbarDeleteAll(context.form, u"btnGBToolbarDeleteAll"_s, u"Delete All"_s)
+    , btnGBToolbarCopy(context.form, u"btnGBToolbarCopy"_s, u"Clipboard"_s)
+    , area(context.area)
 {
     // A drive that isn't ready is no one's to mend here: the failure leaves the event.
     DrvListRemove.Change.Handle([this] { DirListRemove.SetPath(DrvListRemove.Drive()); });
@@ -27,13 +30,13 @@ EmptyFoldersPage::EmptyFoldersPage(Form &form, FileSystem &files)
     btnGBToolbarCopy.SetEnabled(false);
 }
 
-void EmptyFoldersPage::ResetFoundList(Label &lblStatusLine)
+void EmptyFoldersPage::ResetFoundList()
 {
     for (IsButton *button :
          {&btnGBToolbarOpenDir, &btnGBToolbarDelDir, &btnGBToolbarDeleteAll, &btnGBToolbarCopy})
         button->SetEnabled(false);
     ListRemove.Clear();
-    lblStatusLine.SetCaption(u"Ready"_s);
+    area.lblStatusLine.SetCaption(u"Ready"_s);
 }
 
 } // namespace tressel

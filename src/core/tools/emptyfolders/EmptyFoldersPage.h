@@ -7,19 +7,19 @@
 #include "controls/FolderList.h"
 #include "controls/Frame.h"
 #include "controls/IsButton.h"
-#include "controls/Label.h"
 #include "controls/ListBox.h"
+#include "tools/ToolContext.h"
 
 namespace tressel {
 
 /// The page that finds empty folders and removes them.
 class EmptyFoldersPage {
 public:
-    EmptyFoldersPage(Form &form, FileSystem &files);
+    explicit EmptyFoldersPage(const ToolContext &context);
 
     /// Nothing is found yet: empties the list, turns off the buttons that need one, and puts "Ready" into
     /// the status line.
-    void ResetFoundList(Label &lblStatusLine);
+    void ResetFoundList();
 
     Frame page;
     DriveList DrvListRemove;
@@ -30,6 +30,9 @@ public:
     IsButton btnGBToolbarDelDir;
     IsButton btnGBToolbarDeleteAll;
     IsButton btnGBToolbarCopy;
+
+private:
+    WorkArea &area;
 };
 
 } // namespace tressel

@@ -9,13 +9,14 @@
 #include "controls/PictureBox.h"
 #include "controls/ProgressBar.h"
 #include "controls/Timer.h"
+#include "tools/ToolContext.h"
 
 namespace tressel {
 
 /// The lower part of the text page: a list of files that are overwritten and deleted.
 class ErasePage {
 public:
-    explicit ErasePage(Form &form);
+    explicit ErasePage(const ToolContext &context);
 
     ListBox lstErase;
     Label lblEraseMessage;

@@ -5,6 +5,7 @@
 
 #include "base/Steps.h"
 #include "language/Session.h"
+#include "tools/WorkArea.h"
 #include "tools/folders/FolderListFile.h"
 #include "tools/folders/FolderTree.h"
 
@@ -12,16 +13,15 @@ namespace tressel {
 
 using namespace Qt::StringLiterals;
 
-BrowsePage::BrowsePage(WorkArea &workArea, FileSystem &files, FolderTree &folderTree,
-                       FolderListFile &textFile, Session &shared)
-    : page(workArea.form, u"FrameXPMenu(0)"_s)
-    , DrvList(workArea.form, u"DrvList"_s, files)
-    , DirList(workArea.form, u"DirList"_s, files)
-    , FileList(workArea.form, u"FileList"_s, files)
-    , area(workArea)
+BrowsePage::BrowsePage(const ToolContext &context, FolderTree &folderTree, FolderListFile &textFile)
+    : page(context.form, u"FrameXPMenu(0)"_s)
+    , DrvList(context.form, u"DrvList"_s, context.machine.files)
+    , DirList(context.form, u"DirList"_s, context.machine.files)
+    , FileList(context.form, u"FileList"_s, context.machine.files)
+    , area(context.area)
     , tree(folderTree)
     , listFile(textFile)
-    , session(shared)
+    , session(context.session)
 {
     DrvList.SetToolTip(u" List of drivelist "_s);
     DirList.SetToolTip(u" List of dirlist "_s);

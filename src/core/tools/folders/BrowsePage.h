@@ -7,19 +7,17 @@
 #include "controls/FileList.h"
 #include "controls/FolderList.h"
 #include "controls/Frame.h"
-#include "tools/WorkArea.h"
+#include "tools/ToolContext.h"
 
 namespace tressel {
 
 class FolderListFile;
 class FolderTree;
-struct Session;
 
 /// The page on which one goes to a folder and takes its file names into the list.
 class BrowsePage {
 public:
-    BrowsePage(WorkArea &area, FileSystem &files, FolderTree &tree, FolderListFile &listFile,
-               Session &session);
+    BrowsePage(const ToolContext &context, FolderTree &tree, FolderListFile &listFile);
 
     /// Takes over all file names on show, in place of what the list held, and saves them.
     void LoadAllNames();

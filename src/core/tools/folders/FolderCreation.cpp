@@ -11,19 +11,19 @@
 #include "machine/Dialogs.h"
 #include "machine/Events.h"
 #include "machine/Paths.h"
+#include "tools/WorkArea.h"
 
 namespace tressel {
 
 using namespace Qt::StringLiterals;
 
-FolderCreation::FolderCreation(WorkArea &workArea, FolderList &folderList, FileSystem &fileSystem,
-                               Events &eventLoop, Dialogs &boxes, Session &shared)
-    : area(workArea)
+FolderCreation::FolderCreation(const ToolContext &context, FolderList &folderList)
+    : area(context.area)
     , DirList(folderList)
-    , files(fileSystem)
-    , events(eventLoop)
-    , dialogs(boxes)
-    , session(shared)
+    , files(context.machine.files)
+    , events(context.machine.events)
+    , dialogs(context.machine.dialogs)
+    , session(context.session)
 {
 }
 

@@ -4,20 +4,15 @@
 #pragma once
 
 #include "controls/FolderList.h"
-#include "tools/WorkArea.h"
+#include "tools/ToolContext.h"
 
 namespace tressel {
-
-class Dialogs;
-class Events;
-class FileSystem;
-struct Session;
 
 /// The run that makes one folder for each entry of the list, in session.DestinationPath.
 class FolderCreation {
 public:
-    FolderCreation(WorkArea &area, FolderList &DirList, FileSystem &files, Events &events, Dialogs &dialogs,
-                   Session &session);
+    /// `DirList` is the folder list of the page for browsing.
+    FolderCreation(const ToolContext &context, FolderList &DirList);
 
     /// Makes the folders in list order. A folder that can't be made is passed over without a word; any
     /// other failure ends the run, and only one of number 75 is told in a box.

@@ -5,11 +5,13 @@
 
 #include "base/Text.h"
 #include "base/Version.h"
+#include "controls/Form.h"
 #include "language/Session.h"
 #include "machine/Dialogs.h"
 #include "machine/Events.h"
 #include "machine/TextFile.h"
 #include "settings/Settings.h"
+#include "tools/WorkArea.h"
 #include "tools/folders/FolderTree.h"
 
 namespace tressel {
@@ -34,15 +36,15 @@ QString TailOfPath(const QString &path)
 
 } // namespace
 
-FolderListFile::FolderListFile(WorkArea &workArea, FolderTree &folderTree, FileSystem &fileSystem,
-                               Events &eventLoop, Dialogs &boxes, Settings &stored, Session &shared)
-    : area(workArea)
+FolderListFile::FolderListFile(const ToolContext &context, FolderTree &folderTree)
+    : form(context.form)
+    , area(context.area)
     , tree(folderTree)
-    , files(fileSystem)
-    , events(eventLoop)
-    , dialogs(boxes)
-    , settings(stored)
-    , session(shared)
+    , files(context.machine.files)
+    , events(context.machine.events)
+    , dialogs(context.machine.dialogs)
+    , settings(context.settings)
+    , session(context.session)
 {
 }
 
@@ -94,7 +96,7 @@ void FolderListFile::SaveList()
             if (!passedOver || area.LstItem.ListCount() > 0)
                 throw;
         }
-        area.form.SetCaption(TitleWithVersion() + u" - saved to ... "_s + TailOfPath(session.ListFile));
+        form.SetCaption(TitleWithVersion() + u" - saved to ... "_s + TailOfPath(session.ListFile));
     } catch (const Failure &) {
         // Whatever it was, the list is still in the window and nobody is told.
     }
@@ -132,7 +134,7 @@ void FolderListFile::ReadLines(LineReader &reader)
 
 void FolderListFile::TellLoaded()
 {
-    area.form.SetCaption(TitleWithVersion() + u" - Files load from ... "_s + TailOfPath(session.ListFile));
+    form.SetCaption(TitleWithVersion() + u" - Files load from ... "_s + TailOfPath(session.ListFile));
 }
 
 void FolderListFile::Loading(const std::function<void()> &steps)

@@ -4,19 +4,14 @@
 #pragma once
 
 #include "base/Failure.h"
-#include "tools/WorkArea.h"
+#include "tools/ToolContext.h"
 
 #include <functional>
 
 namespace tressel {
 
-class Dialogs;
-class Events;
-class FileSystem;
 class FolderTree;
 class LineReader;
-class Settings;
-struct Session;
 
 /// The list's text file: one folder name a line, lines that start with ";" and empty ones passed over.
 ///
@@ -25,8 +20,7 @@ struct Session;
 /// was read so far, the status text and the pointer stay as they were at that moment.
 class FolderListFile {
 public:
-    FolderListFile(WorkArea &area, FolderTree &tree, FileSystem &files, Events &events, Dialogs &dialogs,
-                   Settings &settings, Session &session);
+    FolderListFile(const ToolContext &context, FolderTree &tree);
 
     /// Loads session.ListFile at start-up, unless it has more than 32000 bytes.
     void StartList();
@@ -44,6 +38,7 @@ private:
     void TellLoaded();
     void Loading(const std::function<void()> &steps);
 
+    Form &form;
     WorkArea &area;
     FolderTree &tree;
     FileSystem &files;

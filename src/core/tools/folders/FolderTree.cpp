@@ -8,6 +8,7 @@
 #include "language/Language.h"
 #include "language/Session.h"
 #include "machine/Events.h"
+#include "tools/WorkArea.h"
 
 #include <algorithm>
 #include <limits>
@@ -57,10 +58,10 @@ private:
 
 } // namespace
 
-FolderTree::FolderTree(WorkArea &workArea, Events &eventLoop, Session &shared)
-    : area(workArea)
-    , events(eventLoop)
-    , session(shared)
+FolderTree::FolderTree(const ToolContext &context)
+    : area(context.area)
+    , events(context.machine.events)
+    , session(context.session)
 {
 }
 

@@ -3,18 +3,15 @@
 
 #pragma once
 
-#include "tools/WorkArea.h"
+#include "tools/ToolContext.h"
 
 namespace tressel {
-
-class Events;
-struct Session;
 
 /// Shows the folder list as a tree: a root and one child for each entry. The tree is thrown away and
 /// built anew each time; it makes no folder. A step that fails is ignored and the next one runs.
 class FolderTree {
 public:
-    FolderTree(WorkArea &area, Events &events, Session &session);
+    explicit FolderTree(const ToolContext &context);
 
     /// The planned folders, with the busy pointer and words in the status line.
     void RefreshFolderTree();

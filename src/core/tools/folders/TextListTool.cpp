@@ -4,6 +4,7 @@
 #include "tools/folders/TextListTool.h"
 
 #include "language/Session.h"
+#include "machine/Dialogs.h"
 #include "machine/FileSystem.h"
 #include "tools/ClickSound.h"
 #include "tools/folders/FolderListFile.h"
@@ -20,18 +21,17 @@ constexpr int listFileFilterIndex = 4;
 
 } // namespace
 
-TextListTool::TextListTool(WorkArea &area, FileSystem &fileSystem, Dialogs &fileDialogs,
-                           const ClickSound &sound, FolderListFile &textFile, Session &shared)
-    : lblInfo(area.form, u"lblInfo"_s,
+TextListTool::TextListTool(const ToolContext &context, FolderListFile &textFile)
+    : lblInfo(context.form, u"lblInfo"_s,
               u"Open from textfile and read to list for making of folders or Save from list to textfile to "
               "later use"_s)
-    , btnGBLoadFile(area.form, u"btnGBLoadFile"_s, u"Load File"_s)
-    , btnGBSaveFile(area.form, u"btnGBSaveFile"_s, u"Save File"_s)
-    , files(fileSystem)
-    , dialogs(fileDialogs)
-    , clickSound(sound)
+    , btnGBLoadFile(context.form, u"btnGBLoadFile"_s, u"Load File"_s)
+    , btnGBSaveFile(context.form, u"btnGBSaveFile"_s, u"Save File"_s)
+    , files(context.machine.files)
+    , dialogs(context.machine.dialogs)
+    , clickSound(context.clickSound)
     , listFile(textFile)
-    , session(shared)
+    , session(context.session)
 {
     btnGBLoadFile.Click.Handle([this] { btnGBLoadFile_Click(); });
     btnGBSaveFile.Click.Handle([this] { btnGBSaveFile_Click(); });

@@ -5,21 +5,16 @@
 
 #include "controls/IsButton.h"
 #include "controls/Label.h"
-#include "machine/Dialogs.h"
-#include "tools/WorkArea.h"
+#include "tools/ToolContext.h"
 
 namespace tressel {
 
-class ClickSound;
-class FileSystem;
 class FolderListFile;
-struct Session;
 
 /// The two buttons with which the list is loaded from a text file and saved to one.
 class TextListTool {
 public:
-    TextListTool(WorkArea &area, FileSystem &files, Dialogs &dialogs, const ClickSound &clickSound,
-                 FolderListFile &listFile, Session &session);
+    TextListTool(const ToolContext &context, FolderListFile &listFile);
 
     Label lblInfo;
     IsButton btnGBLoadFile;

@@ -13,6 +13,7 @@
 #include "machine/Paths.h"
 #include "machine/Program.h"
 #include "settings/Settings.h"
+#include "tools/WorkArea.h"
 #include "tools/folders/FolderListFile.h"
 #include "tools/folders/RemoveDupes.h"
 #include "tools/listing/ListingPage.h"
@@ -74,15 +75,14 @@ private:
     bool hasFallenBack = false;
 };
 
-FolderListing::FolderListing(ListingPage &listingPage, WorkArea &workArea, const Machine &onMachine,
-                             FolderListFile &textFile, Settings &stored, Session &shared)
+FolderListing::FolderListing(const ToolContext &context, ListingPage &listingPage, FolderListFile &textFile)
     : page(listingPage)
-    , area(workArea)
-    , machine(onMachine)
+    , area(context.area)
+    , machine(context.machine)
     , files(machine.files)
     , listFile(textFile)
-    , settings(stored)
-    , session(shared)
+    , settings(context.settings)
+    , session(context.session)
     , report(machine.files, machine.clock)
 {
 }

@@ -3,8 +3,7 @@
 
 #pragma once
 
-#include "machine/Machine.h"
-#include "tools/WorkArea.h"
+#include "tools/ToolContext.h"
 #include "tools/listing/MeasuredLengths.h"
 #include "tools/listing/ReportFile.h"
 
@@ -14,8 +13,6 @@ namespace tressel {
 
 class FolderListFile;
 class ListingPage;
-class Settings;
-struct Session;
 
 /// The run that writes the names of a folder tree into a report, which stays as a file or becomes the
 /// folder list. The button that starts it cancels it too: while it runs it lets events run, and a second
@@ -25,8 +22,7 @@ struct Session;
 /// to drive C:, the walk stops, and every later failure is ignored.
 class FolderListing {
 public:
-    FolderListing(ListingPage &page, WorkArea &area, const Machine &machine, FolderListFile &listFile,
-                  Settings &settings, Session &session);
+    FolderListing(const ToolContext &context, ListingPage &page, FolderListFile &listFile);
 
     void MakeList();
 

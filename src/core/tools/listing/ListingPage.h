@@ -14,14 +14,12 @@
 
 namespace tressel {
 
-class ClickSound;
 class Steps;
 
 /// The tool that lists a folder tree into a report, which stays as a file or becomes the folder list.
 class ListingPage {
 public:
-    ListingPage(WorkArea &area, const Machine &machine, const ClickSound &clickSound,
-                FolderListFile &listFile, Settings &settings, Session &session);
+    ListingPage(const ToolContext &context, FolderListFile &listFile);
 
     /// Fills the recent paths from the settings.
     void LoadRecentPaths();
@@ -56,7 +54,6 @@ private:
     void btnGBBrowse_Click();
     void btnGBMakeList_Click();
 
-    WorkArea &area;
     Machine machine;
     const ClickSound &clickSound;
     FolderListFile &listFile;

@@ -12,13 +12,13 @@
 
 namespace tressel {
 
-NumberedFolders::NumberedFolders(NumberedPage &numberedPage, FolderList &folderList,
-                                 const LiveOptions &liveOptions, FileSystem &fileSystem, Events &eventLoop)
+NumberedFolders::NumberedFolders(const ToolContext &context, NumberedPage &numberedPage,
+                                 FolderList &folderList)
     : page(numberedPage)
     , DirList(folderList)
-    , options(liveOptions)
-    , files(fileSystem)
-    , events(eventLoop)
+    , options(context.options)
+    , files(context.machine.files)
+    , events(context.machine.events)
 {
 }
 

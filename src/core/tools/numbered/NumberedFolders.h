@@ -3,14 +3,13 @@
 
 #pragma once
 
-#include "tools/LiveOptions.h"
+#include "tools/ToolContext.h"
 #include "tools/numbered/NumberedTarget.h"
 
 #include <functional>
 
 namespace tressel {
 
-class Events;
 class FolderList;
 class NumberedPage;
 
@@ -19,8 +18,7 @@ class NumberedPage;
 class NumberedFolders {
 public:
     /// `DirList` is the other list of folders, refreshed with the page's own.
-    NumberedFolders(NumberedPage &page, FolderList &DirList, const LiveOptions &options, FileSystem &files,
-                    Events &events);
+    NumberedFolders(const ToolContext &context, NumberedPage &page, FolderList &DirList);
 
     /// Makes each folder of the series, with the levels above it that aren't there.
     void MakeFolders();

@@ -11,21 +11,17 @@
 #include "controls/IsButton.h"
 #include "controls/Label.h"
 #include "controls/TextBox.h"
-#include "tools/LiveOptions.h"
 #include "tools/numbered/NumberedFolders.h"
 
 namespace tressel {
 
-class ClickSound;
-class Settings;
 class Steps;
 
 /// The page that makes, or deletes, a series of folders whose names end in a running number.
 class NumberedPage {
 public:
     /// `DirList` is the folder list of the page for browsing.
-    NumberedPage(Form &form, FolderList &DirList, const LiveOptions &options, const ClickSound &clickSound,
-                 FileSystem &files, Events &events, Settings &settings);
+    NumberedPage(const ToolContext &context, FolderList &DirList);
 
     /// Fills both combos with the numbers 1 to 999.
     void FillNumberCombos();

@@ -10,13 +10,14 @@
 #include "controls/OptionGroup.h"
 #include "controls/ProgressBar.h"
 #include "controls/TextBox.h"
+#include "tools/ToolContext.h"
 
 namespace tressel {
 
 /// The page that renames what stands in a folder: by case, by extension, by replacing a piece of text.
 class RenamePage {
 public:
-    explicit RenamePage(Form &form);
+    explicit RenamePage(const ToolContext &context);
 
     /// Puts the page at its start: the program's folder where there is no path, and an empty bar.
     void ResetRenamePage(const QString &programFolder);

@@ -11,6 +11,7 @@
 #include "controls/Label.h"
 #include "controls/OptionGroup.h"
 #include "controls/TextBox.h"
+#include "tools/ToolContext.h"
 
 #include <array>
 
@@ -19,7 +20,7 @@ namespace tressel {
 /// The page that cuts a file into parts and joins them again.
 class SplitterPage {
 public:
-    explicit SplitterPage(Form &form);
+    explicit SplitterPage(const ToolContext &context);
 
     /// Entries of optSplit: the cut is by the size of a part or by the number of parts.
     enum Cuts { FileSize, FileCount };

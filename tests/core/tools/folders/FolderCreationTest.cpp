@@ -79,7 +79,7 @@ TEST_F(FolderCreation, FailedRunTellsItsIndexBeforeTheButtonOverwritesIt)
     Area().chkExtension.SetChecked(true);
     List({u"one.txt"_s, u"abc"_s});
     QStringList texts;
-    Area().lblStatusLine.Change.Handle([&] { texts += Status(); });
+    Area().lblStatusLine.Change.Also([&] { texts += Status(); });
     PressCreate();
     EXPECT_TRUE(texts.contains(u"Finished with ERROR, Total of 1 folders created"_s));
 }
@@ -149,7 +149,7 @@ TEST_F(FolderCreation, RunNumberAtItsEndIsAFailureWithoutABox)
     application.session.RunNumber = std::numeric_limits<std::int32_t>::max();
     List({u"x"_s});
     QStringList texts;
-    Area().lblStatusLine.Change.Handle([&] { texts += Status(); });
+    Area().lblStatusLine.Change.Also([&] { texts += Status(); });
     PressCreate();
     EXPECT_TRUE(machine.files.Exists(u"C:\\Work\\x"_s));
     EXPECT_TRUE(texts.contains(u"Finished with ERROR, Total of 1 folders created"_s));
@@ -201,7 +201,7 @@ TEST_F(FolderCreation, EntriesBeyond16BitsEndTheRunAtTheirIndex)
         entries += QString::number(entry);
     Area().LstItem.SetItems(entries);
     QStringList texts;
-    Area().lblStatusLine.Change.Handle([&] { texts += Status(); });
+    Area().lblStatusLine.Change.Also([&] { texts += Status(); });
     PressCreate();
     EXPECT_TRUE(texts.contains(u"Finished with ERROR, Total of 32768 folders created"_s));
     EXPECT_TRUE(machine.files.Exists(u"C:\\Work\\32767"_s));

@@ -270,7 +270,7 @@ TEST_F(TextList, ReportListDiffersInItsWays)
     application.settings.Write(keys::ReportFile, u"C:\\Rep\\List-01.txt"_s);
     machine.journal.Clear();
     QStringList texts;
-    Area().lblStatusLine.Change.Handle([&] { texts += Status(); });
+    Area().lblStatusLine.Change.Also([&] { texts += Status(); });
     Form().listFile.LoadReportList();
     EXPECT_EQ(Entries(), (QStringList{u"a"_s, u"b"_s}));
     EXPECT_EQ(application.session.ReportFile, u"C:\\Rep\\List-01.txt"_s);
@@ -367,7 +367,7 @@ TEST_F(BrowsedFolder, DoubleClickTellsTheName)
 {
     application.session.ListFile = listPath;
     QStringList texts;
-    Area().lblStatusLine.Change.Handle([&] { texts += Status(); });
+    Area().lblStatusLine.Change.Also([&] { texts += Status(); });
     Form().browse.FileList.UserActivates(1);
     EXPECT_TRUE(texts.contains(u"File ''b.txt'' added to list"_s));
 }
@@ -398,11 +398,11 @@ TEST_F(BrowsedFolder, RemoveExtReloadsFromTheRememberedSource)
 
     // From a text file the tree is built twice, from a double clicked file once.
     int rebuilds = 0;
-    Area().lblStatusLine.Change.Handle([&] { rebuilds += Status() == u"Finished"_s ? 1 : 0; });
+    Area().lblStatusLine.Change.Also([&] { rebuilds += Status() == u"Finished"_s ? 1 : 0; });
     Area().chkExtension.UserToggles();
     EXPECT_EQ(rebuilds, 2);
     Area().chkExtension.UserToggles();
-    Area().lblStatusLine.Change.Handle([] {});
+    Area().lblStatusLine.Change.Also([] {});
 
     application.session.ListFromTextFile = false;
     Area().LstItem.Clear();

@@ -62,7 +62,7 @@ TEST_F(FolderTreeView, NamesAreMended)
 TEST_F(FolderTreeView, RefreshTellsItsStepsAndTheOthersDoNot)
 {
     QStringList texts;
-    Area().lblStatusLine.Change.Handle([&] { texts += Status(); });
+    Area().lblStatusLine.Change.Also([&] { texts += Status(); });
     machine.journal.Clear();
     Form().tree.RefreshFolderTree();
     EXPECT_EQ(texts, (QStringList{u"Read list Wait..."_s, u"Finished"_s}));

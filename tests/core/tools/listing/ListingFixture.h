@@ -4,12 +4,9 @@
 #pragma once
 
 #include "base/Steps.h"
-#include "controls/OptionGroup.h"
-#include "language/Session.h"
-#include "settings/Settings.h"
 #include "support/MemoryMachine.h"
 #include "support/Text.h"
-#include "tools/ClickSound.h"
+#include "support/ToolBench.h"
 #include "tools/folders/FolderListFile.h"
 #include "tools/folders/FolderTree.h"
 #include "tools/listing/ListingPage.h"
@@ -19,24 +16,12 @@
 namespace tressel {
 
 /// The listing tool on a form of its own.
-struct ListingTool {
-    explicit ListingTool(const Machine &onMachine)
-        : machine(onMachine)
-    {
-    }
+struct ListingTool : ToolBench {
+    using ToolBench::ToolBench;
 
-    Machine machine;
-    Settings settings{machine};
-    Session session;
-    Form form{QStringLiteral("frmMain")};
-    WorkArea area{form};
-    FolderTree tree{area, machine.events, session};
-    FolderListFile listFile{area, tree, machine.files, machine.events, machine.dialogs, settings, session};
-    Form optionForm{QStringLiteral("frmOption")};
-    OptionGroup OptSound{
-        optionForm, QStringLiteral("OptSound"), {QStringLiteral("On"), QStringLiteral("Off")}};
-    ClickSound clickSound{machine.sound, machine.files, machine.program, OptSound};
-    ListingPage page{area, machine, clickSound, listFile, settings, session};
+    FolderTree tree{context};
+    FolderListFile listFile{context, tree};
+    ListingPage page{context, listFile};
 };
 
 struct WithMemoryMachine {

@@ -44,7 +44,7 @@ TEST_F(ListingPageTest, BrowseStartsInAPathThatExists)
 
 TEST_F(ListingPageTest, BrowseAnswersWithTheClickSoundFirst)
 {
-    OptSound.Select(0);
+    options.OptSound.Select(0);
     machine.dialogs.ExpectChooseFolder(u""_s);
     page.btnGBBrowse.UserClicks();
     EXPECT_EQ(page.CboFilePath.Text(), u"D:\\Music"_s);
@@ -77,7 +77,7 @@ TEST_F(ListingPageTest, ResultLoadsTheReportIntoTheList)
 
 TEST_F(ListingPageTest, EachButtonAnswersWithTheClickSound)
 {
-    OptSound.Select(0);
+    options.OptSound.Select(0);
     page.btnGBResult.UserClicks();
     Make();
     EXPECT_EQ(machine.journal.Count(u"Play"_s), 2);
@@ -133,7 +133,7 @@ TEST_F(ListingPageTest, SavingThePathSavesTheRenameSettingsFirst)
     page.SaveRecentPath();
     EXPECT_EQ(storedThen, QStringList());
     EXPECT_EQ(page.CboFilePath.Items(), QStringList{u"D:\\Music"_s});
-    page.SaveRenameSettings.Handle([] { throw Failure(FailureNumber::DiskFull); });
+    page.SaveRenameSettings.Also([] { throw Failure(FailureNumber::DiskFull); });
     page.CboFilePath.SetText(u"D:\\Other"_s);
     page.SaveRecentPath();
     EXPECT_EQ(page.CboFilePath.ListCount(), 2);

@@ -4,11 +4,9 @@
 #include "tools/numbered/NumberedPage.h"
 
 #include "base/Steps.h"
-#include "controls/OptionGroup.h"
-#include "settings/Settings.h"
 #include "support/MemoryMachine.h"
 #include "support/Text.h"
-#include "tools/ClickSound.h"
+#include "support/ToolBench.h"
 
 #include <gtest/gtest.h>
 
@@ -25,8 +23,8 @@ protected:
     {
         machine.files.AddDrive(u'D');
         machine.files.PutFolder(u"D:\\Work"_s);
-        OptSound.Select(0);
-        OptDigit.Select(1);
+        options.OptSound.Select(0);
+        options.OptDigit.Select(1);
         page.FillNumberCombos();
         page.DrvBox.Refresh();
         page.DirBox.SetPath(u"D:\\Work"_s);
@@ -51,26 +49,16 @@ protected:
     QStringList Work() { return machine.files.Tree(u"D:\\Work"_s); }
 
     MemoryMachine machine;
-    Settings settings{machine.machine};
-    Form form{u"frmMain"_s};
-    Form optionForm{u"frmOption"_s};
-    OptionGroup OptSound{optionForm, u"OptSound"_s, {u"On"_s, u"Off"_s}};
-    CheckBox ChkAutoOption{optionForm, u"ChkAutoOption"_s};
-    OptionGroup OptDigit{optionForm, u"OptDigit"_s, {u"1"_s, u"2"_s, u"3"_s, u"4"_s}};
-    CheckBox ChkAnimOption{optionForm, u"ChkAnimOption"_s};
-    TextBox txtHeight{optionForm, u"txtHeight"_s};
-    TextBox txtWidth{optionForm, u"txtWidth"_s};
-    LiveOptions options{OptSound, ChkAutoOption, OptDigit, ChkAnimOption, txtHeight, txtWidth};
-    ClickSound clickSound{machine.sound, machine.files, machine.program, OptSound};
-    FolderList DirList{form, u"DirList"_s, machine.files};
-    NumberedPage page{form, DirList, options, clickSound, machine.files, machine.events, settings};
+    ToolBench bench{machine.machine};
+    OptionForm &options = bench.options;
+    FolderList DirList{bench.form, u"DirList"_s, machine.files};
+    NumberedPage page{bench.context, DirList};
 };
 
 TEST_F(NumberedPageTest, ShowsItsTextsAndFirstValues)
 {
     Form fresh(u"fresh"_s);
-    const NumberedPage untouched(fresh, DirList, options, clickSound, machine.files, machine.events,
-                                 settings);
+    const NumberedPage untouched(bench.On(fresh), DirList);
     EXPECT_EQ(untouched.page.Name(), u"FrameXPMenu(2)"_s);
     EXPECT_EQ(untouched.txtFeltDir.Text(), u"Disk"_s);
     EXPECT_EQ(untouched.txtFeltDirSub.Text(), u"Sub Folder"_s);
@@ -203,17 +191,17 @@ TEST_F(NumberedPageTest, NumberZeroWithoutDigitsPrintsNothing)
 
 TEST_F(NumberedPageTest, ManualPaddingKnowsNoLimit)
 {
-    ChkAutoOption.SetChecked(true);
-    OptDigit.Select(0);
+    options.ChkAutoOption.SetChecked(true);
+    options.OptDigit.Select(0);
     Make(u"11998"_s, u"12000"_s);
     EXPECT_EQ(Work(), (QStringList{u"Disk11998\\"_s, u"Disk11999\\"_s, u"Disk12000\\"_s}));
 }
 
 TEST_F(NumberedPageTest, ManualPaddingTakesTheSelectedDigits)
 {
-    ChkAutoOption.SetChecked(true);
+    options.ChkAutoOption.SetChecked(true);
     for (int digit = 0; digit < 4; ++digit) {
-        OptDigit.Select(digit);
+        options.OptDigit.Select(digit);
         Make(u"7"_s, u"7"_s);
     }
     EXPECT_EQ(Work(), (QStringList{u"Disk0007\\"_s, u"Disk007\\"_s, u"Disk07\\"_s, u"Disk7\\"_s}));
@@ -221,8 +209,8 @@ TEST_F(NumberedPageTest, ManualPaddingTakesTheSelectedDigits)
 
 TEST_F(NumberedPageTest, AGreyedManualBoxMeansAutomaticPadding)
 {
-    ChkAutoOption.SetValue(2);
-    OptDigit.Select(3);
+    options.ChkAutoOption.SetValue(2);
+    options.OptDigit.Select(3);
     Make(u"7"_s, u"7"_s);
     EXPECT_EQ(Work(), QStringList{u"Disk7\\"_s});
 }
@@ -231,7 +219,7 @@ TEST_F(NumberedPageTest, WhatIsNoNumberTouchesNoFolder)
 {
     for (const QString &text : {u"abc"_s, u""_s, u"1 to 2"_s, u"99999999999"_s}) {
         for (const bool manual : {false, true}) {
-            ChkAutoOption.SetChecked(manual);
+            options.ChkAutoOption.SetChecked(manual);
             Make(u"1"_s, text);
             Make(text, u"9"_s);
             Delete(u"1"_s, text);
@@ -409,7 +397,7 @@ TEST_F(NumberedPageTest, TheStateComesBack)
     EXPECT_FALSE(steps.Pending());
 
     Form nextForm(u"next"_s);
-    NumberedPage next(nextForm, DirList, options, clickSound, machine.files, machine.events, settings);
+    NumberedPage next(bench.On(nextForm), DirList);
     next.Restore(steps);
     EXPECT_TRUE(next.btnGBDelete.IsVisible());
     EXPECT_FALSE(next.btnGBMake.IsVisible());

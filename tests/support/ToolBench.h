@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "forms/FormContext.h"
+#include "forms/OptionForm.h"
+#include "language/Session.h"
+#include "settings/Settings.h"
+#include "tools/ClickSound.h"
+#include "tools/RunWatch.h"
+#include "tools/ToolContext.h"
+#include "tools/WorkArea.h"
+
+namespace tressel {
+
+/// What a tool is made from, for a test that needs no more of the program than one tool: a main window with
+/// nothing but its work area, the options as they are made, and a watch that hears nothing unless another
+/// is given.
+class ToolBench {
+public:
+    explicit ToolBench(const Machine &machine, RunWatch *heardBy = nullptr)
+        : settings(machine)
+        , clickSound(machine, options.OptSound)
+        , program{machine, settings, session, clickSound, heardBy ? *heardBy : silence}
+    {
+    }
+
+    /// The same with another main window.
+    ToolContext On(Form &window)
+    {
+        return {window, area, program.machine, settings, session, options.Live(), clickSound, program.watch};
+    }
+
+    Settings settings;
+    Session session;
+    OptionForm options;
+    ClickSound clickSound;
+    RunWatch silence;
+    FormContext program;
+    Form form{QStringLiteral("frmMain")};
+    WorkArea area{form};
+    ToolContext context = On(form);
+};
+
+} // namespace tressel
