@@ -46,21 +46,80 @@ unchecked() {
     close_one
 }
 
-check_one() {
-    local key=${1%%$'\t'*} source=${1#*$'\t'} said
-    # The compiler's flags stay as they are; clang may not know each of them.
-    if said=$(clang-tidy --quiet -p "$build" --extra-arg=-Wno-unknown-warning-option \
-        --warnings-as-errors='*' "$source" 2>&1); then
-        : >"$passed/$key"
-    else
+# What the compiler alone understands is cut from the commands: headers that it has precompiled. clang knows
+# neither them nor each of its flags, and reads the headers themselves.
+commands=$passed/commands
+mkdir -p "$commands"
+sed -E 's| -Winvalid-pch -include [^ ]*||; s| -fpch-preprocess||' "$build/compile_commands.json" \
+    >"$commands/compile_commands.json"
+
+# Looks at sources of one library as one, since most of the time goes into the headers that they share. A group that
+# doesn't pass is halved until the source stands alone that has something wrong with it; so are sources that only
+# can't be read together.
+check_group() {
+    local key source unit said outcome half
+    local -a group=("$@")
+    key=${group[0]%%$'\t'*}
+    source=${group[0]#*$'\t'}
+    if [[ ${#group[@]} -eq 1 ]]; then
+        if said=$(look_at "$commands" "$source"); then
+            : >"$passed/$key"
+            return 0
+        fi
         printf '%s\n' "$said" | grep -v ' warnings generated\.$'
         return 1
     fi
-}
-export -f check_one
-export build passed
 
-mapfile -t work < <(unchecked)
+    unit=$(mktemp -d "$passed/unit.XXXXXX")
+    printf '#include "%s"\n' "${group[@]#*$'\t'}" >"$unit/all.cpp"
+    python3 - "$commands/compile_commands.json" "$source" "$unit" <<'PYTHON'
+import json, sys
+commands, source, unit = sys.argv[1:]
+entry = next(entry for entry in json.load(open(commands)) if entry["file"] == source)
+entry["command"] = entry["command"].replace(source, unit + "/all.cpp")
+entry["file"] = unit + "/all.cpp"
+json.dump([entry], open(unit + "/compile_commands.json", "w"))
+PYTHON
+    said=$(look_at "$unit" "$unit/all.cpp")
+    outcome=$?
+    rm -r "$unit"
+    if [[ $outcome -eq 0 ]]; then
+        for key in "${group[@]%%$'\t'*}"; do : >"$passed/$key"; done
+        return 0
+    fi
+    half=$((${#group[@]} / 2))
+    outcome=0
+    check_group "${group[@]:0:half}" || outcome=1
+    check_group "${group[@]:half}" || outcome=1
+    return $outcome
+}
+
+look_at() {
+    clang-tidy --quiet -p "$1" --extra-arg=-Wno-unknown-warning-option --warnings-as-errors='*' "$2" 2>&1
+}
+
+# Puts lines "KEY<tab>SOURCE", quoted for the shell, onto one line for each group of sources of one library.
+groups() {
+    local line library last='' count=0 most=16
+    while IFS= read -r line; do
+        library=${line#*"$root/src/"}
+        library=${library%%/*}
+        if [[ $count -gt 0 && ($library != "$last" || $count -eq $most) ]]; then
+            echo
+            count=0
+        fi
+        printf '%q ' "$line"
+        last=$library
+        count=$((count + 1))
+    done
+    [[ $count -gt 0 ]] && echo
+}
+
+export -f check_group look_at
+export passed commands
+
+mapfile -t work < <(unchecked | sort -t $'\t' -k 2)
 echo "clang-tidy: ${#work[@]} files to look at"
 [[ ${#work[@]} -eq 0 ]] && exit 0
-printf '%s\0' "${work[@]}" | xargs -0 -P "$(nproc)" -I '{}' bash -c 'check_one "$1"' check '{}'
+printf '%s\n' "${work[@]}" | groups | tr '\n' '\0' |
+    xargs -0 -P "$(nproc)" -I '{}' bash -c 'check_group {}'
