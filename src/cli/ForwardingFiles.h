@@ -42,9 +42,9 @@ public:
     {
         return files.Open(path, purpose, sharing);
     }
-    void ReplaceContents(const QString &path, const QByteArray &bytes) override
+    std::unique_ptr<ReplacingFile> Replace(const QString &path, IfThere ifThere) override
     {
-        files.ReplaceContents(path, bytes);
+        return files.Replace(path, ifThere);
     }
     void SetReadOnly(const QString &path, bool readOnly) override { files.SetReadOnly(path, readOnly); }
     QList<Volume> Volumes() override { return files.Volumes(); }

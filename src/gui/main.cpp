@@ -13,6 +13,18 @@
 using namespace tressel;
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// The last thing before the end, when no window is left to tell it.
+void SaveSettings(FileHive &hive)
+{
+    const QString problem = hive.FlushAtEnd();
+    if (!problem.isEmpty())
+        qWarning("The settings of this run could not be saved. %s", qUtf8Printable(problem));
+}
+
+} // namespace
+
 int main(int count, char **arguments)
 {
     // The toolkit takes its own options out of the arguments; the rest is the program's command line.
@@ -25,7 +37,7 @@ int main(int count, char **arguments)
 
     const PosixSystemFacts facts;
     FileHive hive(FileHive::DefaultFolder(), facts);
-    PosixProgram program(count, arguments, [&hive] { hive.Flush(); });
+    PosixProgram program(count, arguments, [&hive] { SaveSettings(hive); });
     Desktop desktop(program, hive);
     const EndSignals endSignals([&desktop] { desktop.End(); });
     desktop.Start();

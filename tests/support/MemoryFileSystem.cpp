@@ -4,6 +4,7 @@
 #include "support/MemoryFileSystem.h"
 
 #include "support/MemoryOpenFile.h"
+#include "support/MemoryReplacingFile.h"
 
 #include <algorithm>
 #include <utility>
@@ -314,21 +315,16 @@ std::unique_ptr<OpenFile> MemoryFileSystem::Open(const QString &path, OpenFor pu
     });
 }
 
-void MemoryFileSystem::ReplaceContents(const QString &path, const QByteArray &bytes)
+std::unique_ptr<ReplacingFile> MemoryFileSystem::Replace(const QString &path, IfThere ifThere)
 {
-    Ask(Operation::ReplaceContents, path, QString::number(bytes.size()), [&] {
-        Place place = Find(path, Links::Follow);
+    return Ask(Operation::Replace, path, {}, [&]() -> std::unique_ptr<ReplacingFile> {
+        if (ifThere == IfThere::Refuse && Find(path, Links::Keep).node)
+            throw Failure(FailureNumber::FileAlreadyExists);
+        const Place place = Find(path, Links::Follow);
         if (place.node && (place.node->kind != EntryKind::File || place.node->readOnly))
             throw Failure(FailureNumber::PathFileAccessError);
-        // Old and new stand side by side for a moment.
-        if (bytes.size() > DriveFor(path).freeSpace)
-            throw Failure(FailureNumber::DiskFull);
-        Obey(Operation::ReplaceContents, place);
-        if (!place.node)
-            place.node = Add(place, EntryKind::File);
-        TakeRoom(*place.node, bytes.size() - place.node->bytes.size());
-        place.node->bytes = bytes;
-        place.node->modified = clock.Now();
+        Obey(Operation::Replace, place);
+        return std::make_unique<MemoryReplacingFile>(*this, path, ifThere);
     });
 }
 

@@ -63,7 +63,7 @@ public:
     void Rename(const QString &from, const QString &to) override;
     std::unique_ptr<OpenFile> Open(const QString &path, OpenFor purpose,
                                    Sharing sharing = Sharing::Shared) override;
-    void ReplaceContents(const QString &path, const QByteArray &bytes) override;
+    std::unique_ptr<ReplacingFile> Replace(const QString &path, IfThere ifThere) override;
     void SetReadOnly(const QString &path, bool readOnly) override;
     QList<Volume> Volumes() override;
     QString VolumeLabel(const QString &path) override;
@@ -71,6 +71,7 @@ public:
 
 private:
     friend class MemoryOpenFile;
+    friend class MemoryReplacingFile;
     using Node = std::shared_ptr<MemoryNode>;
 
     /// Where a path leads: the folder that it is in, its last name, and what is there.

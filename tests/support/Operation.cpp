@@ -36,8 +36,10 @@ QString OperationName(Operation operation)
         return u"FlushFile"_s;
     case Operation::CloseFile:
         return u"CloseFile"_s;
-    case Operation::ReplaceContents:
-        return u"ReplaceContents"_s;
+    case Operation::Replace:
+        return u"Replace"_s;
+    case Operation::CommitFile:
+        return u"CommitFile"_s;
     case Operation::SetReadOnly:
         return u"SetReadOnly"_s;
     case Operation::VolumeLabel:

@@ -22,7 +22,8 @@ enum class Operation {
     WriteBytes, ///< the detail is how many
     FlushFile,
     CloseFile,
-    ReplaceContents, ///< the detail is how many bytes
+    Replace, ///< the start of it; what is written counts as WriteBytes
+    CommitFile, ///< the detail is how many bytes
     SetReadOnly,
     VolumeLabel,
     FreeSpace,

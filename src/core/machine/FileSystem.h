@@ -81,6 +81,22 @@ public:
     virtual void Close() = 0;
 };
 
+/// New contents on their way into the place of a file's. They are gathered beside the old file; until Commit
+/// ends without a failure the old contents stand whole, and without a Commit nothing is left of the new ones.
+class ReplacingFile {
+public:
+    virtual ~ReplacingFile() = default;
+
+    /// Adds to the new contents. Fails with 61 on a full disc.
+    virtual void Write(const QByteArray &bytes) = 0;
+    /// Has everything written down to the medium and puts it in place; called once. Fails with 58 if nothing
+    /// may be replaced and something has come meanwhile.
+    virtual void Commit() = 0;
+};
+
+/// What becomes of something that is there already.
+enum class IfThere { Replace, Refuse };
+
 /// A folder open for reading, for walks that must not hold a whole listing in memory.
 class FolderReader {
 public:
@@ -140,9 +156,10 @@ public:
     virtual std::unique_ptr<OpenFile> Open(const QString &path, OpenFor purpose,
                                            Sharing sharing = Sharing::Shared) = 0;
 
-    /// Puts other contents in place of a file's, or makes the file: after a failure the old contents
-    /// stand whole. A link is followed, and the file keeps its rights.
-    virtual void ReplaceContents(const QString &path, const QByteArray &bytes) = 0;
+    /// Starts to put other contents in place of a file's, or to make the file. A link at the end is followed,
+    /// as far as the system lets it be. The file keeps its rights, and a file of several names keeps them
+    /// all. Fails with 75 for what is no file or can't be written; with Refuse 58 if anything is there.
+    virtual std::unique_ptr<ReplacingFile> Replace(const QString &path, IfThere ifThere) = 0;
 
     /// Takes the write protection off a file, or puts it on. A link has none of its own and stays as it is.
     virtual void SetReadOnly(const QString &path, bool readOnly) = 0;

@@ -3,22 +3,12 @@
 
 #include "settings/FileHive.h"
 
+#include "base/Failure.h"
+#include "machine/NameText.h"
 #include "machine/SystemFacts.h"
+#include "machine/posix/UserFolders.h"
 #include "settings/HiveText.h"
 #include "settings/KeyPaths.h"
-
-#include <QDeadlineTimer>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
-#include <QStandardPaths>
-#include <QThread>
-
-#include <cerrno>
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
 
 namespace tressel {
 
@@ -26,108 +16,36 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A store of all settings has some ten thousand bytes.
-constexpr qint64 LargestFile = 16 * 1024 * 1024;
-constexpr int LockMilliseconds = 300;
-constexpr int LockPauseMilliseconds = 5;
-constexpr int MostSetAside = 100;
+constexpr int lockMilliseconds = 300;
+constexpr int lockMillisecondsAtEnd = 3000;
 
 bool IsFactsKey(const QString &key)
 {
     return SystemFactsKeyPath.compare(key, Qt::CaseInsensitive) == 0;
 }
 
-std::optional<QByteArray> BytesOf(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QByteArray bytes = file.readAll();
-    return file.error() == QFile::NoError ? std::optional(std::move(bytes)) : std::nullopt;
-}
-
-/// Makes a file that wasn't there, down to the medium; leaves none behind if that fails.
-bool MakeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-        return false;
-    if (file.write(bytes) == bytes.size() && file.flush() && ::fsync(file.handle()) == 0)
-        return true;
-    file.remove();
-    return false;
-}
-
-/// The lock of a folder, for as long as it lives. The system takes it off however a process ends; a lock
-/// file whose maker was killed before it wrote its number into it would hold up all others.
-class FolderLock {
-public:
-    explicit FolderLock(const QString &folder)
-        : handle(::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
-    {
-    }
-    FolderLock(const FolderLock &) = delete;
-    FolderLock &operator=(const FolderLock &) = delete;
-    ~FolderLock()
-    {
-        if (handle >= 0)
-            ::close(handle);
-    }
-
-    /// False if another has the lock and keeps it. A file system that knows no such locks is used
-    /// without: there two instances that write in the same moment can lose a value.
-    bool Take() const
-    {
-        const QDeadlineTimer deadline(LockMilliseconds);
-        while (::flock(handle, LOCK_EX | LOCK_NB) != 0) {
-            if (errno != EWOULDBLOCK && errno != EINTR)
-                return handle >= 0;
-            if (deadline.hasExpired())
-                return false;
-            QThread::msleep(LockPauseMilliseconds);
-        }
-        return true;
-    }
-
-private:
-    int handle;
-};
-
 } // namespace
 
 FileHive::FileHive(QString settingsFolder, const SystemFacts &systemFacts)
-    : folder(std::move(settingsFolder))
+    : file(std::move(settingsFolder))
     , facts(systemFacts)
 {
 }
 
 QString FileHive::DefaultFolder()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/tressel"_s;
-}
-
-QString FileHive::FilePath() const
-{
-    return folder + u"/settings"_s;
-}
-
-FileHive::FileContent FileHive::ReadFile() const
-{
-    const QFileInfo info(FilePath());
-    if (!info.exists())
-        return {};
-    // Only a file is opened: a pipe would make us wait for its other end.
-    const auto bytes = info.isFile() && info.size() <= LargestFile ? BytesOf(FilePath()) : std::nullopt;
-    if (!bytes)
-        return {FileState::Unreadable};
-    HiveReading reading = HiveFromText(*bytes);
-    return {reading.isDamaged ? FileState::Damaged : FileState::Sound, *bytes, std::move(reading.tree)};
+    const QByteArray config = UserConfigFolder();
+    return config.isEmpty() ? QString() : *TextFromUtf8(config, NameBytes::Raw) + u"/tressel"_s;
 }
 
 HiveTree &FileHive::Held()
 {
-    if (!held)
-        held = ReadFile().tree;
+    const std::optional<HiveFile::Stamp> stamp = file.Now();
+    if (!held || stamp != stampOfHeld) {
+        held = HiveFromText(file.Read().bytes).tree;
+        held->Take(changes);
+        stampOfHeld = stamp;
+    }
     return *held;
 }
 
@@ -154,45 +72,57 @@ bool FileHive::Write(Root root, const QString &key, const QString &name, const H
 
 void FileHive::Flush()
 {
-    if (changes.IsEmpty() || !QDir().mkpath(folder))
-        return;
-    const FolderLock lock(folder);
-    if (!lock.Take())
-        return;
-    FileContent content = ReadFile();
-    if (content.state == FileState::Unreadable)
-        return;
-    HiveTree wanted = content.tree;
-    wanted.Take(changes);
-    if (content.state == FileState::Damaged && !SetAside(content.bytes))
-        return;
-    const bool isWritten = content.state == FileState::Sound && wanted == content.tree;
-    if (!isWritten && !ReplaceFile(wanted))
-        return;
-    held = std::move(wanted);
-    changes.Clear();
+    lockWasHeld = !FlushWithin(lockWasHeld ? 0 : lockMilliseconds);
 }
 
-bool FileHive::ReplaceFile(const HiveTree &wanted) const
+QString FileHive::FlushAtEnd()
 {
-    const QByteArray bytes = HiveToText(wanted);
-    QSaveFile file(FilePath());
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    FlushWithin(lockMillisecondsAtEnd);
+    return changes.IsEmpty() ? QString() : problem;
 }
 
-bool FileHive::SetAside(const QByteArray &bytes) const
+/// False if another has the lock and keeps it.
+bool FileHive::FlushWithin(int milliseconds)
 {
-    for (int number = 1; number <= MostSetAside; ++number) {
-        const QString path = FilePath() + u".damaged"_s + (number > 1 ? u"-%1"_s.arg(number) : QString());
-        if (MakeFile(path, bytes))
-            return true;
-        if (!QFileInfo::exists(path))
-            return false;
-        // A flush that set the file aside and then failed has left it here.
-        if (QFileInfo(path).isFile() && BytesOf(path) == bytes)
-            return true;
+    problem.clear();
+    if (changes.IsEmpty())
+        return true;
+    if (file.Folder().isEmpty()) {
+        problem = u"There is no home folder to keep the settings in."_s;
+        return true;
     }
-    return false;
+    try {
+        const auto lock = file.Lock(milliseconds);
+        if (lock)
+            Merge();
+        else
+            problem = u"Another program holds the settings folder "_s + file.Folder() + u'.';
+        return lock.has_value();
+    } catch (const Failure &failure) {
+        problem = failure.description + u": "_s + file.Path();
+        return true;
+    }
+}
+
+/// Brings what was written here into the file. The lock must be held.
+void FileHive::Merge()
+{
+    const HiveFile::Content content = file.Read();
+    if (content.state == HiveFile::State::TooLarge)
+        throw Failure(FailureNumber::DiskFull,
+                      u"The settings file is larger than 16 MiB and stays as it is"_s);
+    if (content.state == HiveFile::State::Unreadable)
+        throw Failure(FailureNumber::PathFileAccessError);
+    HiveReading reading = HiveFromText(content.bytes);
+    HiveTree wanted = reading.tree;
+    wanted.Take(changes);
+    if (reading.isDamaged)
+        file.SetAside(content.bytes);
+    if (reading.isDamaged || content.state == HiveFile::State::Absent || wanted != reading.tree)
+        file.Replace(HiveToText(wanted));
+    held = std::move(wanted);
+    stampOfHeld = file.Now();
+    changes.Clear();
 }
 
 } // namespace tressel

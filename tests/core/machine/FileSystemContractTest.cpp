@@ -4,6 +4,7 @@
 // What every file system does, the one in memory as well as the real one.
 
 #include "machine/Paths.h"
+#include "machine/WholeFile.h"
 #include "machine/posix/PosixFileSystem.h"
 #include "support/Failures.h"
 #include "support/MemoryMachine.h"
@@ -410,21 +411,63 @@ ON_EACH_DISC(ReplacesContentsThroughALinkOrMakesTheFile)
     this->Put(u"a/f"_s, "old");
     this->disc.Link(this->At(u"link"_s), this->At(u"a/f"_s));
     this->disc.Link(this->At(u"lost"_s), this->At(u"a/g"_s));
-    this->files.ReplaceContents(this->At(u"link"_s), "new");
-    this->files.ReplaceContents(this->At(u"lost"_s), "found");
-    this->files.ReplaceContents(this->At(u"h"_s), "made");
+    ReplaceContents(this->files, this->At(u"link"_s), "new");
+    ReplaceContents(this->files, this->At(u"lost"_s), "found");
+    ReplaceContents(this->files, this->At(u"h"_s), "made");
     EXPECT_EQ(this->files.Status(this->At(u"link"_s), Links::Keep)->kind, EntryKind::Link);
     EXPECT_EQ(this->Bytes(u"a/f"_s), "new");
     EXPECT_EQ(this->Bytes(u"a/g"_s), "found");
     EXPECT_EQ(this->Bytes(u"h"_s), "made");
     EXPECT_EQ(this->Names(u"a"_s), (QStringList{u"f"_s, u"g"_s}));
-    EXPECT_EQ(NumberThrownBy([&] { this->files.ReplaceContents(this->At(u"a"_s), "x"); }),
+    EXPECT_EQ(NumberThrownBy([&] { ReplaceContents(this->files, this->At(u"a"_s), "x"); }),
               FailureNumber::PathFileAccessError);
-    EXPECT_EQ(NumberThrownBy([&] { this->files.ReplaceContents(this->At(u"none/f"_s), "x"); }),
+    EXPECT_EQ(NumberThrownBy([&] { ReplaceContents(this->files, this->At(u"none/f"_s), "x"); }),
               FailureNumber::PathNotFound);
-    EXPECT_EQ(NumberThrownBy([&] { this->files.ReplaceContents(QString(), "x"); }),
+    EXPECT_EQ(NumberThrownBy([&] { ReplaceContents(this->files, QString(), "x"); }),
               FailureNumber::BadFileName);
     EXPECT_EQ(this->Names(QString()), (QStringList{u"a"_s, u"h"_s, u"link"_s, u"lost"_s}));
+}
+
+ON_EACH_DISC(NewContentsComeInPiecesAndAllAtOnce)
+{
+    this->Put(u"f"_s, "a long old text");
+    const auto file = this->files.Replace(this->At(u"f"_s), IfThere::Replace);
+    file->Write("new ");
+    file->Write("text");
+    EXPECT_EQ(this->Bytes(u"f"_s), "a long old text");
+    file->Commit();
+    EXPECT_EQ(this->Bytes(u"f"_s), "new text");
+    EXPECT_EQ(this->Names(QString()), QStringList{u"f"_s});
+}
+
+ON_EACH_DISC(NewContentsThatAreGivenUpLeaveNothing)
+{
+    this->Put(u"f"_s, "old");
+    this->disc.Link(this->At(u"lost"_s), this->At(u"target"_s));
+    for (const QString &name : {u"f"_s, u"new"_s, u"lost"_s})
+        this->files.Replace(this->At(name), IfThere::Replace)->Write("new");
+    EXPECT_EQ(this->Bytes(u"f"_s), "old");
+    EXPECT_EQ(this->Names(QString()), (QStringList{u"f"_s, u"lost"_s}));
+}
+
+ON_EACH_DISC(NewContentsRefuseWhatIsThereIfToldSo)
+{
+    this->Put(u"f"_s, "old");
+    this->MakeFolder(u"a"_s);
+    this->disc.Link(this->At(u"lost"_s), this->At(u"target"_s));
+    for (const QString &name : {u"f"_s, u"a"_s, u"lost"_s}) {
+        EXPECT_EQ(NumberThrownBy([&] { this->files.Replace(this->At(name), IfThere::Refuse); }),
+                  FailureNumber::FileAlreadyExists);
+    }
+    const auto late = this->files.Replace(this->At(u"g"_s), IfThere::Refuse);
+    late->Write("late");
+    this->Put(u"g"_s, "early");
+    EXPECT_EQ(NumberThrownBy([&] { late->Commit(); }), FailureNumber::FileAlreadyExists);
+    EXPECT_EQ(this->Bytes(u"g"_s), "early");
+    const auto made = this->files.Replace(this->At(u"h"_s), IfThere::Refuse);
+    made->Write("made");
+    made->Commit();
+    EXPECT_EQ(this->Bytes(u"h"_s), "made");
 }
 
 ON_EACH_DISC(WriteProtectionIsPutOnAndTakenOff)

@@ -268,15 +268,4 @@ TEST_F(FileHiveTest, TheMachinesRootIsTheSystemsFacts)
     EXPECT_FALSE(QFileInfo::exists(folder));
 }
 
-TEST_F(FileHiveTest, TheDefaultFolderIsInTheUsersConfiguration)
-{
-    const QByteArray before = qgetenv("XDG_CONFIG_HOME");
-    qputenv("XDG_CONFIG_HOME", "/some/config");
-    EXPECT_EQ(FileHive::DefaultFolder(), u"/some/config/tressel"_s);
-    if (before.isNull())
-        qunsetenv("XDG_CONFIG_HOME");
-    else
-        qputenv("XDG_CONFIG_HOME", before);
-}
-
 } // namespace

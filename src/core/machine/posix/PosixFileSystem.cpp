@@ -8,7 +8,7 @@
 #include "machine/posix/PosixFolderReader.h"
 #include "machine/posix/PosixOpenFile.h"
 #include "machine/posix/PosixRename.h"
-#include "machine/posix/PosixReplace.h"
+#include "machine/posix/PosixReplacingFile.h"
 #include "machine/posix/SystemError.h"
 
 #include <algorithm>
@@ -224,9 +224,9 @@ std::unique_ptr<OpenFile> PosixFileSystem::Open(const QString &path, OpenFor pur
     return std::make_unique<PosixOpenFile>(std::move(file));
 }
 
-void PosixFileSystem::ReplaceContents(const QString &path, const QByteArray &bytes)
+std::unique_ptr<ReplacingFile> PosixFileSystem::Replace(const QString &path, IfThere ifThere)
 {
-    ReplaceContentsAtOnce(path, bytes);
+    return std::make_unique<PosixReplacingFile>(NativePath(path), ifThere);
 }
 
 void PosixFileSystem::SetReadOnly(const QString &path, bool readOnly)

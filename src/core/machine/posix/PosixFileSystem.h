@@ -22,7 +22,7 @@ public:
     void Rename(const QString &from, const QString &to) override;
     std::unique_ptr<OpenFile> Open(const QString &path, OpenFor purpose,
                                    Sharing sharing = Sharing::Shared) override;
-    void ReplaceContents(const QString &path, const QByteArray &bytes) override;
+    std::unique_ptr<ReplacingFile> Replace(const QString &path, IfThere ifThere) override;
     void SetReadOnly(const QString &path, bool readOnly) override;
     QList<Volume> Volumes() override { return volumes.All(); }
     QString VolumeLabel(const QString &path) override;

@@ -3,6 +3,7 @@
 
 #include "machine/posix/PosixOpenFile.h"
 
+#include "machine/posix/Retried.h"
 #include "machine/posix/SystemError.h"
 
 #include <algorithm>
@@ -49,10 +50,8 @@ QByteArray PosixOpenFile::Read(qint64 maximum)
     QByteArray bytes = Room(RoomFor(maximum));
     qsizetype got = 0;
     while (got < bytes.size()) {
-        const ssize_t piece =
-            read(file.Number(), bytes.data() + got, static_cast<size_t>(bytes.size() - got));
-        if (piece < 0 && errno == EINTR)
-            continue;
+        const ssize_t piece = Retried(
+            [&] { return read(file.Number(), bytes.data() + got, static_cast<size_t>(bytes.size() - got)); });
         if (piece < 0)
             ThrowError();
         if (piece == 0)
@@ -67,10 +66,9 @@ void PosixOpenFile::Write(const QByteArray &bytes)
 {
     qsizetype put = 0;
     do {
-        const ssize_t piece =
-            write(file.Number(), bytes.constData() + put, static_cast<size_t>(bytes.size() - put));
-        if (piece < 0 && errno == EINTR)
-            continue;
+        const ssize_t piece = Retried([&] {
+            return write(file.Number(), bytes.constData() + put, static_cast<size_t>(bytes.size() - put));
+        });
         if (piece < 0)
             ThrowError();
         put += piece;
@@ -99,10 +97,16 @@ qint64 PosixOpenFile::Length() const
     return status.st_size;
 }
 
+void PosixOpenFile::CutTo(qint64 length)
+{
+    if (Retried([&] { return ftruncate(file.Number(), length); }) != 0)
+        ThrowError();
+}
+
 void PosixOpenFile::Flush()
 {
     // A pipe or device has nothing to write down.
-    if (fsync(file.Number()) != 0 && errno != EINVAL && errno != EROFS)
+    if (Retried([&] { return fsync(file.Number()); }) != 0 && errno != EINVAL && errno != EROFS)
         ThrowError();
 }
 

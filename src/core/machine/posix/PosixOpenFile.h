@@ -24,6 +24,11 @@ public:
     void Flush() override;
     void Close() override;
 
+    /// What the system knows it by, -1 once it is closed.
+    int Number() const { return file.Number(); }
+    /// Gives it this length. Fails with 61 on a full disc.
+    void CutTo(qint64 length);
+
 private:
     /// How many bytes to make room for, to read at most so many.
     qint64 RoomFor(qint64 maximum) const;

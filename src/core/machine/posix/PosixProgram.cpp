@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <array>
 #include <climits>
-#include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
 
@@ -50,14 +49,6 @@ QByteArray ProgramFolder(const QByteArray &executable)
     return HoldsProgramFiles(folder) ? folder : FolderOfPath(folder) + "/share/tressel";
 }
 
-/// Makes a folder and those above it. What can't be made shows when something is written there.
-void MakeWithParents(const QByteArray &folder)
-{
-    for (qsizetype end = folder.indexOf('/', 1); end >= 0; end = folder.indexOf('/', end + 1))
-        mkdir(folder.left(end).constData(), S_IRWXU);
-    mkdir(folder.constData(), S_IRWXU);
-}
-
 } // namespace
 
 PosixProgram::PosixProgram(int count, char **arguments, std::function<void()> beforeTheEnd)
@@ -86,7 +77,7 @@ QString PosixProgram::WritableFolder() const
     if (access(folder.constData(), W_OK | X_OK) == 0)
         return Folder();
     const QByteArray own = UserDataFolder() + "/tressel";
-    MakeWithParents(own);
+    MakeUserFolder(own);
     return TextOf(own);
 }
 

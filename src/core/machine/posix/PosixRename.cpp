@@ -14,6 +14,7 @@
 #include <fcntl.h>
 #include <optional>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace tressel {
 
@@ -54,30 +55,79 @@ bool IsOtherSpelling(const NativePath &from, const NativePath &to)
     throw Failure(NumberOfError(error));
 }
 
-void RenameEvenOver(const NativePath &from, const NativePath &to)
+EntryPlace PlaceOf(const NativePath &path)
 {
-    if (renameat(from.Folder(), from.Rest(), to.Folder(), to.Rest()) != 0)
-        ThrowRenameError(errno, from);
+    return {path.Folder(), path.Rest()};
+}
+
+/// For errors by which the system says that it can't refuse to overwrite, or knows no second names.
+bool MeansUnknownThere(int error)
+{
+    return error == ENOSYS || error == EINVAL || error == EOPNOTSUPP;
+}
+
+bool IsThere(const EntryPlace &place)
+{
+    struct stat status = {};
+    return fstatat(place.folder, place.name, &status, AT_SYMLINK_NOFOLLOW) == 0;
+}
+
+int LinkThenUnlink(const EntryPlace &from, const EntryPlace &to)
+{
+    if (linkat(from.folder, from.name, to.folder, to.name, 0) != 0)
+        return errno;
+    if (unlinkat(from.folder, from.name, 0) == 0)
+        return 0;
+    const int error = errno;
+    unlinkat(to.folder, to.name, 0);
+    return error;
+}
+
+int LookThenRename(const EntryPlace &from, const EntryPlace &to)
+{
+    return IsThere(from) && IsThere(to) ? EEXIST : RenameOver(from, to);
+}
+
+int RenameToNewBySmallerSteps(const EntryPlace &from, const EntryPlace &to)
+{
+    const int error = LinkThenUnlink(from, to);
+    // A folder has no second name, and some file systems know none at all.
+    return MeansUnknownThere(error) || error == EPERM || error == EMLINK ? LookThenRename(from, to) : error;
 }
 
 } // namespace
 
 void RenameWithoutOverwriting(const NativePath &from, const NativePath &to)
 {
-    if (renameat2(from.Folder(), from.Rest(), to.Folder(), to.Rest(), RENAME_NOREPLACE) == 0)
+    const auto [fromFolder, fromName] = PlaceOf(from);
+    const auto [toFolder, toName] = PlaceOf(to);
+    if (renameat2(fromFolder, fromName, toFolder, toName, RENAME_NOREPLACE) == 0)
         return;
     const int error = errno;
-    if (error == ENOSYS || error == EINVAL || (error == EEXIST && IsOtherSpelling(from, to)))
-        LookThenRename(from, to);
+    if (MeansUnknownThere(error) || (error == EEXIST && IsOtherSpelling(from, to)))
+        RenameBySmallerSteps(from, to);
     else
         ThrowRenameError(error, from);
 }
 
-void LookThenRename(const NativePath &from, const NativePath &to)
+void RenameBySmallerSteps(const NativePath &from, const NativePath &to)
 {
-    if (StatusOf(from) && StatusOf(to) && !IsOtherSpelling(from, to))
-        throw Failure(FailureNumber::FileAlreadyExists);
-    RenameEvenOver(from, to);
+    const int error = IsOtherSpelling(from, to) ? RenameOver(PlaceOf(from), PlaceOf(to))
+                                                : RenameToNewBySmallerSteps(PlaceOf(from), PlaceOf(to));
+    if (error != 0)
+        ThrowRenameError(error, from);
+}
+
+int RenameOver(const EntryPlace &from, const EntryPlace &to)
+{
+    return renameat(from.folder, from.name, to.folder, to.name) == 0 ? 0 : errno;
+}
+
+int RenameToNew(const EntryPlace &from, const EntryPlace &to)
+{
+    if (renameat2(from.folder, from.name, to.folder, to.name, RENAME_NOREPLACE) == 0)
+        return 0;
+    return MeansUnknownThere(errno) ? RenameToNewBySmallerSteps(from, to) : errno;
 }
 
 } // namespace tressel

@@ -10,6 +10,7 @@
 #include "machine/Dialogs.h"
 #include "machine/Events.h"
 #include "machine/TextFile.h"
+#include "machine/WholeFile.h"
 #include "settings/Settings.h"
 #include "tools/WorkArea.h"
 #include "tools/folders/FolderTree.h"
@@ -88,7 +89,7 @@ void FolderListFile::SaveList()
         for (const QString &entry : area.LstItem.Items())
             text += entry + u"\r\n"_s;
         try {
-            files.ReplaceContents(session.ListFile, EncodeText(text));
+            ReplaceContents(files, session.ListFile, EncodeText(text));
         } catch (const Failure &failure) {
             const bool passedOver = failure.number == FailureNumber::FileNotFound
                 || failure.number == FailureNumber::PathNotFound;

@@ -240,13 +240,16 @@ TEST_F(TextList, FullDiscLeavesTheOldFileWhole)
 {
     Start();
     Load("old\n");
-    machine.files.FailAt(Operation::ReplaceContents, listPath, 1, FailureNumber::DiskFull);
-    List({u"new"_s});
+    // Room for some of the new list, after the old one.
+    machine.files.AddDrive(u'C', {}, 6);
+    List({u"new"_s, u"and longer"_s});
     const QString caption = Form().Caption();
     Form().listFile.SaveList();
     EXPECT_EQ(machine.files.Bytes(listPath), "old\n");
     EXPECT_EQ(Form().Caption(), caption);
-    EXPECT_EQ(Entries(), (QStringList{u"old"_s, u"new"_s}));
+    EXPECT_EQ(Entries(), (QStringList{u"old"_s, u"new"_s, u"and longer"_s}));
+    EXPECT_EQ(machine.journal.About(u"CommitFile"_s), QStringList());
+    EXPECT_EQ(machine.journal.Count(u"WriteBytes"_s), 1);
 }
 
 TEST_F(TextList, SaveIntoAMissingFolderIsSilent)
