@@ -3,6 +3,8 @@
 
 #include "base/Pictures.h"
 
+#include <QLocale>
+
 #include <cmath>
 
 namespace tressel {
@@ -52,6 +54,12 @@ QString FormatPicture(double number, const QString &picture)
     if (dot >= 0)
         text += u'.' + part;
     return number < 0 && rounded != 0 ? u'-' + text : text;
+}
+
+QString FormatPercent(double fraction)
+{
+    const QLocale locale;
+    return locale.toString(fraction * 100, 'f', 2) + locale.percent();
 }
 
 } // namespace tressel

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "tools/rename/RenameFolder.h"
+
+#include "machine/FileSystem.h"
+#include "machine/Paths.h"
+
+namespace tressel {
+
+RenameFolder::RenameFolder(FileSystem &fileSystem, const QString &folder)
+    : files(fileSystem)
+    , path(folder)
+{
+    for (const FolderEntry &entry : files.List(path)) {
+        const bool isFolder = entry.kind == EntryKind::Folder
+            || (entry.kind == EntryKind::Link && FolderExists(files, PathOf(entry.name)));
+        (isFolder ? folders : others) += entry.name;
+    }
+}
+
+void RenameFolder::Rename(const QString &name, const QString &newName)
+{
+    files.Rename(PathOf(name), PathOf(newName));
+}
+
+bool RenameFolder::HasFile(const QString &name)
+{
+    const QString place = PathOf(name);
+    return files.Status(place, Links::Keep) && !FolderExists(files, place);
+}
+
+QString RenameFolder::PathOf(const QString &name) const
+{
+    return JoinPath(files, path, name);
+}
+
+} // namespace tressel

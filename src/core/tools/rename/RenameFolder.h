@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace tressel {
+
+class FileSystem;
+
+/// A folder whose direct children are renamed. What it holds is looked at once, when this is made; what
+/// comes, goes or gets other names afterwards isn't noted.
+class RenameFolder {
+public:
+    /// Fails as FileSystem::List does.
+    RenameFolder(FileSystem &files, const QString &path);
+
+    /// Names of the folders in it, and of the links that lead to folders.
+    const QStringList &Folders() const { return folders; }
+    /// Names of all else.
+    const QStringList &Files() const { return others; }
+
+    /// Gives an entry another name. Never overwrites: fails with 58 if the name is taken, with 53 if the
+    /// entry has gone, with 52 for an empty name. A link is renamed itself.
+    void Rename(const QString &name, const QString &newName);
+    /// True if there is something of that name now that isn't a folder, nor a link to one.
+    bool HasFile(const QString &name);
+    /// The whole path of an entry.
+    QString PathOf(const QString &name) const;
+
+private:
+    FileSystem &files;
+    QString path;
+    QStringList folders;
+    QStringList others;
+};
+
+} // namespace tressel
