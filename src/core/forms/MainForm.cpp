@@ -155,6 +155,7 @@ void MainForm::TieToolbar()
 void MainForm::TiePathRow()
 {
     area.chkExtension.Click.Handle([this] { chkExtension_Click(); });
+    listing.SaveRenameSettings.Handle([this] { rename.SaveRenameSettings(); });
     listing.ResetEmptyFolderPage.Handle([this] { emptyFolders.ResetFoundList(); });
     area.txtStrtPath.Drop.Handle([this](const QStringList &paths) {
         if (!paths.isEmpty())

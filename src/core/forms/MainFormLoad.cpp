@@ -29,8 +29,8 @@ void MainForm::LoadForm()
     steps.Do([&] { area.chkExtension.SetValue(settings.ReadInt32(keys::FileExt)); });
     steps.Do([&] { area.chkButtonBar.SetValue(settings.ReadInt32(keys::ButtonBar)); });
     steps.Do([&] { rename.txtCurrentPath.SetText(settings.ReadText(keys::LastPath)); });
-    rename.ResetRenamePage(machine.program.Folder());
     steps.Do([&] { session.ListFile = settings.ReadText(keys::LastFile); });
+    rename.ResetRenamePage(steps);
     RestoreBrowsePage(steps);
     steps.Do([&] { textLists.OpenTXTPath = settings.ReadText(keys::OpenTXTPath); });
     steps.Do([&] { OpenDBPath = settings.ReadText(keys::OpenDBPath); });

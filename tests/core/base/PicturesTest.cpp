@@ -4,8 +4,7 @@
 #include "base/Pictures.h"
 
 #include "support/Text.h"
-
-#include <QLocale>
+#include "support/UserLocale.h"
 
 #include <gtest/gtest.h>
 
@@ -13,18 +12,6 @@ using namespace tressel;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The user's locale for as long as this lives.
-class UserLocale {
-public:
-    explicit UserLocale(const QLocale &locale) { QLocale::setDefault(locale); }
-    ~UserLocale() { QLocale::setDefault(before); }
-    UserLocale(const UserLocale &) = delete;
-    UserLocale &operator=(const UserLocale &) = delete;
-
-private:
-    QLocale before;
-};
 
 TEST(Pictures, PercentHasTwoDecimals)
 {

@@ -53,6 +53,10 @@ QStringList Numbered(const QString &name, int first, int last)
     return names;
 }
 
+/// What the rename page reads and writes: the text to put in twice.
+const QStringList renameKeys{u"TotalFileCount"_s, u"ReplaceFrom"_s, u"ReplaceTo"_s, u"ExtAll"_s,
+                             u"ExtFrom"_s,        u"ExtTo"_s,       u"ReplaceTo"_s};
+
 TEST_F(MainFormLoad, ReadsTheSettingsInItsOrder)
 {
     Start();
@@ -67,10 +71,11 @@ TEST_F(MainFormLoad, ReadsTheSettingsInItsOrder)
         + Below(u"Options"_s,
                 {u"MakeDel"_s, u"FromDir"_s, u"ToDir"_s, u"Folder"_s, u"SubFolder"_s, u"LastNumPath"_s})
         + place
+        + Below(u"Main"_s, {u"FilePath"_s, u"FileExt"_s, u"ButtonBar"_s, u"LastPath"_s, u"LastFile"_s})
+        + Below(u"Main"_s, renameKeys)
         + Below(u"Main"_s,
-                {u"FilePath"_s, u"FileExt"_s, u"ButtonBar"_s, u"LastPath"_s, u"LastFile"_s, u"LastDBPath"_s,
-                 u"OpenTXTPath"_s, u"OpenDBPath"_s, u"Separate"_s, u"RecentPath 0"_s, u"OnlyListFilename"_s,
-                 u"GenLastPath"_s, u"LastSavePath"_s})
+                {u"LastDBPath"_s, u"OpenTXTPath"_s, u"OpenDBPath"_s, u"Separate"_s, u"RecentPath 0"_s,
+                 u"OnlyListFilename"_s, u"GenLastPath"_s, u"LastSavePath"_s})
         + Below(u"Settings"_s,
                 {u"WindowLeft"_s, u"WindowTop"_s, u"SplitSize"_s, u"SplitCount"_s, u"SplitOption"_s,
                  u"DeleteParts"_s, u"OpenExplorer"_s, u"CopyToFloppy"_s})
@@ -92,49 +97,22 @@ TEST_F(MainFormLoad, WritesTheSettingsInItsOrder)
     machine.journal.Clear();
     Leave();
     QStringList written = Settings(u"WriteSetting"_s);
-    const QStringList order = {u"Settings\\WindowLeft"_s,
-                               u"Settings\\WindowTop"_s,
-                               u"Settings\\SplitSize"_s,
-                               u"Settings\\SplitCount"_s,
-                               u"Settings\\SplitOption"_s,
-                               u"Settings\\DeleteParts"_s,
-                               u"Settings\\OpenExplorer"_s,
-                               u"Settings\\CopyToFloppy"_s,
-                               u"Main\\MainLeft"_s,
-                               u"Main\\MainTop"_s,
-                               u"Main\\MainWidth"_s,
-                               u"Main\\MainHeight"_s,
-                               u"Main\\VisibleItems"_s,
-                               u"Main\\TabStrip"_s,
-                               u"Main\\Menu1"_s,
-                               u"Main\\Menu2"_s,
-                               u"Main\\Menu3"_s,
-                               u"Main\\Menu4"_s,
-                               u"Main\\Menu5"_s,
-                               u"Main\\Menu6"_s,
-                               u"Main\\Menu7"_s,
-                               u"Main\\OnlyListFilename"_s,
-                               u"Main\\GenLastPath"_s,
-                               u"Main\\LastSavePath"_s,
-                               u"Main\\SearchPath"_s,
-                               u"Main\\DatabaseFile"_s,
-                               u"Main\\SQLString"_s,
-                               u"Main\\Table"_s,
-                               u"Main\\FilePath"_s,
-                               u"Main\\FileExt"_s,
-                               u"Main\\ButtonBar"_s,
-                               u"Main\\Separate"_s,
-                               u"Main\\LastFile"_s,
-                               u"Main\\LastPath"_s,
-                               u"Main\\LastDBPath"_s,
-                               u"Main\\OpenTXTPath"_s,
-                               u"Main\\OpenDBPath"_s,
-                               u"Options\\MakeDel"_s,
-                               u"Options\\FromDir"_s,
-                               u"Options\\ToDir"_s,
-                               u"Options\\Folder"_s,
-                               u"Options\\SubFolder"_s,
-                               u"Options\\LastNumPath"_s};
+    const QStringList order =
+        Below(u"Settings"_s,
+              {u"WindowLeft"_s, u"WindowTop"_s, u"SplitSize"_s, u"SplitCount"_s, u"SplitOption"_s,
+               u"DeleteParts"_s, u"OpenExplorer"_s, u"CopyToFloppy"_s})
+        + Below(
+            u"Main"_s,
+            {u"MainLeft"_s, u"MainTop"_s, u"MainWidth"_s, u"MainHeight"_s, u"VisibleItems"_s, u"TabStrip"_s})
+        + Below(u"Main"_s, Numbered(u"Menu"_s, 1, 7))
+        + Below(u"Main"_s, {u"OnlyListFilename"_s, u"GenLastPath"_s, u"LastSavePath"_s})
+        + Below(u"Main"_s, renameKeys)
+        + Below(u"Main"_s,
+                {u"SearchPath"_s, u"DatabaseFile"_s, u"SQLString"_s, u"Table"_s, u"FilePath"_s, u"FileExt"_s,
+                 u"ButtonBar"_s, u"Separate"_s, u"LastFile"_s, u"LastPath"_s, u"LastDBPath"_s,
+                 u"OpenTXTPath"_s, u"OpenDBPath"_s})
+        + Below(u"Options"_s,
+                {u"MakeDel"_s, u"FromDir"_s, u"ToDir"_s, u"Folder"_s, u"SubFolder"_s, u"LastNumPath"_s});
     EXPECT_EQ(written, order);
     EXPECT_EQ(machine.journal.About(u"End"_s), QStringList{u"0"_s});
 }

@@ -208,7 +208,8 @@ void RenameFrame::RenameFromDetour(RenameFolder &folder, const QString &name, co
     const QString detour = newName + detourMark;
     underWay = folder.PathOf(detour);
     folder.Rename(detour, WithoutLast(detour, detourMark.size()));
-    context.watch.Did(name == newName ? Outcome::Kept : Outcome::Renamed, folder.PathOf(newName));
+    underWay = folder.PathOf(newName);
+    context.watch.Did(name == newName ? Outcome::Kept : Outcome::Renamed, underWay);
 }
 
 void RenameFrame::StayOnDetour(const RenameFolder &folder, const QString &newName)

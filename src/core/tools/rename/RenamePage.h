@@ -11,16 +11,25 @@
 #include "controls/ProgressBar.h"
 #include "controls/TextBox.h"
 #include "tools/ToolContext.h"
+#include "tools/rename/CaseRun.h"
+#include "tools/rename/ExtensionRun.h"
+#include "tools/rename/RenameFrame.h"
+#include "tools/rename/ReplaceRun.h"
 
 namespace tressel {
+
+struct KeyEntry;
 
 /// The page that renames what stands in a folder: by case, by extension, by replacing a piece of text.
 class RenamePage {
 public:
     explicit RenamePage(const ToolContext &context);
 
-    /// Puts the page at its start: the program's folder where there is no path, and an empty bar.
-    void ResetRenamePage(const QString &programFolder);
+    /// Puts the page at its start: what the settings hold, the program's folder where there is no path, and
+    /// an empty bar, of which the status line tells too.
+    void ResetRenamePage(Steps &steps);
+    /// Writes the running total and the texts of the page.
+    void SaveRenameSettings();
 
     /// Entries of optRename and optReplace.
     enum Kinds { Folders, Files, Both };
@@ -76,7 +85,20 @@ public:
 private:
     void SetToolTips();
     void SetFirstValues();
+    void TieButtons();
     void ShowExtensionFrame();
+    void txtCurrentPath_Drop(const QStringList &paths);
+    void btnGBBrowsePath_Click();
+    void btnGBCancel_Click();
+    void optReplacePreset_Click(int preset);
+    QString GetPresetValue(const KeyEntry &key) const;
+    void StorePreset();
+
+    ToolContext context;
+    RenameFrame frame;
+    CaseRun caseRun;
+    ExtensionRun extensionRun;
+    ReplaceRun replaceRun;
 };
 
 } // namespace tressel
