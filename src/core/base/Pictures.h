@@ -13,7 +13,8 @@ namespace tressel {
 /// half away from zero; "," between digits asks for a comma at every third one. "#" prints nothing for 0.
 QString FormatPicture(double number, const QString &picture);
 
-/// Prints a fraction as a percentage, as the user's locale writes numbers, with two decimals: 0.5 is "50.00%".
+/// Prints a fraction as a percentage, as the user's locale writes numbers, with two decimals: 0.5 is
+/// "50.00%".
 QString FormatPercent(double fraction);
 
 } // namespace tressel
