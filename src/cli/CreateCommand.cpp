@@ -6,7 +6,7 @@
 #include "Console.h"
 #include "ConsoleProgram.h"
 #include "CountingFiles.h"
-#include "language/Language.h"
+#include "language/FolderPaths.h"
 #include "machine/Paths.h"
 
 namespace tressel {

@@ -3,7 +3,7 @@
 
 #include "CountingFiles.h"
 
-#include "language/Language.h"
+#include "language/FolderPaths.h"
 #include "machine/posix/PosixFileSystem.h"
 #include "support/MemoryMachine.h"
 #include "support/TemporaryFolder.h"

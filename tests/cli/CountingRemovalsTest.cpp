@@ -3,7 +3,7 @@
 
 #include "CountingRemovals.h"
 
-#include "language/Language.h"
+#include "language/FolderPaths.h"
 #include "support/MemoryMachine.h"
 #include "support/Text.h"
 

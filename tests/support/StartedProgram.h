@@ -5,6 +5,7 @@
 
 #include "forms/Application.h"
 #include "support/MemoryMachine.h"
+#include "support/RunRecord.h"
 
 namespace tressel {
 
@@ -49,7 +50,8 @@ public:
     }
 
     MemoryMachine machine;
-    Application application{machine.machine};
+    RunRecord told; ///< by the runs
+    Application application{machine.machine, {}, &told};
 };
 
 } // namespace tressel

@@ -4,7 +4,7 @@
 #include "tools/ClickSound.h"
 
 #include "controls/OptionGroup.h"
-#include "language/Language.h"
+#include "language/Routines.h"
 #include "machine/Machine.h"
 #include "machine/Paths.h"
 #include "machine/Program.h"

@@ -6,11 +6,13 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "base/Version.h"
-#include "language/Language.h"
+#include "language/FolderPaths.h"
 #include "language/Session.h"
 #include "machine/Dialogs.h"
 #include "machine/Events.h"
 #include "machine/Paths.h"
+#include "tools/RunWatch.h"
+#include "tools/WatchedPaths.h"
 #include "tools/WorkArea.h"
 
 namespace tressel {
@@ -24,6 +26,7 @@ FolderCreation::FolderCreation(const ToolContext &context, FolderList &folderLis
     , events(context.machine.events)
     , dialogs(context.machine.dialogs)
     , session(context.session)
+    , watch(context.watch)
 {
 }
 
@@ -33,6 +36,7 @@ void FolderCreation::CreateFolders()
     try {
         // The bound is taken once: a list that changes in the middle of a run doesn't move it.
         const int count = area.LstItem.ListCount();
+        watch.Started(count);
         for (; index < count; ++index)
             CreateFolder(index);
         RaiseRunNumber();
@@ -50,19 +54,34 @@ void FolderCreation::CreateFolder(int index)
     area.lblStatusLine.SetCaption(u"Wait working..."_s);
     events.SetBusyPointer(true);
 
+    watch.Next(PathOf(index));
     const QString entry = area.LstItem.Item(ToInt16(index));
     // Kept: the last four characters go whatever they are, where the list and the tree look for a dot.
-    const QString item = area.chkExtension.IsChecked() ? WithoutLast(entry, 4) : entry;
+    MakeEntry(area.chkExtension.IsChecked() ? WithoutLast(entry, 4) : entry);
+}
 
+void FolderCreation::MakeEntry(const QString &item)
+{
+    const QString wanted = session.DestinationPath + EntryToPath(files, item);
     // The test takes the name before it is mended, behind a doubled separator.
     if (!FolderPathExists(files, session.DestinationPath + files.Separator() + EntryToPath(files, item))) {
         FixFolderName(item, events, session);
-        MakeFolderPath(files, session.DestinationPath + EntryToPath(files, session.LastFixedName));
+        const QString path = session.DestinationPath + EntryToPath(files, session.LastFixedName);
+        if (MakeFolderPathTelling(files, path, watch) == PathEnd::StoodThere)
+            watch.Did(Outcome::AlreadyThere, path);
     } else {
         // Kept: no name is mended on this road, so the suffix goes to the name handled before this one.
         const QString suffixed = session.LastFixedName + u" ("_s + QString::number(session.RunNumber) + u')';
-        MakeFolderPath(files, session.DestinationPath + EntryToPath(files, suffixed));
+        const QString path = session.DestinationPath + EntryToPath(files, suffixed);
+        if (MakeFolderPathTelling(files, path, watch) != PathEnd::NotThere)
+            watch.Did(Outcome::AlreadyThere, wanted);
     }
+}
+
+/// Where an entry stands as the list has it.
+QString FolderCreation::PathOf(int index) const
+{
+    return session.DestinationPath + EntryToPath(files, area.LstItem.Items().value(index));
 }
 
 void FolderCreation::RaiseRunNumber()
@@ -72,6 +91,7 @@ void FolderCreation::RaiseRunNumber()
 
 void FolderCreation::EndAsFailed(const Failure &failure, int index)
 {
+    watch.Failed(PathOf(index), failure);
     area.lblStatusLine.SetCaption(u"Finished with ERROR, Total of "_s + QString::number(index)
                                   + u" folders created"_s);
     events.SetBusyPointer(false);

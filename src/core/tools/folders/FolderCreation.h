@@ -20,6 +20,8 @@ public:
 
 private:
     void CreateFolder(int index);
+    void MakeEntry(const QString &item);
+    QString PathOf(int index) const;
     void RaiseRunNumber();
     void EndAsFailed(const Failure &failure, int index);
 
@@ -29,6 +31,7 @@ private:
     Events &events;
     Dialogs &dialogs;
     Session &session;
+    RunWatch &watch;
 };
 
 } // namespace tressel

@@ -5,7 +5,7 @@
 
 #include "base/Steps.h"
 #include "base/Text.h"
-#include "language/Language.h"
+#include "language/FolderPaths.h"
 #include "language/Session.h"
 #include "machine/Events.h"
 #include "tools/WorkArea.h"

@@ -13,6 +13,7 @@
 #include "machine/Paths.h"
 #include "machine/Program.h"
 #include "settings/Settings.h"
+#include "tools/RunWatch.h"
 #include "tools/WorkArea.h"
 #include "tools/folders/FolderListFile.h"
 #include "tools/folders/RemoveDupes.h"
@@ -65,6 +66,7 @@ private:
             return;
         if (failure.number != FailureNumber::PermissionDenied)
             throw;
+        listing.watch.Failed(listing.report.Path(), failure);
         hasFallenBack = true;
         // Kept: the walk is stopped with it, so nothing is written to drive C: either.
         listing.StopListing = true;
@@ -83,6 +85,7 @@ FolderListing::FolderListing(const ToolContext &context, ListingPage &listingPag
     , listFile(textFile)
     , settings(context.settings)
     , session(context.session)
+    , watch(context.watch)
     , report(machine.files, machine.clock)
 {
 }
@@ -113,6 +116,7 @@ void FolderListing::ListFolders(Guard &guard)
 {
     page.btnGBMakeList.SetCaption(cancelCaption);
     StopListing = false;
+    watch.Started(-1);
     TakeSource(guard);
     StartReport(guard);
     StartProgress();
@@ -138,15 +142,19 @@ void FolderListing::TakeSource(Guard &guard)
     page.SaveRecentPath();
     guard.Do([&] { KillCBDupes(page.CboFilePath); });
     report.ReportFolder = ListSourcePath;
-    report.NextReportFile(ListSourcePath, HasHeader());
+    report.NextReportFile(ListSourcePath, ReportHeader(Style()));
 }
 
 void FolderListing::StartReport(Guard &guard)
 {
     std::unique_ptr<LineWriter> writer;
     guard.Do([&] { writer = report.Create(); });
-    if (writer && HasHeader())
-        guard.Do([&] { ReportFile::WriteHeader(*writer); });
+    if (writer) {
+        guard.Do([&] {
+            for (const QString &line : ReportHeader(Style()))
+                writer->WriteLine(line);
+        });
+    }
     const QString temporary = JoinPath(files, machine.program.WritableFolder(), temporaryName);
     if (FileExists(files, temporary))
         guard.Do([&] { files.RemoveFile(temporary); });
@@ -197,6 +205,7 @@ void FolderListing::TellFallback()
 
 void FolderListing::EndAsFailed(const Failure &failure)
 {
+    watch.Failed(report.Path(), failure);
     machine.events.SetBusyPointer(false);
     page.btnGBMakeList.SetCaption(MakeListCaption);
     machine.dialogs.Show({QString::number(failure.Number()) + u", "_s + failure.description, ApplicationTitle,
@@ -218,35 +227,46 @@ QList<FolderEntry> FolderListing::EntriesOf(const QString &folder)
 /// no block.
 QStringList FolderListing::Makelisting(const QString &path)
 {
+    watch.Next(path);
     QList<FolderEntry> entries;
     try {
         entries = EntriesOf(path);
+        watch.Did(Outcome::Searched, path);
     } catch (const Failure &failure) {
-        // A folder that can't be read is one without entries.
-        if (failure.number == FailureNumber::PathNotFound || failure.number == FailureNumber::BadFileName)
+        if (failure.number == FailureNumber::PathNotFound || failure.number == FailureNumber::BadFileName) {
+            watch.Did(Outcome::NotThere, path);
             return {};
+        }
+        // A folder that can't be read is one without entries.
+        watch.Failed(path, failure);
     }
-    Steps steps;
+    AppendBlock(path, entries);
+    return FoldersOf(entries);
+}
+
+void FolderListing::AppendBlock(const QString &path, const QList<FolderEntry> &entries)
+{
+    std::optional<Failure> problem;
+    Steps steps([&](const Failure &failure) { problem = failure; });
     std::unique_ptr<LineWriter> writer;
     steps.Do([&] { writer = report.OpenToAppend(); });
-    QString lineSoFar;
+    auto [lines, lineSoFar] = StartOfBlock(path, Style());
     const auto write = [&](const QString &text) {
         if (writer)
             steps.Do([&] { writer->WriteLine(lineSoFar + text); });
         lineSoFar.clear();
     };
-    if (page.ChckDir.IsChecked()) {
-        lineSoFar = path;
-    } else {
-        write(u" "_s);
-        write(path);
-    }
-    ListFiles(entries, write);
-    write(u" "_s);
-    return FoldersOf(entries);
+    for (const QString &line : lines)
+        write(line);
+    ListFiles(path, entries, write);
+    write(EndOfBlock());
+    if (writer)
+        steps.Do([&] { writer->Close(); });
+    if (problem)
+        watch.Failed(report.Path(), *problem);
 }
 
-void FolderListing::ListFiles(const QList<FolderEntry> &entries,
+void FolderListing::ListFiles(const QString &path, const QList<FolderEntry> &entries,
                               const std::function<void(const QString &)> &write)
 {
     for (const FolderEntry &entry : entries) {
@@ -257,8 +277,10 @@ void FolderListing::ListFiles(const QList<FolderEntry> &entries,
         page.ProgressBar1.SetValue(page.ProgressBar1.Value() + static_cast<double>(entry.length));
         if (StopListing)
             return;
-        if (!page.ChckDir.IsChecked())
-            write(page.ChckValg.IsChecked() ? u"   "_s + entry.name : entry.name);
+        if (page.ChckDir.IsChecked())
+            continue;
+        write(FileLine(entry.name, Style()));
+        watch.Did(Outcome::Found, JoinPath(files, path, entry.name));
     }
 }
 
@@ -306,9 +328,9 @@ void FolderListing::EnableResult(bool enabled)
     page.ChckValg.SetEnabled(enabled);
 }
 
-bool FolderListing::HasHeader() const
+ReportStyle FolderListing::Style() const
 {
-    return page.ChckValg.IsChecked() && !page.ChckDir.IsChecked();
+    return {page.ChckDir.IsChecked(), page.ChckValg.IsChecked()};
 }
 
 QString FolderListing::TemporaryPath() const

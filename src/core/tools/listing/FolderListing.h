@@ -6,6 +6,7 @@
 #include "tools/ToolContext.h"
 #include "tools/listing/MeasuredLengths.h"
 #include "tools/listing/ReportFile.h"
+#include "tools/listing/ReportLines.h"
 
 #include <functional>
 
@@ -44,10 +45,12 @@ private:
     QList<FolderEntry> EntriesOf(const QString &folder);
     QStringList Makelisting(const QString &path);
     void folderlist(const QString &path, const QStringList &folders);
-    void ListFiles(const QList<FolderEntry> &entries, const std::function<void(const QString &)> &write);
+    void AppendBlock(const QString &path, const QList<FolderEntry> &entries);
+    void ListFiles(const QString &path, const QList<FolderEntry> &entries,
+                   const std::function<void(const QString &)> &write);
     void ShowFolderSize(const QString &path);
     void EnableResult(bool enabled);
-    bool HasHeader() const;
+    ReportStyle Style() const;
     QString TemporaryPath() const;
 
     ListingPage &page;
@@ -57,6 +60,7 @@ private:
     FolderListFile &listFile;
     Settings &settings;
     Session &session;
+    RunWatch &watch;
 
     ReportFile report;
     bool StopListing = false;

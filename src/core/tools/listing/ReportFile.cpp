@@ -29,7 +29,7 @@ QString ReportFile::ShownPath() const
     return JoinPath(files, ReportFolder, Name());
 }
 
-void ReportFile::NextReportFile(const QString &source, bool withHeader)
+void ReportFile::NextReportFile(const QString &source, const QStringList &header)
 {
     QString VolumeLabel;
     Steps steps;
@@ -45,8 +45,8 @@ void ReportFile::NextReportFile(const QString &source, bool withHeader)
         files.Open(Path(), OpenFor::Changing)->Close();
         ++ReportNumber;
         const auto writer = Create();
-        if (withHeader)
-            WriteHeader(*writer);
+        for (const QString &line : header)
+            writer->WriteLine(line);
         writer->Close();
     } catch (const Failure &failure) {
         if (failure.number == FailureNumber::FileNotFound)
@@ -64,13 +64,6 @@ std::unique_ptr<LineWriter> ReportFile::Create() const
             throw Failure(FailureNumber::PermissionDenied);
         throw;
     }
-}
-
-void ReportFile::WriteHeader(LineWriter &writer)
-{
-    writer.WriteLine(u"************************"_s);
-    writer.WriteLine(u" Start Of File Listing: "_s);
-    writer.WriteLine(u"************************"_s);
 }
 
 std::unique_ptr<LineWriter> ReportFile::OpenToAppend() const

@@ -5,7 +5,7 @@
 
 #include "machine/TextFile.h"
 
-#include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -30,10 +30,9 @@ public:
     /// Takes drive C: for the folder if the source is the root of a volume whose label starts with "CD".
     /// Then the number: 1 if the present number's file isn't there, else the next one, whose file is made.
     /// Any other failure leaves it at that.
-    void NextReportFile(const QString &source, bool withHeader);
+    void NextReportFile(const QString &source, const QStringList &header);
     /// Makes the file, or empties it. Fails with 70 where it may not be written.
     std::unique_ptr<LineWriter> Create() const;
-    static void WriteHeader(LineWriter &writer);
     /// Opens the file to write on at its end. Fails with 53 if it isn't there.
     std::unique_ptr<LineWriter> OpenToAppend() const;
 

@@ -6,8 +6,10 @@
 #include "base/Numbers.h"
 #include "base/Steps.h"
 #include "controls/OptionGroup.h"
-#include "language/Language.h"
+#include "language/FolderPaths.h"
 #include "machine/Events.h"
+#include "tools/RunWatch.h"
+#include "tools/WatchedPaths.h"
 #include "tools/numbered/NumberedPage.h"
 
 namespace tressel {
@@ -19,48 +21,52 @@ NumberedFolders::NumberedFolders(const ToolContext &context, NumberedPage &numbe
     , options(context.options)
     , files(context.machine.files)
     , events(context.machine.events)
+    , watch(context.watch)
 {
 }
 
 void NumberedFolders::MakeFolders()
 {
-    ForEachTarget(NumberedRun::Make, [this](const QString &target) { MakeFolderPath(files, target); });
+    ForEachTarget(NumberedRun::Make, [this](const QString &target) {
+        if (MakeFolderPathTelling(files, target, watch) == PathEnd::StoodThere)
+            watch.Did(Outcome::AlreadyThere, target);
+    });
     ShowResult();
 }
 
 void NumberedFolders::DeleteFolders()
 {
     events.SetBusyPointer(true);
-    ForEachTarget(NumberedRun::Delete, [this](const QString &target) { RemoveFolderPath(files, target); });
+    ForEachTarget(NumberedRun::Delete,
+                  [this](const QString &target) { RemoveFolderPathTelling(files, target, watch); });
     ShowResult();
 }
 
 void NumberedFolders::ForEachTarget(NumberedRun run, const std::function<void(const QString &)> &act)
 {
-    Steps steps;
+    Steps steps([this](const Failure &failure) { watch.Failed(page.NumberedFolderPath, failure); });
     steps.Do([&] {
-        const qsizetype toLength = page.cboTo.Text().size();
-        const double first = ToInt32(page.cboFrom.Text());
-        const double last = ToInt32(page.cboTo.Text());
-        for (double number = first; number <= last; ++number) {
-            NumberedNaming naming = Naming();
-            naming.toLength = toLength;
-            if (const auto target = NumberedTarget(files, naming, number, run))
-                steps.Do([&] { act(*target); });
+        // Nothing that the names come from can change before the last one, since no event runs.
+        NumberedSeries series = Series(run);
+        watch.Started(series.Count());
+        while (const auto target = series.Next()) {
+            watch.Next(*target);
+            act(*target);
         }
     });
 }
 
-NumberedNaming NumberedFolders::Naming() const
+NumberedSeries NumberedFolders::Series(NumberedRun run) const
 {
     NumberedNaming naming;
+    naming.toLength = page.cboTo.Text().size();
     naming.folder = page.NumberedFolderPath;
     naming.base = page.txtFeltDir.Text();
     naming.sub = page.txtFeltDirSub.Text();
     naming.numbersSub = page.chkMain_Sub.IsChecked();
     naming.manualPadding = options.ChkAutoOption.IsChecked();
     naming.digit = options.OptDigit.Selected();
-    return naming;
+    return {files, naming, ToInt32(page.cboFrom.Text()), ToInt32(page.cboTo.Text()), run};
 }
 
 void NumberedFolders::ShowResult()

@@ -28,7 +28,7 @@ public:
 
 private:
     void ForEachTarget(NumberedRun run, const std::function<void(const QString &)> &act);
-    NumberedNaming Naming() const;
+    NumberedSeries Series(NumberedRun run) const;
     void ShowResult();
 
     NumberedPage &page;
@@ -36,6 +36,7 @@ private:
     LiveOptions options;
     FileSystem &files;
     Events &events;
+    RunWatch &watch;
 };
 
 } // namespace tressel

@@ -7,6 +7,9 @@
 #include "machine/FileSystem.h"
 #include "machine/Paths.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace tressel {
 
 using namespace Qt::StringLiterals;
@@ -30,12 +33,18 @@ std::optional<QString> PictureOf(qsizetype digits)
     }
 }
 
+/// The picture of the series' numbers, which is the same for all of them.
+std::optional<QString> PictureOf(const NumberedNaming &naming)
+{
+    return PictureOf(naming.manualPadding ? naming.digit + 1 : naming.toLength);
+}
+
 } // namespace
 
 std::optional<QString> NumberedTarget(const FileSystem &files, const NumberedNaming &naming, double number,
                                       NumberedRun run)
 {
-    const auto picture = PictureOf(naming.manualPadding ? naming.digit + 1 : naming.toLength);
+    const auto picture = PictureOf(naming);
     if (!picture)
         return {};
     const QString printed = FormatPicture(number, *picture);
@@ -52,6 +61,29 @@ std::optional<QString> NumberedTarget(const FileSystem &files, const NumberedNam
     else
         entry = naming.base + u'\\' + naming.sub + printed;
     return JoinPath(files, naming.folder, EntryToPath(files, entry));
+}
+
+NumberedSeries::NumberedSeries(const FileSystem &fileSystem, NumberedNaming seriesNaming, std::int32_t first,
+                               std::int32_t last, NumberedRun forRun)
+    : files(fileSystem)
+    , naming(std::move(seriesNaming))
+    , run(forRun)
+    , next(first)
+    // Without a picture no number has a target, however many there are.
+    , end(PictureOf(naming) ? std::max(qint64(last) + 1, qint64(first)) : first)
+{
+}
+
+qint64 NumberedSeries::Count() const
+{
+    return end - next;
+}
+
+std::optional<QString> NumberedSeries::Next()
+{
+    if (next == end)
+        return {};
+    return NumberedTarget(files, naming, static_cast<double>(next++), run);
 }
 
 } // namespace tressel

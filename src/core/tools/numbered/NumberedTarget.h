@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <optional>
 
 namespace tressel {
@@ -28,5 +29,25 @@ enum class NumberedRun { Make, Delete };
 /// number one without a folder.
 std::optional<QString> NumberedTarget(const FileSystem &files, const NumberedNaming &naming, double number,
                                       NumberedRun run);
+
+/// The targets of a whole series, one number after the other. They are worked out as they are asked for, so
+/// that a series may be as long as its numbers reach.
+class NumberedSeries {
+public:
+    NumberedSeries(const FileSystem &files, NumberedNaming naming, std::int32_t first, std::int32_t last,
+                   NumberedRun run);
+
+    /// How many targets are still to come: none if the padding has no picture.
+    qint64 Count() const;
+    /// The next target, nothing after the last.
+    std::optional<QString> Next();
+
+private:
+    const FileSystem &files;
+    NumberedNaming naming;
+    NumberedRun run;
+    qint64 next;
+    qint64 end; ///< the number behind the last
+};
 
 } // namespace tressel

@@ -7,7 +7,7 @@
 #include "base/Pictures.h"
 #include "base/Steps.h"
 #include "base/Text.h"
-#include "language/Language.h"
+#include "language/Routines.h"
 #include "settings/Settings.h"
 #include "tools/ClickSound.h"
 #include "tools/RunWatch.h"

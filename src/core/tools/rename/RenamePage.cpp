@@ -5,7 +5,7 @@
 
 #include "base/Steps.h"
 #include "base/Text.h"
-#include "language/Language.h"
+#include "language/TextParts.h"
 #include "machine/FileSystem.h"
 #include "machine/Paths.h"
 #include "machine/Program.h"

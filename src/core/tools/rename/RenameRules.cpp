@@ -3,7 +3,7 @@
 
 #include "tools/rename/RenameRules.h"
 
-#include "language/Language.h"
+#include "language/TextParts.h"
 
 #include <QLocale>
 

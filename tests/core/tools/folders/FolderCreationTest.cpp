@@ -273,4 +273,52 @@ TEST_F(FolderCreation, ClickIsHeardFirst)
     EXPECT_EQ(machine.journal.Count(u"Play"_s), 1);
 }
 
+TEST_F(FolderCreation, TellsEachEntryAndEachFolderThatCameOfIt)
+{
+    machine.files.PutFolder(u"C:\\Work\\old"_s);
+    machine.files.PutFolder(u"C:\\Work\\What_"_s);
+    machine.files.PutFile(u"C:\\Work\\file"_s, "x");
+    List({u"a\\b"_s, u"old"_s, u"What?"_s, u"file"_s, u"file\\below"_s});
+    PressCreate();
+    EXPECT_EQ(told.lines,
+              (QStringList{
+                  u"started 5"_s,
+                  u"next C:\\Work\\a\\b"_s,
+                  u"made C:\\Work\\a"_s,
+                  u"made C:\\Work\\a\\b"_s,
+                  u"next C:\\Work\\old"_s,
+                  u"made C:\\Work\\a\\b (1)"_s,
+                  u"already there C:\\Work\\old"_s,
+                  u"next C:\\Work\\What?"_s,
+                  u"already there C:\\Work\\What_"_s,
+                  u"next C:\\Work\\file"_s,
+                  u"failed C:\\Work\\file 75"_s,
+                  u"next C:\\Work\\file\\below"_s,
+                  // The reason is that of the level that is in the way.
+                  u"failed C:\\Work\\file\\below 75"_s,
+              }));
+}
+
+TEST_F(FolderCreation, TellsOfTheEntryThatEndsTheRun)
+{
+    Area().chkExtension.SetChecked(true);
+    List({u"one.txt"_s, u"abc"_s, u"two.txt"_s});
+    PressCreate();
+    EXPECT_EQ(told.lines,
+              (QStringList{u"started 3"_s, u"next C:\\Work\\one.txt"_s, u"made C:\\Work\\one"_s,
+                           u"next C:\\Work\\abc"_s, u"failed C:\\Work\\abc 5"_s}));
+}
+
+TEST_F(FolderCreation, ASuffixThatIsThereTooIsNoSecondFolder)
+{
+    machine.files.PutFolder(u"C:\\Work\\a"_s);
+    machine.files.PutFolder(u"C:\\Work\\a (1)"_s);
+    application.session.LastFixedName = u"a"_s;
+    List({u"a"_s});
+    PressCreate();
+    EXPECT_EQ(told.Of(u"already there"_s), QStringList{u"C:\\Work\\a"_s});
+    EXPECT_TRUE(told.Of(u"made"_s).isEmpty());
+    EXPECT_TRUE(told.Of(u"failed"_s).isEmpty());
+}
+
 } // namespace

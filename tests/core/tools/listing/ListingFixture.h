@@ -5,6 +5,7 @@
 
 #include "base/Steps.h"
 #include "support/MemoryMachine.h"
+#include "support/RunRecord.h"
 #include "support/Text.h"
 #include "support/ToolBench.h"
 #include "tools/folders/FolderListFile.h"
@@ -26,16 +27,15 @@ struct ListingTool : ToolBench {
 
 struct WithMemoryMachine {
     MemoryMachine machine;
+    RunRecord told;
 };
 
 /// The tool with the path set to D:\Music, which holds two files of 3 and 5 bytes and the folder Live with
 /// one of 7.
 class ListingFixture : public testing::Test, protected WithMemoryMachine, protected ListingTool {
 protected:
-    using WithMemoryMachine::machine;
-
     ListingFixture()
-        : ListingTool(machine.machine)
+        : ListingTool(machine.machine, &told)
     {
         machine.files.AddDrive(u'D');
         machine.files.PutFile(QStringLiteral("D:\\Music\\a.mp3"), "123");

@@ -1,59 +1,15 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
-#include "tools/numbered/NumberedPage.h"
-
+#include "NumberedFixture.h"
 #include "base/Steps.h"
-#include "support/MemoryMachine.h"
-#include "support/Text.h"
-#include "support/ToolBench.h"
-
-#include <gtest/gtest.h>
 
 using namespace tressel;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The page on a form of its own, standing in the empty folder D:\Work, with nothing behind the main
-/// folder's name and the padding of the last number.
-class NumberedPageTest : public testing::Test {
-protected:
-    NumberedPageTest()
-    {
-        machine.files.AddDrive(u'D');
-        machine.files.PutFolder(u"D:\\Work"_s);
-        options.OptSound.Select(0);
-        options.OptDigit.Select(1);
-        page.FillNumberCombos();
-        page.DrvBox.Refresh();
-        page.DirBox.SetPath(u"D:\\Work"_s);
-        page.txtFeltDirSub.SetText({});
-    }
-
-    void SetSeries(const QString &from, const QString &to)
-    {
-        page.cboFrom.SetText(from);
-        page.cboTo.SetText(to);
-    }
-    void Make(const QString &from, const QString &to)
-    {
-        SetSeries(from, to);
-        page.btnGBMake.UserClicks();
-    }
-    void Delete(const QString &from, const QString &to)
-    {
-        SetSeries(from, to);
-        page.btnGBDelete.UserClicks();
-    }
-    QStringList Work() { return machine.files.Tree(u"D:\\Work"_s); }
-
-    MemoryMachine machine;
-    ToolBench bench{machine.machine};
-    OptionForm &options = bench.options;
-    FolderList DirList{bench.form, u"DirList"_s, machine.files};
-    NumberedPage page{bench.context, DirList};
-};
+using NumberedPageTest = NumberedFixture;
 
 TEST_F(NumberedPageTest, ShowsItsTextsAndFirstValues)
 {

@@ -124,4 +124,37 @@ TEST(NumberedTarget, ABackslashInTheFolderOfTheSeriesIsPartOfAName)
     EXPECT_EQ(NumberedTarget(slashes, naming, 3, Make), u"/home/a\\b/Disk3"_s);
 }
 
+TEST(NumberedSeries, GivesEachTargetInRisingOrder)
+{
+    const MemoryMachine machine;
+    const NumberedNaming naming{u"D:\\"_s, u"B"_s, u"S"_s, false, false, 0, 2};
+    NumberedSeries series(machine.files, naming, 9, 11, Make);
+    EXPECT_EQ(series.Count(), 3);
+    QStringList targets;
+    while (const auto target = series.Next())
+        targets += *target;
+    EXPECT_EQ(targets, (QStringList{u"D:\\B09\\S"_s, u"D:\\B10\\S"_s, u"D:\\B11\\S"_s}));
+    EXPECT_EQ(series.Next(), std::nullopt);
+}
+
+TEST(NumberedSeries, IsEmptyBackwardsAndWithoutAPicture)
+{
+    const MemoryMachine machine;
+    const NumberedNaming naming{u"D:\\"_s, u"B"_s, {}, false, false, 0, 2};
+    EXPECT_EQ(NumberedSeries(machine.files, naming, 3, 2, Make).Count(), 0);
+    EXPECT_EQ(NumberedSeries(machine.files, naming, 3, 2, Make).Next(), std::nullopt);
+    const NumberedNaming noPicture{u"D:\\"_s, u"B"_s, {}, false, false, 0, 10};
+    EXPECT_EQ(NumberedSeries(machine.files, noPicture, 1, 2147483647, Make).Next(), std::nullopt);
+}
+
+TEST(NumberedSeries, ReachesTheLastNumberThatThereIs)
+{
+    const MemoryMachine machine;
+    const NumberedNaming naming{u"D:\\"_s, u"B"_s, {}, false, true, 0, 10};
+    NumberedSeries series(machine.files, naming, 2147483646, 2147483647, Make);
+    EXPECT_EQ(series.Next(), u"D:\\B2147483646"_s);
+    EXPECT_EQ(series.Next(), u"D:\\B2147483647"_s);
+    EXPECT_EQ(series.Next(), std::nullopt);
+}
+
 } // namespace

@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
-#include "language/Language.h"
+#include "language/FolderPaths.h"
 
 #include "language/Session.h"
-#include "support/Failures.h"
 #include "support/MemoryMachine.h"
 #include "support/Text.h"
 
@@ -94,6 +93,21 @@ TEST_F(Names, PathFromASeparatorStartsInTheRoot)
     EXPECT_TRUE(machine.files.Exists(u"C:\\x\\y"_s));
 }
 
+TEST_F(Names, EachLevelThatIsTriedIsTold)
+{
+    machine.files.PutFolder(u"C:\\Test1"_s);
+    QStringList told;
+    const auto tell = [&](const QString &level, const std::optional<Failure> &failure) {
+        told += level + (failure ? u" %1"_s.arg(failure->Number()) : u""_s);
+    };
+    MakeFolderPath(machine.files, u"C:\\Test1\\b\\c"_s, tell);
+    EXPECT_EQ(told, (QStringList{u"C:\\Test1 75"_s, u"C:\\Test1\\b"_s, u"C:\\Test1\\b\\c"_s}));
+    told.clear();
+    // The protected one isn't tried.
+    RemoveFolderPath(machine.files, u"C:\\Test1\\b\\c"_s, tell);
+    EXPECT_EQ(told, (QStringList{u"C:\\Test1\\b 75"_s, u"C:\\Test1\\b\\c"_s}));
+}
+
 TEST_F(Names, RemovalTakesTheDeepestEmptyLevelOnly)
 {
     machine.files.PutFolder(u"C:\\a\\b"_s);
@@ -109,67 +123,6 @@ TEST_F(Names, RemovalNeverTouchesTheProtectedFolder)
     EXPECT_TRUE(machine.files.Exists(u"C:\\Test1"_s));
     EXPECT_TRUE(RemoveFolderPath(machine.files, u"C:\\test1"_s));
     EXPECT_FALSE(machine.files.Exists(u"C:\\Test1"_s));
-}
-
-TEST(Texts, AreCutAtMarkers)
-{
-    EXPECT_EQ(TextAfter(u"a.b.c"_s, u"."_s), u"b.c"_s);
-    EXPECT_EQ(TextBefore(u"a.b.c"_s, u"."_s), u"a"_s);
-    EXPECT_EQ(TextBeforeLast(u"a.b.c"_s, u"."_s), u"a.b"_s);
-    for (const auto cut : {TextAfter, TextBefore, TextBeforeLast})
-        EXPECT_EQ(cut(u"whole"_s, u"."_s), u"whole"_s);
-    EXPECT_EQ(TextAfter(u""_s, u""_s), u""_s);
-}
-
-TEST(Texts, TailOfALongMarkerStays)
-{
-    EXPECT_EQ(TextAfter(u"key::value"_s, u"::"_s), u":value"_s);
-}
-
-TEST(Texts, Beyond16BitsFail)
-{
-    const QString longest = QString(32766, u'x') + u'.';
-    EXPECT_EQ(TextBefore(longest, u"."_s).size(), 32766);
-    for (const auto cut : {TextAfter, TextBefore, TextBeforeLast})
-        EXPECT_EQ(NumberThrownBy([&] { cut(longest + u'x', u"."_s); }), FailureNumber::Overflow);
-}
-
-TEST(Texts, UpperFirstFailsOnNothing)
-{
-    EXPECT_EQ(UpperFirst(u"élan vital"_s), u"Élan vital"_s);
-    EXPECT_EQ(UpperFirst(u"x"_s), u"X"_s);
-    EXPECT_EQ(UpperFirst(u"ßx"_s), u"ßx"_s);
-    EXPECT_EQ(NumberThrownBy([] { UpperFirst(u""_s); }), FailureNumber::InvalidProcedureCall);
-}
-
-TEST(Texts, ContainsTellsCasesApart)
-{
-    EXPECT_TRUE(TextContains(u"Folder"_s, u"old"_s));
-    EXPECT_FALSE(TextContains(u"Folder"_s, u"OLD"_s));
-    EXPECT_FALSE(TextContains(u""_s, u""_s));
-}
-
-TEST(Clicks, GiveTheLowBitsOfTheResult)
-{
-    MemoryMachine machine;
-    EXPECT_EQ(PlayClick(machine.sound, u"C:\\Tressel\\click.wav"_s), 1);
-    EXPECT_EQ(machine.journal.About(u"Play"_s), QStringList{u"C:\\Tressel\\click.wav"_s});
-}
-
-TEST(Errors, ComeUnderTheirOwnTitle)
-{
-    MemoryMachine machine;
-    Session session;
-    session.AppTitle = u"Brindlekit"_s;
-    machine.dialogs.ExpectBox({u"Error: no luck"_s, u"Brindlekit"_s, BoxIcon::Exclamation});
-    ShowError(machine.dialogs, session, u"no luck"_s);
-}
-
-TEST(Seconds, CountMillisecondsInTheFraction)
-{
-    MemoryMachine machine;
-    machine.clock.Set(QDateTime(QDate(2004, 3, 31), QTime(1, 2, 3, 250)));
-    EXPECT_DOUBLE_EQ(SecondsOfDay(machine.clock), 3723.25);
 }
 
 } // namespace
