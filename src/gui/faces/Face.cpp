@@ -77,7 +77,9 @@ bool Face::FilterDrop(QEvent *event)
     const QStringList paths = DroppedPaths(*drop->mimeData());
     if (paths.isEmpty())
         return false;
-    drop->acceptProposedAction();
+    // A copy, whatever the other program proposes: what is dropped stays where it was.
+    drop->setDropAction(Qt::CopyAction);
+    drop->accept();
     if (event->type() == QEvent::Drop)
         Hand([&] { control.UserDrops(paths); });
     return true;

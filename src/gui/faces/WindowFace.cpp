@@ -54,6 +54,7 @@ WindowFace::~WindowFace()
 
 void WindowFace::Refresh()
 {
+    keyboard.NoteHolder();
     const QList<Control *> changed = form.TakeChanged();
     for (const Control *control : changed)
         binder.TakeOver(*control);
@@ -63,6 +64,7 @@ void WindowFace::Refresh()
         if (Face *face = binder.FaceOf(*focused))
             face->TakeFocus();
     }
+    keyboard.GiveBack();
 }
 
 void WindowFace::ShowForm()

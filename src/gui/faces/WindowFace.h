@@ -4,6 +4,7 @@
 #pragma once
 
 #include "faces/Binder.h"
+#include "faces/KeyboardPlace.h"
 
 #include <QObject>
 #include <QWidget>
@@ -56,6 +57,7 @@ private:
     bool shownCloseBox = true;
     bool showing = false;
     bool activationTold = false;
+    KeyboardPlace keyboard{window};
 };
 
 } // namespace tressel

@@ -41,16 +41,18 @@ protected:
     }
 };
 
+/// Which steps are taken of dragging something that the other program would rather move.
 QList<QEvent::Type> DragAndDrop(QWidget &onto, QMimeData &dragged)
 {
     QList<QEvent::Type> accepted;
-    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    constexpr Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent enter(QPoint(5, 5), actions, &dragged, Qt::LeftButton, Qt::ShiftModifier);
     QCoreApplication::sendEvent(&onto, &enter);
-    if (enter.isAccepted())
+    if (enter.isAccepted() && enter.dropAction() == Qt::CopyAction)
         accepted += QEvent::DragEnter;
-    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QDropEvent drop(QPointF(5, 5), actions, &dragged, Qt::LeftButton, Qt::ShiftModifier);
     QCoreApplication::sendEvent(&onto, &drop);
-    if (drop.isAccepted())
+    if (drop.isAccepted() && drop.dropAction() == Qt::CopyAction)
         accepted += QEvent::Drop;
     return accepted;
 }

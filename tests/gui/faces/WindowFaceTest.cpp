@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 
 #include "controls/Label.h"
+#include "controls/TextBox.h"
 #include "gui/GuiTest.h"
 #include "gui/faces/Bound.h"
 
 #include <QDialog>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTest>
 
 #include <limits>
@@ -190,6 +192,45 @@ private Q_SLOTS:
         bound.window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&bound.window));
         QCOMPARE(told, QStringList({u"first"_s, u"second"_s, u"first"_s}));
+    }
+
+    void TheKeyboardComesBackToWhatWasDisabled()
+    {
+        Form form(u"f"_s);
+        TextBox first(form, u"first"_s);
+        TextBox second(form, u"second"_s);
+        TextBox third(form, u"third"_s);
+        second.SetEnabled(false);
+        Bound bound(form);
+        auto &firstEdit = bound.Add<QLineEdit>(u"first"_s);
+        auto &secondEdit = bound.Add<QLineEdit>(u"second"_s);
+        auto &thirdEdit = bound.Add<QLineEdit>(u"third"_s);
+        bound.Bind();
+        const auto lock = [&](bool locked) {
+            first.SetEnabled(!locked);
+            second.SetEnabled(locked);
+            if (locked)
+                second.SetFocus();
+            bound.updates.Flush();
+        };
+        firstEdit.setFocus();
+        lock(true);
+        QVERIFY(secondEdit.hasFocus());
+        third.SetText(u"meanwhile"_s);
+        bound.updates.Flush();
+        lock(false);
+        QVERIFY(firstEdit.hasFocus());
+
+        // Who went elsewhere stays there.
+        lock(true);
+        thirdEdit.setFocus();
+        lock(false);
+        QVERIFY(thirdEdit.hasFocus());
+        first.SetEnabled(false);
+        bound.updates.Flush();
+        first.SetEnabled(true);
+        bound.updates.Flush();
+        QVERIFY(thirdEdit.hasFocus());
     }
 
     void AFailureInAHandlerGoesToTheFatalHandler()

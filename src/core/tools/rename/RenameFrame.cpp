@@ -59,6 +59,8 @@ void RenameFrame::LockPathPage()
     CancelRename = false;
     EnablePage(false);
     page.btnGBCancel.SetEnabled(true);
+    // The button that was pressed has just lost the keyboard.
+    page.btnGBCancel.SetFocus();
 }
 
 void RenameFrame::UnlockPathPage()
