@@ -10,9 +10,9 @@ namespace tressel {
 
 RenameFolder::RenameFolder(FileSystem &fileSystem, const QString &folder)
     : files(fileSystem)
-    , path(folder)
+    , base(WithSeparator(files, folder))
 {
-    for (const FolderEntry &entry : files.List(path)) {
+    for (const FolderEntry &entry : files.List(folder)) {
         const bool isFolder = entry.kind == EntryKind::Folder
             || (entry.kind == EntryKind::Link && FolderExists(files, PathOf(entry.name)));
         (isFolder ? folders : others) += entry.name;
@@ -32,7 +32,7 @@ bool RenameFolder::HasFile(const QString &name)
 
 QString RenameFolder::PathOf(const QString &name) const
 {
-    return JoinPath(files, path, name);
+    return base + name;
 }
 
 } // namespace tressel

@@ -32,7 +32,7 @@ public:
 
 private:
     FileSystem &files;
-    QString path;
+    QString base; ///< of the paths of all entries: the folder with the separator at its end
     QStringList folders;
     QStringList others;
 };
