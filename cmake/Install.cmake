@@ -10,6 +10,8 @@ foreach(program tressel tressel-cli)
   endif()
 endforeach()
 
+install(TARGETS tressel-jet RUNTIME DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/tressel)
+
 foreach(file IN LISTS TRESSEL_PROGRAM_FILES)
   get_filename_component(folder ${file} DIRECTORY)
   install(FILES assets/${file} DESTINATION ${CMAKE_INSTALL_DATADIR}/tressel/${folder})

@@ -22,7 +22,7 @@ add_custom_target(program-folder ALL DEPENDS ${copies})
 
 # What is given to people, without tests and measurements.
 add_custom_target(programs DEPENDS program-folder)
-foreach(program tressel tressel-cli tressel-picture)
+foreach(program tressel tressel-cli tressel-jet tressel-picture)
   if(TARGET ${program})
     add_dependencies(programs ${program})
   endif()

@@ -36,7 +36,7 @@ ConsoleMachine::ConsoleMachine(FileSystem &fileSystem, Clock &systemClock, Progr
 
 Machine ConsoleMachine::AsMachine()
 {
-    return {files, hive, clock, sound, shell, dialogs, events, clipboard, screen, program};
+    return {files, hive, clock, sound, shell, dialogs, events, clipboard, screen, program, databases};
 }
 
 } // namespace tressel

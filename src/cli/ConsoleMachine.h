@@ -11,6 +11,7 @@
 #include "machine/Screen.h"
 #include "machine/Shell.h"
 #include "machine/Sound.h"
+#include "machine/posix/JetDatabases.h"
 #include "settings/HiveTree.h"
 
 #include <functional>
@@ -88,6 +89,7 @@ public:
             onPause();
     }
     void ShowAnimationStep() override { LetEventsRun(); }
+    void KeepPainting() override { LetEventsRun(); }
     void SetBusyPointer(bool) override { }
 };
 
@@ -111,6 +113,7 @@ private:
     NoShell shell;
     NoClipboard clipboard;
     NoScreen screen;
+    JetDatabases databases{events};
 };
 
 } // namespace tressel

@@ -36,6 +36,10 @@ public:
     void LetEventsRun() override;
     /// The same as LetEventsRun here.
     void ShowAnimationStep() override { LetEventsRun(); }
+    /// Counted, and runs nothing: no act of a test may come in here.
+    void KeepPainting() override { ++waits; }
+    /// How often KeepPainting was called.
+    int Waits() const { return waits; }
     /// Journal: "BusyPointer" about "on" or "off".
     void SetBusyPointer(bool isBusy) override;
 
@@ -48,6 +52,7 @@ private:
     Journal &journal;
     QList<Queued> queue;
     int calls = 0;
+    int waits = 0;
     bool busy = false;
 };
 

@@ -7,6 +7,7 @@
 #include "support/Journal.h"
 #include "support/MemoryClipboard.h"
 #include "support/MemoryClock.h"
+#include "support/MemoryDatabases.h"
 #include "support/MemoryDialogs.h"
 #include "support/MemoryEvents.h"
 #include "support/MemoryFileSystem.h"
@@ -19,9 +20,15 @@
 namespace tressel {
 
 /// A computer in memory for tests: it keeps a journal of what it was asked, and does what the test set up.
-/// At its start it has the drive C: with the program folder C:\Tressel in it, and an empty hive.
+/// At its start it has the drive C: with the program folder C:\Tressel in it, which has a database with the
+/// table Products, and an empty hive.
 struct MemoryMachine {
-    MemoryMachine() { files.PutFolder(program.folder); }
+    MemoryMachine()
+    {
+        files.PutFolder(program.folder);
+        databases.PutTexts(program.folder + QStringLiteral("\\data.mdb"), QStringLiteral("Products"),
+                           QStringLiteral("Name"), {QStringLiteral("Chair"), QStringLiteral("Table")});
+    }
     MemoryMachine(const MemoryMachine &) = delete;
     MemoryMachine &operator=(const MemoryMachine &) = delete;
 
@@ -36,9 +43,10 @@ struct MemoryMachine {
     MemoryClipboard clipboard{journal};
     MemoryScreen screen;
     MemoryProgram program{journal};
+    MemoryDatabases databases{journal};
 
     /// The same as the tools see it; good for as long as this lives.
-    Machine machine{files, hive, clock, sound, shell, dialogs, events, clipboard, screen, program};
+    Machine machine{files, hive, clock, sound, shell, dialogs, events, clipboard, screen, program, databases};
 };
 
 } // namespace tressel

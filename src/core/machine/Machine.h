@@ -7,6 +7,7 @@ namespace tressel {
 
 class Clipboard;
 class Clock;
+class Databases;
 class Dialogs;
 class Events;
 class FileSystem;
@@ -29,6 +30,7 @@ struct Machine {
     Clipboard &clipboard;
     Screen &screen;
     Program &program;
+    Databases &databases;
 };
 
 } // namespace tressel

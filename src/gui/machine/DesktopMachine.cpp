@@ -12,12 +12,13 @@ DesktopMachine::DesktopMachine(Program &runningProgram, SettingsHive &settingsHi
     , hive(settingsHive)
     , dialogs(cursor, u"Tressel"_s)
     , events(updates, cursor)
+    , databases(events)
 {
 }
 
 Machine DesktopMachine::AsMachine()
 {
-    return {files, hive, clock, sound, shell, dialogs, events, clipboard, screen, program};
+    return {files, hive, clock, sound, shell, dialogs, events, clipboard, screen, program, databases};
 }
 
 } // namespace tressel

@@ -11,6 +11,7 @@
 #include "machine/QtDialogs.h"
 #include "machine/QtEvents.h"
 #include "machine/QtScreen.h"
+#include "machine/posix/JetDatabases.h"
 #include "machine/posix/PosixClock.h"
 #include "machine/posix/PosixFileSystem.h"
 #include "machine/posix/PosixShell.h"
@@ -39,6 +40,7 @@ private:
     QtDialogs dialogs;
     QtEvents events;
     QtClipboard clipboard;
+    JetDatabases databases;
 };
 
 } // namespace tressel

@@ -47,6 +47,12 @@ void QtEvents::ShowAnimationStep()
     QCoreApplication::processEvents();
 }
 
+void QtEvents::KeepPainting()
+{
+    updates.Flush();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
 void QtEvents::SetBusyPointer(bool busy)
 {
     cursor.SetBusy(busy);

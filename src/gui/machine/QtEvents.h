@@ -25,6 +25,7 @@ public:
     /// Returns at once if it ran less than 20 ms ago, or less than four times its own last length ago.
     void LetEventsRun() override;
     void ShowAnimationStep() override;
+    void KeepPainting() override;
     void SetBusyPointer(bool busy) override;
 
 private:

@@ -28,13 +28,6 @@ QByteArray FolderOfPath(const QByteArray &path)
     return path.left(std::max<qsizetype>(path.lastIndexOf('/'), 0));
 }
 
-QByteArray RunningExecutable()
-{
-    std::array<char, PATH_MAX> path{};
-    const ssize_t length = readlink("/proc/self/exe", path.data(), path.size());
-    return length < 0 ? QByteArray() : QByteArray(path.data(), length);
-}
-
 bool HoldsProgramFiles(const QByteArray &folder)
 {
     static const std::array<QByteArray, 3> names{"/Lang", "/click.wav", "/TIPOFDAY.TXT"};
@@ -50,6 +43,13 @@ QByteArray ProgramFolder(const QByteArray &executable)
 }
 
 } // namespace
+
+QByteArray RunningExecutable()
+{
+    std::array<char, PATH_MAX> path{};
+    const ssize_t length = readlink("/proc/self/exe", path.data(), path.size());
+    return length < 0 ? QByteArray() : QByteArray(path.data(), length);
+}
 
 PosixProgram::PosixProgram(int count, char **arguments, std::function<void()> beforeTheEnd)
     : PosixProgram(RunningExecutable(), count, arguments, std::move(beforeTheEnd))

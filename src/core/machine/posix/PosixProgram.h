@@ -11,6 +11,9 @@
 
 namespace tressel {
 
+/// The whole path of the executable that runs; empty if the system doesn't tell.
+QByteArray RunningExecutable();
+
 /// The running process. Its program folder is the folder of the executable if the program's files lie
 /// there, as in a build tree or a portable unpack, else share/tressel beside the folder of the executable.
 class PosixProgram : public Program {

@@ -44,7 +44,7 @@ protected:
     MemoryMachine machine;
     ListingTool tool{Machine{files, machine.hive, machine.clock, machine.sound, machine.shell,
                              machine.dialogs, machine.events, machine.clipboard, machine.screen,
-                             machine.program}};
+                             machine.program, machine.databases}};
 };
 
 TEST_F(RealDiscListingTest, ATreeOfTwoThousandLevels)

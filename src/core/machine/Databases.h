@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "base/Failure.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <variant>
+
+namespace tressel {
+
+/// The numbers of the failures that come from database files, beside those of all files.
+namespace databaseFailures {
+inline constexpr FailureNumber NoSuchTable{3011};
+inline constexpr FailureNumber NoSuchFile{3024};
+inline constexpr FailureNumber Protected{3031}; ///< by a password, or encrypted
+inline constexpr FailureNumber NoSuchFolder{3044};
+inline constexpr FailureNumber Unusable{3045}; ///< in use, damaged, or beyond what may be spent on it
+inline constexpr FailureNumber Refused{3051}; ///< by the system's rights
+inline constexpr FailureNumber NotReadable{3078}; ///< a view, or a table that lies in another file
+inline constexpr FailureNumber NoSuchField{3265};
+inline constexpr FailureNumber UnknownFormat{3343};
+} // namespace databaseFailures
+
+/// The two ways to open a file: the newer one takes every format, the older one the oldest format alone.
+enum class DatabaseRoad { Newer, Older };
+
+enum class DatabaseObjectKind {
+    Table,
+    View,
+    LinkedTable, ///< its rows lie in another file
+    SystemTable,
+};
+
+/// Something in a database that looks like a table.
+struct DatabaseObject {
+    QString name;
+    DatabaseObjectKind kind = DatabaseObjectKind::Table;
+    bool operator==(const DatabaseObject &) const = default;
+};
+
+/// The numeric types of fields, under the numbers that the provider of the data gives them.
+namespace fieldTypes {
+inline constexpr std::int16_t Unknown = 0;
+inline constexpr std::int16_t Integer = 2;
+inline constexpr std::int16_t Long = 3;
+inline constexpr std::int16_t Single = 4;
+inline constexpr std::int16_t Double = 5;
+inline constexpr std::int16_t Money = 6;
+inline constexpr std::int16_t Date = 7;
+inline constexpr std::int16_t YesNo = 11;
+inline constexpr std::int16_t Byte = 17;
+inline constexpr std::int16_t BigInteger = 20;
+inline constexpr std::int16_t Guid = 72;
+inline constexpr std::int16_t Numeric = 131;
+inline constexpr std::int16_t Text = 202;
+inline constexpr std::int16_t Memo = 203;
+inline constexpr std::int16_t Binary = 204;
+inline constexpr std::int16_t Ole = 205;
+} // namespace fieldTypes
+
+struct DatabaseField {
+    QString name;
+    std::int16_t type = fieldTypes::Unknown;
+    /// The most characters of a text, the most bytes of all else.
+    std::int32_t size = 0;
+    bool operator==(const DatabaseField &) const = default;
+};
+
+/// Ten thousandths.
+struct MoneyValue {
+    std::int64_t tenThousandths = 0;
+    bool operator==(const MoneyValue &) const = default;
+};
+
+/// Days since 30 December 1899. The fraction is the time of the day, also before that day: -1.25 is six
+/// o'clock on the 29th.
+struct DateValue {
+    double days = 0;
+    bool operator==(const DateValue &) const = default;
+};
+
+/// The sixteen bytes as files have them: the first three groups with their lowest byte first.
+struct GuidValue {
+    QByteArray bytes;
+    bool operator==(const GuidValue &) const = default;
+};
+
+/// A decimal number: the digits without a point, of which the last `scale` stand behind it.
+struct DecimalValue {
+    bool negative = false;
+    int scale = 0;
+    QByteArray digits;
+    bool operator==(const DecimalValue &) const = default;
+};
+
+/// Bytes that are no text and no number. Nobody asks for them, so they aren't here.
+struct BinaryValue {
+    bool operator==(const BinaryValue &) const = default;
+};
+
+/// A null is the first of these.
+using DatabaseValue = std::variant<std::monostate, bool, std::int64_t, MoneyValue, float, double, DateValue,
+                                   QString, GuidValue, DecimalValue, BinaryValue>;
+
+/// One field of a table, row by row.
+class FieldReader {
+public:
+    virtual ~FieldReader() = default;
+    /// The value in the next row, in the order in which the table gives them; nothing behind the last.
+    /// Fails with databaseFailures::NoSuchField at the first row if the table has no such field.
+    virtual std::optional<DatabaseValue> Next() = 0;
+};
+
+/// Database files, read only. Each function opens the file, asks one question and closes it again; a
+/// damaged file is a failure and never more.
+class Databases {
+public:
+    virtual ~Databases() = default;
+
+    /// What a file holds: its tables by name, then its views, then linked and system tables.
+    virtual QList<DatabaseObject> Objects(const QString &file, DatabaseRoad road) = 0;
+    /// The fields of a table in their order. Fails with databaseFailures::NotReadable for a view and for a
+    /// linked table.
+    virtual QList<DatabaseField> Fields(const QString &file, const QString &table, DatabaseRoad road) = 0;
+    /// Opens a table to read one field. Fails as Fields does; an unknown field fails with the first row.
+    virtual std::unique_ptr<FieldReader> Read(const QString &file, const QString &table,
+                                              const QString &field) = 0;
+};
+
+} // namespace tressel

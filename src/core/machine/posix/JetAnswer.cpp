@@ -1,0 +1,202 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "machine/posix/JetAnswer.h"
+
+#include "machine/posix/NativePath.h"
+
+#include <algorithm>
+#include <bit>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <utility>
+
+namespace tressel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Failure FailureOfOpening(const QString &file, const NativePath &path, int error)
+{
+    const bool isMissing = error == ENOENT || error == ENOTDIR || error == ENAMETOOLONG;
+    if (isMissing && path.NumberOfMissingFile() == FailureNumber::FileNotFound)
+        return Failure(databaseFailures::NoSuchFile, u"Could not find file '%1'."_s.arg(file));
+    if (isMissing)
+        return Failure(databaseFailures::NoSuchFolder, u"'%1' is not a valid path."_s.arg(file));
+    if (error == EACCES || error == EPERM)
+        return Failure(databaseFailures::Refused, u"Could not open '%1'; access is refused."_s.arg(file));
+    return Failure(databaseFailures::Unusable, u"Could not use '%1'; it can't be opened."_s.arg(file));
+}
+
+/// Only regular files: a folder holds no tables, and a pipe would have to be waited for.
+Descriptor OpenDatabase(const QString &file)
+{
+    const NativePath path(file);
+    if (path.Problem())
+        throw Failure(databaseFailures::NoSuchFolder, u"'%1' is not a valid path."_s.arg(file));
+    Descriptor opened(openat(path.Folder(), path.Rest(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    if (!opened.IsOpen())
+        throw FailureOfOpening(file, path, errno);
+    struct stat status = {};
+    if (fstat(opened.Number(), &status) != 0 || !S_ISREG(status.st_mode))
+        throw Failure(databaseFailures::Refused, u"Could not open '%1'; it is no file."_s.arg(file));
+    return opened;
+}
+
+std::u16string_view View(const QString &text)
+{
+    return {reinterpret_cast<const char16_t *>(text.utf16()), static_cast<std::size_t>(text.size())};
+}
+
+std::string FrameOf(const JetQuestion &question)
+{
+    jet::Packer packer(question.kind);
+    packer.Number8(question.road == DatabaseRoad::Older ? 1 : 0);
+    packer.Text(View(question.table)).Text(View(question.field));
+    return packer.Frame();
+}
+
+std::optional<DatabaseValue> GuidFrom(std::string_view bytes)
+{
+    if (bytes.size() != 16)
+        return {};
+    return GuidValue{QByteArray(bytes.data(), static_cast<qsizetype>(bytes.size()))};
+}
+
+std::optional<DatabaseValue> DecimalFrom(jet::Unpacker &unpacker)
+{
+    constexpr std::size_t mostDigits = 39;
+    DecimalValue value;
+    value.negative = unpacker.Number8() != 0;
+    value.scale = unpacker.Number8();
+    const std::string_view digits = unpacker.Rest();
+    const bool areDigits =
+        std::ranges::all_of(digits, [](char digit) { return digit >= '0' && digit <= '9'; });
+    if (digits.empty() || digits.size() > mostDigits || !areDigits)
+        return {};
+    value.digits = QByteArray(digits.data(), static_cast<qsizetype>(digits.size()));
+    return value;
+}
+
+std::optional<DatabaseValue> Unpack(jet::ValueKind kind, jet::Unpacker &unpacker)
+{
+    switch (kind) {
+    case jet::ValueKind::Null:
+        return std::monostate();
+    case jet::ValueKind::Boolean:
+        return unpacker.Number8() != 0;
+    case jet::ValueKind::Integer:
+        return static_cast<std::int64_t>(unpacker.Number64());
+    case jet::ValueKind::Money:
+        return MoneyValue{static_cast<std::int64_t>(unpacker.Number64())};
+    case jet::ValueKind::Single:
+        return std::bit_cast<float>(unpacker.Number32());
+    case jet::ValueKind::Double:
+        return std::bit_cast<double>(unpacker.Number64());
+    case jet::ValueKind::Date:
+        return DateValue{std::bit_cast<double>(unpacker.Number64())};
+    case jet::ValueKind::Text:
+        return QString::fromStdU16String(unpacker.Text());
+    case jet::ValueKind::Guid:
+        return GuidFrom(unpacker.Rest());
+    case jet::ValueKind::Decimal:
+        return DecimalFrom(unpacker);
+    case jet::ValueKind::Binary:
+        return BinaryValue();
+    }
+    return {};
+}
+
+} // namespace
+
+JetAnswer::JetAnswer(JetQuestion asked, const QByteArray &program, Events &events,
+                     std::chrono::milliseconds patience)
+    : question(std::move(asked))
+    , process(program, OpenDatabase(question.file), FrameOf(question), events, patience)
+{
+    const JetProcess::Frame hello = NextFrame();
+    if (hello.kind != jet::FrameKind::Hello || hello.content != std::string(1, char{jet::ProtocolVersion}))
+        throw Damaged();
+}
+
+std::optional<std::string> JetAnswer::Next(jet::FrameKind kind)
+{
+    JetProcess::Frame frame = NextFrame();
+    if (frame.kind == jet::FrameKind::End) {
+        jet::Unpacker unpacker(frame.content);
+        if (unpacker.Number64() != count || !unpacker.IsWhole())
+            throw Damaged();
+        return {};
+    }
+    if (frame.kind != kind)
+        throw Damaged();
+    ++count;
+    return std::move(frame.content);
+}
+
+void JetAnswer::Expect(jet::FrameKind kind)
+{
+    const JetProcess::Frame frame = NextFrame();
+    if (frame.kind != kind || !frame.content.empty())
+        throw Damaged();
+}
+
+JetProcess::Frame JetAnswer::NextFrame()
+{
+    auto frame = process.Next();
+    if (!frame)
+        throw Damaged();
+    if (frame->kind == jet::FrameKind::Failed)
+        throw FailureOf(frame->content);
+    return std::move(*frame);
+}
+
+Failure JetAnswer::Damaged() const
+{
+    return Failure(databaseFailures::Unusable,
+                   u"Could not use '%1'; file already in use or damaged."_s.arg(question.file));
+}
+
+Failure JetAnswer::FailureOf(const std::string &content) const
+{
+    jet::Unpacker unpacker(content);
+    switch (static_cast<jet::FailureCode>(unpacker.Number8())) {
+    case jet::FailureCode::UnknownFormat:
+        return Failure(databaseFailures::UnknownFormat,
+                       u"Unrecognized database format '%1'."_s.arg(question.file));
+    case jet::FailureCode::Password:
+        return Failure(databaseFailures::Protected,
+                       u"Could not open '%1'; it is protected by a password."_s.arg(question.file));
+    case jet::FailureCode::Encrypted:
+        return Failure(databaseFailures::Protected,
+                       u"Could not open '%1'; it is encrypted."_s.arg(question.file));
+    case jet::FailureCode::NoSuchTable:
+        return Failure(databaseFailures::NoSuchTable,
+                       u"Could not find the table '%1'."_s.arg(question.table));
+    case jet::FailureCode::IsView:
+        return Failure(databaseFailures::NotReadable,
+                       u"'%1' is a query. Only tables can be read."_s.arg(question.table));
+    case jet::FailureCode::IsLinked:
+        return Failure(
+            databaseFailures::NotReadable,
+            u"'%1' is linked from another database. Only tables in the file itself can be read."_s.arg(
+                question.table));
+    case jet::FailureCode::NoSuchField:
+        return Failure(databaseFailures::NoSuchField,
+                       u"The table '%1' has no field '%2'."_s.arg(question.table, question.field));
+    case jet::FailureCode::Damaged:
+        break;
+    }
+    return Damaged();
+}
+
+std::optional<DatabaseValue> ValueFromFrame(const std::string &content)
+{
+    jet::Unpacker unpacker(content);
+    auto value = Unpack(static_cast<jet::ValueKind>(unpacker.Number8()), unpacker);
+    return unpacker.IsWhole() ? value : std::nullopt;
+}
+
+} // namespace tressel

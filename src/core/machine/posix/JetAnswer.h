@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "jet/Wire.h"
+#include "machine/Databases.h"
+#include "machine/posix/JetProcess.h"
+
+#include <QString>
+
+#include <optional>
+#include <string>
+
+namespace tressel {
+
+/// What a question is about, for the sentences of its failures.
+struct JetQuestion {
+    jet::FrameKind kind;
+    QString file;
+    QString table;
+    QString field;
+    DatabaseRoad road = DatabaseRoad::Newer;
+};
+
+/// The answer to one question, frame by frame. Whatever is wrong with it is one of databaseFailures. Nothing
+/// in an answer is believed: a damaged file may have taken the other process over.
+class JetAnswer {
+public:
+    /// Opens the file and asks.
+    JetAnswer(JetQuestion question, const QByteArray &program, Events &events,
+              std::chrono::milliseconds patience);
+
+    /// The content of the next frame, which must be of this kind; nothing at the end of the whole answer.
+    std::optional<std::string> Next(jet::FrameKind kind);
+    /// Waits for a frame of this kind without content.
+    void Expect(jet::FrameKind kind);
+
+    /// The failure of an answer that can't be one.
+    Failure Damaged() const;
+
+private:
+    JetProcess::Frame NextFrame();
+    Failure FailureOf(const std::string &content) const;
+
+    JetQuestion question;
+    JetProcess process;
+    quint64 count = 0;
+};
+
+/// A content as a value. Nothing if it is none.
+std::optional<DatabaseValue> ValueFromFrame(const std::string &content);
+
+} // namespace tressel

@@ -1,0 +1,152 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "support/MemoryDatabases.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <utility>
+
+namespace tressel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool AreSame(const QString &one, const QString &other)
+{
+    return one.compare(other, Qt::CaseInsensitive) == 0;
+}
+
+/// Reads a field of a table that no longer changes.
+class MemoryFieldReader : public FieldReader {
+public:
+    MemoryFieldReader(MemoryDatabases &databases, MemoryTable table, const QString &field)
+        : databases(databases)
+        , table(std::move(table))
+    {
+        const auto found = std::ranges::find_if(
+            this->table.fields, [&](const DatabaseField &each) { return AreSame(each.name, field); });
+        if (found != this->table.fields.end())
+            column = found - this->table.fields.begin();
+    }
+    std::optional<DatabaseValue> Next() override
+    {
+        if (row >= table.rows.size())
+            return {};
+        databases.Obey(u"NextValue"_s);
+        if (column < 0)
+            throw Failure(databaseFailures::NoSuchField, u"No such field."_s);
+        return table.rows.at(row++).at(column);
+    }
+
+private:
+    MemoryDatabases &databases;
+    MemoryTable table;
+    qsizetype column = -1;
+    qsizetype row = 0;
+};
+
+} // namespace
+
+MemoryDatabases::~MemoryDatabases()
+{
+    for (const FailureOrder &order : orders)
+        ADD_FAILURE() << "an ordered failure never came: " << qPrintable(order.what);
+}
+
+void MemoryDatabases::PutDatabase(const QString &file)
+{
+    files.insert(file.toCaseFolded(), {});
+}
+
+void MemoryDatabases::PutTable(const QString &file, const MemoryTable &table)
+{
+    files[file.toCaseFolded()].tables.append(table);
+}
+
+void MemoryDatabases::PutTexts(const QString &file, const QString &table, const QString &field,
+                               const QStringList &values)
+{
+    QList<QList<DatabaseValue>> rows;
+    for (const QString &value : values)
+        rows.append({value});
+    PutTable(file, {table, {{field, fieldTypes::Text, 50}}, rows});
+}
+
+void MemoryDatabases::Remove(const QString &file)
+{
+    files.remove(file.toCaseFolded());
+}
+
+void MemoryDatabases::MakeOldest(const QString &file)
+{
+    files[file.toCaseFolded()].isOldest = true;
+}
+
+void MemoryDatabases::OrderFailure(const QString &what, int nth, const Failure &failure)
+{
+    orders.append({what, nth, failure});
+}
+
+QList<DatabaseObject> MemoryDatabases::Objects(const QString &file, DatabaseRoad road)
+{
+    Note(u"ListObjects"_s, file, {});
+    QList<DatabaseObject> objects;
+    for (const MemoryTable &table : Find(file, road).tables)
+        objects.append({table.name, table.kind});
+    return objects;
+}
+
+QList<DatabaseField> MemoryDatabases::Fields(const QString &file, const QString &table, DatabaseRoad road)
+{
+    Note(u"ListFields"_s, file, table);
+    return Find(file, table, road).fields;
+}
+
+std::unique_ptr<FieldReader> MemoryDatabases::Read(const QString &file, const QString &table,
+                                                   const QString &field)
+{
+    Note(u"OpenTable"_s, file, table + u' ' + field);
+    return std::make_unique<MemoryFieldReader>(*this, Find(file, table, DatabaseRoad::Newer), field);
+}
+
+void MemoryDatabases::Obey(const QString &what)
+{
+    for (qsizetype index = 0; index < orders.size(); ++index) {
+        FailureOrder &order = orders[index];
+        if (order.what != what || --order.remaining > 0)
+            continue;
+        throw orders.takeAt(index).failure;
+    }
+}
+
+void MemoryDatabases::Note(const QString &what, const QString &file, const QString &detail)
+{
+    journal.Note(what, file, detail);
+    Obey(what);
+}
+
+const MemoryDatabases::File &MemoryDatabases::Find(const QString &file, DatabaseRoad road) const
+{
+    const auto found = files.find(file.toCaseFolded());
+    if (found == files.end())
+        throw Failure(databaseFailures::NoSuchFile, u"Could not find file '%1'."_s.arg(file));
+    if (road == DatabaseRoad::Older && !found->isOldest)
+        throw Failure(databaseFailures::UnknownFormat, u"'%1' has another format."_s.arg(file));
+    return *found;
+}
+
+const MemoryTable &MemoryDatabases::Find(const QString &file, const QString &table, DatabaseRoad road) const
+{
+    const QList<MemoryTable> &tables = Find(file, road).tables;
+    const auto found =
+        std::ranges::find_if(tables, [&](const MemoryTable &each) { return AreSame(each.name, table); });
+    if (found == tables.end())
+        throw Failure(databaseFailures::NoSuchTable, u"There is no table '%1'."_s.arg(table));
+    if (found->kind == DatabaseObjectKind::View || found->kind == DatabaseObjectKind::LinkedTable)
+        throw Failure(databaseFailures::NotReadable, u"'%1' can't be read."_s.arg(table));
+    return *found;
+}
+
+} // namespace tressel
