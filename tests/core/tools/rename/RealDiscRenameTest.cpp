@@ -33,8 +33,9 @@ protected:
 
     Machine MachineOnDisc()
     {
-        return {files,           machine.hive,   machine.clock,     machine.sound,  machine.shell,
-                machine.dialogs, machine.events, machine.clipboard, machine.screen, machine.program};
+        return {files,          machine.hive,    machine.clock,    machine.sound,
+                machine.shell,  machine.dialogs, machine.events,   machine.clipboard,
+                machine.screen, machine.program, machine.databases};
     }
     void Put(const QByteArray &name)
     {
