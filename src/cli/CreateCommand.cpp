@@ -20,7 +20,7 @@ std::optional<QString> WhatIsWrong(const CreateRequest &request, FileSystem &fil
 {
     if (request.listFile) {
         try {
-            files.Open(*request.listFile, OpenFor::Reading, Sharing::Shared);
+            files.Open(*request.listFile, OpenFor::Streaming, Sharing::Shared);
         } catch (const Failure &failure) {
             return u"the list file %1 can't be read: %2"_s.arg(*request.listFile, failure.description);
         }
@@ -44,6 +44,7 @@ bool FillList(const CreateRequest &request, ConsoleMachine &machine, MainForm &f
     form.area.chkExtension.SetChecked(request.removeExtension);
     if (request.listFile) {
         machine.dialogs.namedFile = *request.listFile;
+        form.listFile.purpose = OpenFor::Streaming;
         form.textLists.btnGBLoadFile.UserClicks();
     } else if (request.namesOf) {
         form.browse.FileList.SetPath(*request.namesOf);

@@ -18,6 +18,7 @@ public:
     }
 
     QChar Separator() const override { return files.Separator(); }
+    std::unique_ptr<FolderHold> Hold(const QString &folder) override { return files.Hold(folder); }
     std::optional<FileStatus> Status(const QString &path, Links links) override
     {
         return files.Status(path, links);
@@ -46,6 +47,8 @@ public:
     {
         return files.Replace(path, ifThere);
     }
+    QString LinkTarget(const QString &path) override { return files.LinkTarget(path); }
+    void MakeLink(const QString &path, const QString &target) override { files.MakeLink(path, target); }
     void SetReadOnly(const QString &path, bool readOnly) override { files.SetReadOnly(path, readOnly); }
     QList<Volume> Volumes() override { return files.Volumes(); }
     QString VolumeLabel(const QString &path) override { return files.VolumeLabel(path); }

@@ -165,7 +165,9 @@ void MainForm::TiePathRow()
         const QString text = area.TVList.Nodes().at(node).text;
         SetCaption(text);
         // What isn't there yet can't be opened, and nobody is told.
-        machine.shell.Open(EntryToPath(machine.files, text), area.txtStrtPath.Text());
+        const QString start = area.txtStrtPath.Text();
+        if (const auto folder = FolderBelow(machine.files, start, text))
+            machine.shell.Open(*folder, start);
     });
 }
 

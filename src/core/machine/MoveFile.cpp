@@ -5,6 +5,7 @@
 
 #include "base/Steps.h"
 #include "machine/FileSystem.h"
+#include "machine/Paths.h"
 
 namespace tressel {
 
@@ -12,11 +13,42 @@ namespace {
 
 constexpr qint64 copiedAtOnce = 1 << 20;
 
-void CopyContents(OpenFile &source, OpenFile &target)
+void CopyDown(OpenFile &source, OpenFile &target)
 {
     for (QByteArray piece = source.Read(copiedAtOnce); !piece.isEmpty(); piece = source.Read(copiedAtOnce))
         target.Write(piece);
+    target.TakeAttributesOf(source);
+    // What is removed then must be there after a loss of power too.
+    target.Flush();
     target.Close();
+}
+
+void MoveByCopy(FileSystem &files, const QString &from, const QString &to)
+{
+    const auto source = files.Open(from, OpenFor::Reading);
+    const auto target = files.Open(to, OpenFor::Creating);
+    try {
+        CopyDown(*source, *target);
+        source->Close();
+        files.RemoveFile(from);
+    } catch (const Failure &) {
+        Steps undoing;
+        undoing.Do([&] { target->Close(); });
+        undoing.Do([&] { files.RemoveFile(to); });
+        throw;
+    }
+}
+
+void MoveLink(FileSystem &files, const QString &from, const QString &to)
+{
+    files.MakeLink(to, files.LinkTarget(from));
+    try {
+        files.RemoveFile(from);
+    } catch (const Failure &) {
+        Steps undoing;
+        undoing.Do([&] { files.RemoveFile(to); });
+        throw;
+    }
 }
 
 } // namespace
@@ -31,18 +63,12 @@ void MoveFile(FileSystem &files, const QString &from, const QString &to)
         if (failure.number != FailureNumber::PathFileAccessError)
             throw;
     }
-    const auto source = files.Open(from, OpenFor::Reading);
-    const auto target = files.Open(to, OpenFor::Creating);
-    try {
-        CopyContents(*source, *target);
-        source->Close();
-        files.RemoveFile(from);
-    } catch (const Failure &) {
-        Steps undoing;
-        undoing.Do([&] { target->Close(); });
-        undoing.Do([&] { files.RemoveFile(to); });
-        throw;
-    }
+    const auto hold = files.Hold(FolderOf(files, from));
+    const auto status = files.Status(from, Links::Keep);
+    if (status && status->kind == EntryKind::Link)
+        MoveLink(files, from, to);
+    else
+        MoveByCopy(files, from, to);
 }
 
 } // namespace tressel

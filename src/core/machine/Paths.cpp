@@ -50,6 +50,18 @@ bool FileExists(FileSystem &files, const QString &path)
     return status && status->kind != EntryKind::Folder;
 }
 
+std::optional<QString> FolderBelow(FileSystem &files, const QString &start, const QString &entry)
+{
+    const QString below = EntryToPath(files, entry);
+    // Separators alone name the start folder itself.
+    if (start.isEmpty() || below.count(files.Separator()) == below.size())
+        return {};
+    const auto hold = files.Hold(start);
+    const QString path = JoinPath(files, start, below);
+    const auto status = files.Status(path, Links::Keep);
+    return status && status->kind == EntryKind::Folder ? std::optional(path) : std::nullopt;
+}
+
 QString FileNameOf(const FileSystem &files, const QString &path)
 {
     return path.mid(path.lastIndexOf(files.Separator()) + 1);

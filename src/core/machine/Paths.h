@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace tressel {
 
 class FileSystem;
@@ -24,6 +26,10 @@ bool FolderExists(FileSystem &files, const QString &path);
 
 /// True if something is there and it isn't a folder; a link to a file counts as one.
 bool FileExists(FileSystem &files, const QString &path);
+
+/// The path of the folder that an entry names below a start folder; nothing if none is there, or if a link or
+/// ".." leads to it.
+std::optional<QString> FolderBelow(FileSystem &files, const QString &start, const QString &entry);
 
 /// What stands behind the last separator; the whole path without one.
 QString FileNameOf(const FileSystem &files, const QString &path);

@@ -3,10 +3,12 @@
 
 #include "machine/posix/PosixOpenFile.h"
 
+#include "machine/posix/FileRights.h"
 #include "machine/posix/Retried.h"
 #include "machine/posix/SystemError.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <new>
 #include <sys/stat.h>
@@ -116,6 +118,16 @@ void PosixOpenFile::Close()
         return;
     // An interrupted close has closed the file all the same.
     if (close(file.Release()) != 0 && errno != EINTR)
+        ThrowError();
+}
+
+void PosixOpenFile::TakeAttributesOf(const OpenFile &other)
+{
+    const auto &from = dynamic_cast<const PosixOpenFile &>(other);
+    const FileRights rights(from.Number());
+    rights.GiveTo(file.Number());
+    const std::array<timespec, 2> times{rights.Status().st_atim, rights.Status().st_mtim};
+    if (futimens(file.Number(), times.data()) != 0)
         ThrowError();
 }
 

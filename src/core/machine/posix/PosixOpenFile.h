@@ -23,6 +23,7 @@ public:
     qint64 Length() const override;
     void Flush() override;
     void Close() override;
+    void TakeAttributesOf(const OpenFile &other) override;
 
     /// What the system knows it by, -1 once it is closed.
     int Number() const { return file.Number(); }

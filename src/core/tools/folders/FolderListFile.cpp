@@ -112,7 +112,7 @@ void FolderListFile::BeginList()
 
 void FolderListFile::ReadList()
 {
-    LineReader reader(files, session.ListFile);
+    LineReader reader(files, session.ListFile, NameBytes::Escaped, largestList, purpose);
     ReadLines(reader);
     tree.RefreshFolderTree();
     TellLoaded();

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "base/Failure.h"
+#include "machine/FileSystem.h"
 #include "tools/ToolContext.h"
 
 #include <functional>
@@ -30,6 +31,9 @@ public:
     void LoadReportList();
     /// Writes the list to session.ListFile, in place of what was there. A failure leaves the old file whole.
     void SaveList();
+
+    /// How session.ListFile is opened: Streaming where somebody has just named it and waits for it.
+    OpenFor purpose = OpenFor::Reading;
 
 private:
     void BeginList();

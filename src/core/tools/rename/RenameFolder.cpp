@@ -11,6 +11,7 @@ namespace tressel {
 RenameFolder::RenameFolder(FileSystem &fileSystem, const QString &folder)
     : files(fileSystem)
     , base(WithSeparator(files, folder))
+    , hold(files.Hold(folder))
 {
     for (const FolderEntry &entry : files.List(folder)) {
         const bool isFolder = entry.kind == EntryKind::Folder
@@ -18,6 +19,8 @@ RenameFolder::RenameFolder(FileSystem &fileSystem, const QString &folder)
         (isFolder ? folders : others) += entry.name;
     }
 }
+
+RenameFolder::~RenameFolder() = default;
 
 void RenameFolder::Rename(const QString &name, const QString &newName)
 {
