@@ -66,6 +66,7 @@ public:
     QChar Separator() const override { return u'\\'; }
     std::unique_ptr<FolderHold> Hold(const QString &folder) override;
     std::optional<FileStatus> Status(const QString &path, Links links) override;
+    /// Without a word in the journal.
     QList<FolderEntry> List(const QString &folder, Lengths lengths = Lengths::LeftOut) override;
     std::unique_ptr<FolderReader> Read(const QString &folder, Lengths lengths = Lengths::LeftOut) override;
     std::optional<Failure> TryMakeFolder(const QString &path) override;

@@ -71,6 +71,11 @@ QByteArray EncodeText(const QString &text, NameBytes nameBytes)
     return bytes;
 }
 
+LineReader::LineReader(QString whole)
+    : text(std::move(whole))
+{
+}
+
 LineReader::LineReader(FileSystem &files, const QString &path, NameBytes nameBytes, qint64 largest,
                        OpenFor purpose)
     : text(DecodeText(ReadWhole(files, path, largest, purpose), nameBytes))

@@ -27,6 +27,8 @@ public:
     /// Takes the whole file in. Fails as ReadWhole does.
     LineReader(FileSystem &files, const QString &path, NameBytes nameBytes = NameBytes::Escaped,
                qint64 largest = largestList, OpenFor purpose = OpenFor::Reading);
+    /// Reads a text that is in memory.
+    explicit LineReader(QString text);
 
     /// The next line without its end, nothing after the last.
     std::optional<QString> Next();
