@@ -4,7 +4,7 @@
 #include "faces/PictureFace.h"
 
 #include "faces/Keys.h"
-#include "faces/Twips.h"
+#include "base/Twips.h"
 
 #include <QMouseEvent>
 

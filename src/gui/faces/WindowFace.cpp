@@ -4,7 +4,7 @@
 #include "faces/WindowFace.h"
 
 #include "faces/FaceUpdates.h"
-#include "faces/Twips.h"
+#include "base/Twips.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
