@@ -155,8 +155,7 @@ void DrawFocusMark(Canvas &canvas, const IsButton &button, const ButtonSurroundi
     if (!face.focused || hasRing || !(button.ShowFocus() || around.marksFocus))
         return;
     const int inset = look ? look->FocusInset(face) : plainFocusInset;
-    // A rounder corner would reach the caption's box.
-    const qreal radius = look ? std::clamp(look->CornerRadius() - inset, 0.0, 2.0) : 0;
+    const qreal radius = look ? std::max(0.0, look->CornerRadius() - inset) : 0;
     canvas.RoundFrame(inset, inset, canvas.Width() - 2 * inset - 1, canvas.Height() - 2 * inset - 1, radius,
                       TextColour(button, face));
 }

@@ -117,11 +117,8 @@ public:
     }
     bool HasLightFace(const FaceToDraw &) const override { return true; }
     qreal CornerRadius() const override { return 9; }
-    /// The blue pill tells the focus where it tells nothing else.
-    bool ShowsFocus(const FaceToDraw &face) const override
-    {
-        return face.state == LookState::Normal || face.state == LookState::Disabled;
-    }
+    /// The blue pill tells of the focus, under the pointer as well.
+    bool ShowsFocus(const FaceToDraw &face) const override { return face.state != LookState::Pressed; }
 
 private:
     /// The lines of the four sides, on the design's own grid.
