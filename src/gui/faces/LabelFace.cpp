@@ -3,8 +3,8 @@
 
 #include "faces/LabelFace.h"
 
-#include "faces/Keys.h"
 #include "base/Twips.h"
+#include "faces/Keys.h"
 
 #include <QGuiApplication>
 #include <QMouseEvent>

@@ -3,8 +3,8 @@
 
 #include "faces/PictureFace.h"
 
-#include "faces/Keys.h"
 #include "base/Twips.h"
+#include "faces/Keys.h"
 
 #include <QMouseEvent>
 

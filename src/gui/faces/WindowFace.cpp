@@ -3,8 +3,8 @@
 
 #include "faces/WindowFace.h"
 
-#include "faces/FaceUpdates.h"
 #include "base/Twips.h"
+#include "faces/FaceUpdates.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
