@@ -3,8 +3,8 @@
 
 #include "faces/LabelFace.h"
 
+#include "base/Twips.h"
 #include "faces/Keys.h"
-#include "faces/Twips.h"
 
 #include <QGuiApplication>
 #include <QMouseEvent>

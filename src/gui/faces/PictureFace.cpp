@@ -3,8 +3,8 @@
 
 #include "faces/PictureFace.h"
 
+#include "base/Twips.h"
 #include "faces/Keys.h"
-#include "faces/Twips.h"
 
 #include <QMouseEvent>
 

@@ -3,8 +3,8 @@
 
 #include "faces/WindowFace.h"
 
+#include "base/Twips.h"
 #include "faces/FaceUpdates.h"
-#include "faces/Twips.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>

@@ -3,7 +3,7 @@
 
 #include "machine/QtScreen.h"
 
-#include "faces/Twips.h"
+#include "base/Twips.h"
 
 #include <QGuiApplication>
 #include <QScreen>

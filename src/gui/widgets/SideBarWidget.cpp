@@ -3,9 +3,9 @@
 
 #include "widgets/SideBarWidget.h"
 
+#include "base/Twips.h"
 #include "controls/Frame.h"
 #include "controls/SideBar.h"
-#include "faces/Twips.h"
 #include "widgets/SideBarAccessible.h"
 #include "widgets/SystemColours.h"
 

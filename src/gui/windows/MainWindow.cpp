@@ -3,7 +3,7 @@
 
 #include "windows/MainWindow.h"
 
-#include "faces/Twips.h"
+#include "base/Twips.h"
 #include "forms/MainForm.h"
 #include "widgets/IsButtonWidget.h"
 #include "widgets/ProgramIcons.h"

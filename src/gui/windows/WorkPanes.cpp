@@ -3,7 +3,7 @@
 
 #include "windows/WorkPanes.h"
 
-#include "faces/Twips.h"
+#include "base/Twips.h"
 #include "windows/SplitBar.h"
 
 namespace tressel {

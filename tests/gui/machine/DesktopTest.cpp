@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
-#include "faces/Twips.h"
+#include "base/Twips.h"
 #include "gui/GuiTest.h"
 #include "machine/CanberraSound.h"
 #include "machine/QtClipboard.h"
