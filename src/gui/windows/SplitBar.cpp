@@ -116,7 +116,7 @@ bool SplitGripFace::eventFilter(QObject *watched, QEvent *event)
     const int x = ToTwips(move->position().toPoint().x()) - (strip->Left() - bar->Panes()->ShownStripLeft());
     const int buttons = move->buttons() & Qt::LeftButton ? PictureBox::leftButton : 0;
     Hand([&] { box.UserMovesMouse(buttons, x); });
-    return false;
+    return true;
 }
 
 } // namespace tressel

@@ -140,7 +140,6 @@ private Q_SLOTS:
         request.filter = u"All Files (*.*)|*.*|TXT Files (*.txt)|*.txt|DOC Files (*.doc)|*.doc|"_s;
         request.filterIndex = 4;
         request.defaultExtension = u".txt"_s;
-        request.mustExist = true;
         WhenUp<QFileDialog>([&](QFileDialog &dialog) {
             QCOMPARE(dialog.windowTitle(), u"Open file"_s);
             QCOMPARE(dialog.directory().path(), folder.path());

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
+#include "faces/SelfDrawnFace.h"
 #include "gui/GuiTest.h"
 #include "gui/faces/Bound.h"
 #include "gui/widgets/SideBarStage.h"
-#include "widgets/SideBarFace.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -69,7 +69,7 @@ private Q_SLOTS:
     void PagesStayLightOnADarkDesktop();
     void TheMenuShowsAndHidesEntries();
     void WithoutShowMenuThereIsNoMenu();
-    void CutAndIconEntriesHaveToolTips();
+    void EntriesHaveToolTipsWithTheirKeys();
     void DisabledLooksDifferentAndTakesNoClicks();
     void PropertiesTellTheState();
     void UnknownFontsFallBack();
@@ -545,7 +545,7 @@ void SideBarWidgetTest::WithoutShowMenuThereIsNoMenu()
     QVERIFY(!QApplication::activePopupWidget());
 }
 
-void SideBarWidgetTest::CutAndIconEntriesHaveToolTips()
+void SideBarWidgetTest::EntriesHaveToolTipsWithTheirKeys()
 {
     Bar().SetVisibleItems(4);
     Widget().resize(200, 640);
@@ -555,9 +555,9 @@ void SideBarWidgetTest::CutAndIconEntriesHaveToolTips()
         QApplication::sendEvent(&Widget(), &event);
         return QToolTip::isVisible() ? QToolTip::text() : QString();
     };
-    QCOMPARE(tipAt(1), QString());
-    QCOMPARE(tipAt(2), u"Get Text, File List, Safe Erase"_s);
-    QCOMPARE(tipAt(6), u"Empty Dir Remover"_s);
+    QCOMPARE(tipAt(1), u"Browse Files (Ctrl+1)"_s);
+    QCOMPARE(tipAt(2), u"Get Text, File List, Safe Erase (Ctrl+2)"_s);
+    QCOMPARE(tipAt(6), u"Empty Dir Remover (Ctrl+6)"_s);
     QToolTip::hideText();
 }
 
@@ -625,7 +625,7 @@ void SideBarWidgetTest::ASizeSetByTheFormsAnswerIsTakenOver()
 {
     Bar().StripResize.Handle([this] { Widget().resize(500, 640); });
     Bar().SetVisibleItems(2);
-    Bar().TakeRoom(1);
+    Bar().TakeRoom(1, 1);
     Widget().Refresh();
     QTRY_COMPARE(Widget().PageRect().width(), 498);
 }
@@ -669,7 +669,8 @@ void SideBarWidgetTest::TheBinderTiesItToItsControl()
     bar.Items().Add(u"Item: 1"_s, u"Browse Files "_s).SetPage(first);
     bar.Items().Add(u"Item: 2"_s, u"Get Text, File List, Safe Erase"_s).SetPage(second);
     Bound bound(form);
-    bound.makers.Add<SideBar, SideBarWidget, SideBarFace>();
+    bound.makers
+        .Add<SideBar, SideBarWidget, SelfDrawnFace<SideBar, SideBarWidget, &SideBarWidget::Refresh>>();
     auto &widget = bound.Add<SideBarWidget>(bar.Name());
     widget.resize(300, 300);
     for (const Frame *frame : {&first, &second}) {
