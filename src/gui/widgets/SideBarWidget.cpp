@@ -14,6 +14,7 @@
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
@@ -36,6 +37,19 @@ constexpr int keyCount = 9;
 QKeySequence KeyOf(int number)
 {
     return QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + number));
+}
+
+/// The toolkit leaves the layouts of a hidden page as they were; this brings them up to date, the inner ones
+/// first.
+void ActivateLayouts(QWidget &page)
+{
+    const QList<QWidget *> inner = page.findChildren<QWidget *>();
+    for (auto widget = inner.crbegin(); widget != inner.crend(); ++widget) {
+        if (QLayout *layout = (*widget)->layout())
+            layout->activate();
+    }
+    if (page.layout())
+        page.layout()->activate();
 }
 
 } // namespace
@@ -162,6 +176,8 @@ SideBarWidget::PageHeights SideBarWidget::HeightsOfPages() const
 {
     PageHeights heights;
     for (const HostedPage &page : pages) {
+        if (!page.widget->isVisible())
+            ActivateLayouts(*page.widget);
         const int least = std::max(page.widget->minimumSizeHint().height(), page.widget->minimumHeight());
         heights.least = std::max(heights.least, least);
         heights.whole = std::max({heights.whole, least, page.widget->sizeHint().height()});

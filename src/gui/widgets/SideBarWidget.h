@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "faces/PageHost.h"
 #include "widgets/SideBarLayout.h"
 #include "widgets/SideBarLook.h"
 #include "widgets/SideBarPainter.h"
@@ -27,7 +28,7 @@ class SideBar;
 /// everywhere in the window.
 ///
 /// The properties are the control's, for programs that drive and read the window.
-class SideBarWidget : public QWidget {
+class SideBarWidget : public QWidget, public PageHost {
     Q_OBJECT
     Q_PROPERTY(QString Caption READ Caption NOTIFY Changed)
     Q_PROPERTY(QString text READ Caption NOTIFY Changed)

@@ -154,6 +154,49 @@ private Q_SLOTS:
         QCOMPARE(answer->folder, folder.path());
     }
 
+    void AFileThatIsThereIsOpenedUnderItsOwnName()
+    {
+        QTemporaryDir folder;
+        for (const QString &name : {u"names"_s, u"names.txt"_s, u"other.txt"_s}) {
+            QFile file(folder.filePath(name));
+            QVERIFY(file.open(QFile::WriteOnly));
+        }
+        FileDialogRequest request;
+        request.folder = folder.path();
+        request.defaultExtension = u".txt"_s;
+        const auto opened = [&](const QString &typed) {
+            WhenUp<QFileDialog>([&](QFileDialog &dialog) {
+                dialog.findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(typed);
+                Accept(dialog);
+            });
+            const auto answer = dialogs.OpenFile(request);
+            return answer ? answer->paths : QStringList();
+        };
+        QCOMPARE(opened(folder.filePath(u"names"_s)), QStringList(folder.filePath(u"names"_s)));
+        QCOMPARE(opened(u"names"_s), QStringList(folder.filePath(u"names"_s)));
+        QCOMPARE(opened(folder.filePath(u"other"_s)), QStringList(folder.filePath(u"other.txt"_s)));
+    }
+
+    void AFileThatIsNotThereIsNotOpened()
+    {
+        QTemporaryDir folder;
+        FileDialogRequest request;
+        request.folder = folder.path();
+        request.defaultExtension = u".txt"_s;
+        int told = 0;
+        WhenUp<QFileDialog>([&](QFileDialog &dialog) {
+            dialog.findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(folder.filePath(u"gone"_s));
+            Accept(dialog);
+            WhenUp<QMessageBox>([&](QMessageBox &box) {
+                ++told;
+                box.accept();
+                WhenUp<QFileDialog>([](QFileDialog &still) { still.reject(); });
+            });
+        });
+        QVERIFY(!dialogs.OpenFile(request));
+        QCOMPARE(told, 1);
+    }
+
     void CancelledFileDialogsAnswerNothing()
     {
         const auto reject = [](QFileDialog &dialog) { dialog.reject(); };

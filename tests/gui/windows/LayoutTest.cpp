@@ -149,6 +149,8 @@ private Q_SLOTS:
                              qPrintable(control->Name()));
             }
             QVERIFY(page.width() >= area->widget()->minimumSizeHint().width());
+            QVERIFY(stage.Face<QTreeView>(u"TVList"_s).viewport()->height() > 60);
+            QVERIFY(stage.Face<QListView>(u"LstItem"_s).viewport()->height() > 60);
         }
     }
 
@@ -236,6 +238,49 @@ private Q_SLOTS:
         const qsizetype bar = stops.indexOf(u"PicStrip"_s);
         QVERIFY(bar > stops.indexOf(enabled.last()));
         QCOMPARE(stops.mid(bar, 4), behind);
+    }
+
+    void NoPageShowsWhereTheLoadEndedBeforeTheSideBarHadItsEntries()
+    {
+        DesktopStage stage;
+        stage.Put(keys::WindowLeft, u"no number"_s);
+        stage.Start();
+        const auto &bar = stage.Face<SideBarWidget>(u"EyeDropper1"_s);
+        QCOMPARE(bar.Count(), 0);
+        QVERIFY(bar.isVisible());
+        for (int page = 0; page < 8; ++page) {
+            const QString name = u"FrameXPMenu(%1)"_s.arg(page);
+            QVERIFY2(!stage.Face<QWidget>(name).isVisible(), qPrintable(name));
+        }
+    }
+
+    void ThePageOfEachEntryIsTheOnlyOneOnShow()
+    {
+        DesktopStage stage;
+        stage.Start();
+        const QList<int> pages{0, 6, 2, 7, 4, 5, 1};
+        for (int entry = 1; entry <= entryCount; ++entry) {
+            stage.OpenEntry(entry);
+            for (int page = 0; page < 8; ++page)
+                QCOMPARE(stage.Face<QWidget>(u"FrameXPMenu(%1)"_s.arg(page)).isVisible(),
+                         page == pages.at(entry - 1));
+        }
+    }
+
+    void TheStripHasTheSameRowsOnEveryPage()
+    {
+        DesktopStage stage;
+        stage.Start();
+        const auto &bar = stage.Face<SideBarWidget>(u"EyeDropper1"_s);
+        for (const int height : {524, 700, 768, 900}) {
+            Resize(stage, QSize(800, height));
+            stage.OpenEntry(1);
+            const int rows = bar.Rows();
+            for (int entry = 2; entry <= entryCount; ++entry) {
+                stage.OpenEntry(entry);
+                QCOMPARE(bar.Rows(), rows);
+            }
+        }
     }
 
     void TheFirstFocusIsThePath()
