@@ -29,6 +29,9 @@ public:
 
     // For faces.
     void UserEdits(const QString &newText);
+    /// The user goes so many entries on from the one that the text stands for, back if below 0. A text that
+    /// is none of the entries leads to the first one, a number that is none leads nowhere.
+    void UserSteps(int count);
 
 protected:
     void OnSelected() override;

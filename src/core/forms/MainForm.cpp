@@ -22,11 +22,7 @@ constexpr int designWidth = 13470;
 constexpr int designHeight = 19275;
 constexpr int narrowest = 8120;
 constexpr int lowest = 6825;
-constexpr int toolbarHeight = 1095;
-constexpr int statusHeight = 315;
-constexpr int barWidth = 80;
-constexpr int gripWidth = 7 * 15;
-constexpr int gripHeight = 43 * 15;
+constexpr int barWidth = 8 * 15;
 
 } // namespace
 
@@ -91,14 +87,7 @@ void MainForm::SetFirstValues()
     SetCaption(u"Tressel"_s);
     SetSize(designWidth, designHeight);
     SetLeastSize(narrowest, lowest);
-    FrmeToolbar.SetHeight(toolbarHeight);
-    FrmeToolbar.SetWidth(designWidth);
     PicStrip.SetWidth(barWidth);
-    PicHold.SetWidth(gripWidth);
-    PicHold.SetHeight(gripHeight);
-    PicStatus.SetWidth(designWidth);
-    PicStatus.SetHeight(statusHeight);
-    PicStatus.SetTop(designHeight - statusHeight);
 
     btnGBToolbarOption.SetEnabled(false);
     btnGBToolbarUpdate.SetEnabled(false);

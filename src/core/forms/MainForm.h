@@ -106,17 +106,14 @@ public:
     /// Builds the entries of the side bar anew and opens the one that was open last.
     void LoadItems();
 
-    // MainFormLayout.cpp: geometry in twips. A control that can't take a size keeps its own.
+    // MainFormLayout.cpp: what the form decides of its geometry, in twips. All else follows in the window.
 
-    /// The answer to each change of the window's size: keeps the least size, places the bands and then
-    /// the panes. Does nothing but note that there is something to lay out while the window can't be seen
-    /// or folds up.
+    /// The answer to each change of the window's size: keeps the least size and lays the panes out. Does
+    /// nothing but note that there is something to lay out while the window can't be seen or folds up.
     void FormResize();
-    /// Keeps the split bar within its limits and places what follows it: side bar, pages, tree.
+    /// Keeps the split bar within its limits and gives the side bar the room left of it.
     void LayoutPanes();
-    /// Whether FormResize was called since the last LayOutPending.
-    bool IsLayoutPending() const { return layoutPending; }
-    /// Lays out once more if a layout is pending.
+    /// Lays out once more if a layout is pending: FormResize was called since the last time.
     void LayOutPending();
 
 private:
@@ -128,18 +125,9 @@ private:
     void TieSideBar();
     void TieLayout();
     void KeepLeastSize();
-    void PlaceUnderToolbar();
-    void PlaceWithoutToolbar();
-    void PlaceBar();
-    void GivePagesRoom();
-    void PlaceFolderPages();
-    void PlaceDatabaseAndEmptyFolders();
-    void PlaceRenamePage();
-    void PlaceErasePart();
-    void PlaceListingPart();
-    void PlaceSplitterPage();
+    int CentredLeft(int width) const;
+    int CentredTop(int height) const;
     void DragBar(int buttons, int x);
-    void PlaceUpdateNotice();
     void EyeDropper1_ItemSelected(const SideBarItem &item);
     void chkButtonBar_Click();
 

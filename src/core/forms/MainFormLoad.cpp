@@ -88,7 +88,7 @@ void MainForm::RestorePlace(Steps &steps, KeyReader reader)
     steps.Do([&] { Move(Left(), settings.ReadInt32(keys::MainTop, reader)); });
     // Both at 0 is taken for a place that was never stored.
     if (Left() == 0 && Top() == 0)
-        Move((machine.screen.Width() - Width()) / 2, (machine.screen.Height() - Height()) / 2);
+        Move(CentredLeft(Width()), CentredTop(Height()));
 }
 
 void MainForm::RestoreBrowsePage(Steps &steps)

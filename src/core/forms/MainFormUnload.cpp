@@ -99,7 +99,7 @@ void MainForm::FoldUp()
     while (height > foldedHeight) {
         height = std::max(height - heightStep, 0);
         SetSize(Width(), height);
-        Move(Left(), (machine.screen.Height() - height) / 2);
+        Move(Left(), CentredTop(height));
         machine.events.ShowAnimationStep();
     }
     const int widthStep = FoldStep(options.txtWidth);
@@ -107,7 +107,7 @@ void MainForm::FoldUp()
     while (width > foldedWidth) {
         width = std::max(width - widthStep, 0);
         SetSize(width, Height());
-        Move((machine.screen.Width() - width) / 2, Top());
+        Move(CentredLeft(width), Top());
         machine.events.ShowAnimationStep();
     }
     Hide();

@@ -34,7 +34,6 @@ struct FileDialogRequest {
     QString defaultExtension; ///< with or without its dot
     bool several = false; ///< several files may be chosen, all of which exist
     bool askBeforeOverwriting = false;
-    bool mustExist = false;
     bool centreOnOwner = true; ///< else on the screen
 };
 

@@ -38,6 +38,14 @@ QString EntryToPath(const FileSystem &files, const QString &entry)
     return path.replace(u'\\', files.Separator());
 }
 
+QString PathToEntry(const FileSystem &files, const QString &path)
+{
+    QString entry = path;
+    if (files.Separator() != u'\\')
+        entry.replace(u'\\', u'_');
+    return entry.replace(files.Separator(), u'\\');
+}
+
 bool FolderExists(FileSystem &files, const QString &path)
 {
     const auto status = files.Status(path, Links::Follow);

@@ -20,6 +20,9 @@ QString JoinPath(const FileSystem &files, const QString &folder, const QString &
 
 /// A name that a user wrote, with "\" for a level, in the form of the platform.
 QString EntryToPath(const FileSystem &files, const QString &entry);
+/// The way back: a path of the disc as an entry of the list, with "\" for a level. Where a name may have a
+/// "\" in it, that becomes "_", so that the entry has no level that the path hasn't.
+QString PathToEntry(const FileSystem &files, const QString &path);
 
 /// True if something is there and it is a folder; a link to a folder counts as one.
 bool FolderExists(FileSystem &files, const QString &path);

@@ -15,6 +15,7 @@
 #include <QMessageBox>
 #include <QScreen>
 
+#include <algorithm>
 #include <utility>
 
 namespace tressel {
@@ -69,6 +70,30 @@ QMessageBox::StandardButton ToButton(BoxAnswer answer)
     }
     return QMessageBox::Ok;
 }
+
+/// A dialog for what is there already. What is typed is first looked for as it stands; only a name that
+/// isn't there is looked for with the default extension.
+class OpenDialog : public QFileDialog {
+public:
+    explicit OpenDialog(QWidget *owner)
+        : QFileDialog(owner)
+    {
+    }
+
+protected:
+    void accept() override
+    {
+        const QString extension = defaultSuffix();
+        setDefaultSuffix({});
+        const QStringList typed = selectedFiles();
+        if (!std::ranges::all_of(typed, [](const QString &path) { return QFileInfo::exists(path); }))
+            setDefaultSuffix(extension);
+        QFileDialog::accept();
+        // A folder was entered: the dialog is still up.
+        if (result() != QDialog::Accepted)
+            setDefaultSuffix(extension);
+    }
+};
 
 BoxAnswer FirstAnswer(BoxButtons buttons)
 {
@@ -130,11 +155,9 @@ void QtDialogs::ShowFatal(int number, const QString &description)
 
 std::optional<FileDialogAnswer> QtDialogs::OpenFile(const FileDialogRequest &request)
 {
-    QFileDialog dialog(Owner());
+    OpenDialog dialog(Owner());
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
-    dialog.setFileMode(request.several         ? QFileDialog::ExistingFiles
-                           : request.mustExist ? QFileDialog::ExistingFile
-                                               : QFileDialog::AnyFile);
+    dialog.setFileMode(request.several ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
     return AskForFile(dialog, request);
 }
 

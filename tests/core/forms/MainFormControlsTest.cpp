@@ -351,10 +351,13 @@ TEST_F(MainFormTest, AToolMayAnswerTheTimerToo)
     form.Show();
     int ticks = 0;
     form.erase.Timer1.Tick.Handle([&] { ++ticks; });
-    ASSERT_TRUE(form.IsLayoutPending());
-    form.erase.Timer1.Elapse();
-    EXPECT_EQ(ticks, 1);
-    EXPECT_FALSE(form.IsLayoutPending());
+    form.FormResize();
+    for (const int left : {5100, 100}) {
+        form.PicStrip.SetLeft(100);
+        form.erase.Timer1.Elapse();
+        EXPECT_EQ(form.PicStrip.Left(), left);
+    }
+    EXPECT_EQ(ticks, 2);
 }
 
 } // namespace

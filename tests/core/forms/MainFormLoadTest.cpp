@@ -159,6 +159,17 @@ TEST_F(MainFormLoad, PlaceAtZeroIsTakenForNeverStored)
     }
 }
 
+TEST_F(MainFormLoad, TheCentreIsThatOfTheAvailablePartOfItsScreen)
+{
+    StartedProgram program;
+    // The second of two screens, with a panel at its upper edge.
+    program.machine.screen.SetOrigin(1920 * 15, 30 * 15);
+    program.machine.screen.SetSize(1280 * 15, 994 * 15);
+    program.Start();
+    EXPECT_EQ(program.Form().Left(), 1920 * 15 + (1280 * 15 - 10830) / 2);
+    EXPECT_EQ(program.Form().Top(), 30 * 15 + (994 * 15 - 7860) / 2);
+}
+
 TEST_F(MainFormLoad, SecondStoresPlaceIsOverruled)
 {
     application.settings.Write(keys::MainLeft, 300);

@@ -69,7 +69,7 @@ private Q_SLOTS:
     void PagesStayLightOnADarkDesktop();
     void TheMenuShowsAndHidesEntries();
     void WithoutShowMenuThereIsNoMenu();
-    void CutAndIconEntriesHaveToolTips();
+    void EntriesHaveToolTipsWithTheirKeys();
     void DisabledLooksDifferentAndTakesNoClicks();
     void PropertiesTellTheState();
     void UnknownFontsFallBack();
@@ -548,7 +548,7 @@ void SideBarWidgetTest::WithoutShowMenuThereIsNoMenu()
     QVERIFY(!QApplication::activePopupWidget());
 }
 
-void SideBarWidgetTest::CutAndIconEntriesHaveToolTips()
+void SideBarWidgetTest::EntriesHaveToolTipsWithTheirKeys()
 {
     Bar().SetVisibleItems(4);
     Widget().resize(200, 640);
@@ -558,9 +558,9 @@ void SideBarWidgetTest::CutAndIconEntriesHaveToolTips()
         QApplication::sendEvent(&Widget(), &event);
         return QToolTip::isVisible() ? QToolTip::text() : QString();
     };
-    QCOMPARE(tipAt(1), QString());
-    QCOMPARE(tipAt(2), u"Get Text, File List, Safe Erase"_s);
-    QCOMPARE(tipAt(6), u"Empty Dir Remover"_s);
+    QCOMPARE(tipAt(1), u"Browse Files (Ctrl+1)"_s);
+    QCOMPARE(tipAt(2), u"Get Text, File List, Safe Erase (Ctrl+2)"_s);
+    QCOMPARE(tipAt(6), u"Empty Dir Remover (Ctrl+6)"_s);
     QToolTip::hideText();
 }
 
@@ -628,7 +628,7 @@ void SideBarWidgetTest::ASizeSetByTheFormsAnswerIsTakenOver()
 {
     Bar().StripResize.Handle([this] { Widget().resize(500, 640); });
     Bar().SetVisibleItems(2);
-    Bar().TakeRoom(1);
+    Bar().TakeRoom(1, 1);
     Widget().Refresh();
     QTRY_COMPARE(Widget().PageRect().width(), 498);
 }

@@ -38,7 +38,8 @@ public:
 private:
     void BeginList();
     void ReadList();
-    void ReadLines(LineReader &reader);
+    /// `entryOf` makes the entry of a line.
+    void ReadLines(LineReader &reader, const std::function<QString(const QString &)> &entryOf);
     void TellLoaded();
     void Loading(const std::function<void()> &steps);
 

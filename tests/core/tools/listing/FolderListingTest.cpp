@@ -200,8 +200,11 @@ TEST_F(FolderListingTest, TheFirstReportHasNumberOneAndTakesTheOldOnesPlace)
 TEST_F(FolderListingTest, AReportOfNumberZeroCountsAsThePresentOne)
 {
     machine.files.PutFile(ReportPath(u"00"_s));
+    // The file of the next number is made with its number, where a failure doesn't count, and then anew.
+    machine.files.FailAt(Operation::OpenForWriting, ReportPath(), 1, FailureNumber::PermissionDenied);
     Make();
     EXPECT_EQ(page.txtReport.Text(), ReportPath());
+    EXPECT_TRUE(machine.files.Exists(ReportPath()));
     EXPECT_EQ(machine.files.Bytes(ReportPath(u"00"_s)), "");
 }
 

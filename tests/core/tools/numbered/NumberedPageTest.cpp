@@ -128,12 +128,17 @@ TEST_F(NumberedPageTest, PaddingComesFromTheTextOfToAlone)
     for (const Row &row : rows) {
         Make(row.from, row.to);
         EXPECT_EQ(Work(), row.folders) << qPrintable(row.from) << " to " << qPrintable(row.to);
+        // One of another width is none of the series.
+        machine.files.PutFolder(u"D:\\Work\\Disk00000"_s);
         machine.journal.Clear();
         Delete(row.from, row.to);
-        EXPECT_EQ(machine.journal.Count(u"RemoveFolder"_s) == 0, row.folders.isEmpty())
+        QStringList tried;
+        for (const QString &folder : row.folders)
+            tried += {u"D:\\Work"_s, u"D:\\Work\\"_s + folder.chopped(1)};
+        EXPECT_EQ(machine.journal.About(u"RemoveFolder"_s), tried)
             << qPrintable(row.from) << " to " << qPrintable(row.to);
-        // The folder of the series goes with the last of it.
-        machine.files.PutFolder(u"D:\\Work"_s);
+        EXPECT_EQ(Work(), QStringList{u"Disk00000\\"_s});
+        ASSERT_FALSE(machine.files.TryRemoveFolder(u"D:\\Work\\Disk00000"_s));
     }
 }
 
