@@ -33,6 +33,13 @@ void ComboBox::UserEdits(const QString &newText)
         UserAct([&] { SetText(newText); });
 }
 
+bool ComboBox::UserPressesKey(int key)
+{
+    int left = key;
+    UserAct([&] { KeyDown.Raise(left); });
+    return left == 0;
+}
+
 void ComboBox::OnSelected()
 {
     // Choosing an entry is told by Click alone, though the text changes with it.

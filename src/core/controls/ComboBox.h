@@ -7,6 +7,9 @@
 
 namespace tressel {
 
+/// The numbers of keys, as KeyDown tells them.
+inline constexpr int keyF12 = 123;
+
 /// A text with a list of choices below it.
 class ComboBox : public ItemList {
 public:
@@ -26,9 +29,13 @@ public:
     void SetText(const QString &newText);
 
     Event<> Change;
+    /// A key was pressed in the box: its number. A handler that takes the key sets it to 0.
+    Event<int &> KeyDown;
 
     // For faces.
     void UserEdits(const QString &newText);
+    /// Before the box itself makes something of the key. True if a handler took it.
+    bool UserPressesKey(int key);
 
 protected:
     void OnSelected() override;

@@ -16,10 +16,32 @@ void CopyContents(OpenFile &source, OpenFile &target)
 {
     for (QByteArray piece = source.Read(copiedAtOnce); !piece.isEmpty(); piece = source.Read(copiedAtOnce))
         target.Write(piece);
+    target.Flush();
     target.Close();
 }
 
+/// Takes away what was made, if that is still possible.
+void TakeBack(FileSystem &files, const QString &made)
+{
+    Steps undoing;
+    undoing.Do([&] { files.RemoveFile(made); });
+}
+
 } // namespace
+
+void CopyFile(FileSystem &files, const QString &from, const QString &to)
+{
+    const auto source = files.Open(from, OpenFor::Reading);
+    const auto target = files.Open(to, OpenFor::Creating);
+    try {
+        CopyContents(*source, *target);
+    } catch (const Failure &) {
+        Steps undoing;
+        undoing.Do([&] { target->Close(); });
+        TakeBack(files, to);
+        throw;
+    }
+}
 
 void MoveFile(FileSystem &files, const QString &from, const QString &to)
 {
@@ -31,16 +53,11 @@ void MoveFile(FileSystem &files, const QString &from, const QString &to)
         if (failure.number != FailureNumber::PathFileAccessError)
             throw;
     }
-    const auto source = files.Open(from, OpenFor::Reading);
-    const auto target = files.Open(to, OpenFor::Creating);
+    CopyFile(files, from, to);
     try {
-        CopyContents(*source, *target);
-        source->Close();
         files.RemoveFile(from);
     } catch (const Failure &) {
-        Steps undoing;
-        undoing.Do([&] { target->Close(); });
-        undoing.Do([&] { files.RemoveFile(to); });
+        TakeBack(files, to);
         throw;
     }
 }
