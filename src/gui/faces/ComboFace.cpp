@@ -3,6 +3,8 @@
 
 #include "faces/ComboFace.h"
 
+#include "faces/Keys.h"
+
 #include <QLineEdit>
 
 namespace tressel {
@@ -77,6 +79,14 @@ void ComboFace::Show()
         edit->setSelection(selectedFrom, selectedLength);
     else
         edit->setCursorPosition(cursor);
+}
+
+bool ComboFace::eventFilter(QObject *watched, QEvent *event)
+{
+    bool isTaken = false;
+    if (IsKey(*event, Qt::Key_F12))
+        Hand([&] { isTaken = box.UserPressesKey(keyF12); });
+    return isTaken || ChoiceFace::eventFilter(watched, event);
 }
 
 } // namespace tressel

@@ -34,6 +34,7 @@ public:
 
 protected:
     void Show() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     ComboBox &box;

@@ -105,7 +105,7 @@ bool FileJoin::JoinPart(std::int16_t part)
     std::unique_ptr<OpenFile> file;
     if (!OpenForRun(file, name, Links::Follow))
         return EndAs(u"Join Count: Read Error"_s);
-    ReadPart(*file, length);
+    ReadPart(*file, name, length);
     try {
         output->Write(QByteArray::fromRawData(room.constData(), length));
     } catch (const Failure &failure) {
@@ -122,13 +122,13 @@ bool FileJoin::JoinPart(std::int16_t part)
     return true;
 }
 
-void FileJoin::ReadPart(OpenFile &file, qint64 length)
+void FileJoin::ReadPart(OpenFile &file, const QString &name, qint64 length)
 {
     qint64 got = 0;
     try {
         got = file.ReadInto({room.data(), static_cast<size_t>(length)});
     } catch (const Failure &failure) {
-        run.context.watch.Failed(run.Whole(target), failure);
+        run.context.watch.Failed(run.Whole(name), failure);
     }
     // Kept: what can't be read is zeros in the output, and nobody is told.
     std::fill(room.begin() + got, room.end(), '\0');

@@ -23,7 +23,7 @@ private:
     void FindParts();
     bool JoinParts();
     bool JoinPart(std::int16_t part);
-    void ReadPart(OpenFile &file, qint64 length);
+    void ReadPart(OpenFile &file, const QString &name, qint64 length);
     bool OpenForRun(std::unique_ptr<OpenFile> &file, const QString &path, Links links);
     bool EndAs(const QString &text);
     void DeleteParts();

@@ -10,7 +10,7 @@
 #include "machine/Events.h"
 #include "machine/FileSystem.h"
 #include "machine/Paths.h"
-#include "machine/TextFile.h"
+#include "machine/WholeFile.h"
 #include "tools/RunWatch.h"
 #include "tools/WorkArea.h"
 #include "tools/splitter/FloppyCopy.h"
@@ -168,10 +168,8 @@ void FileSplit::WriteBatchFile()
     // What a link leads to was never named by anybody.
     if (before && before->kind == EntryKind::Link)
         run.Remove(BatchName(FileName));
-    LineWriter writer(run.context.machine.files, path, OpenFor::Writing, NameBytes::Raw);
-    for (const QString &line : JoinBatchLines(FileName, part - 1, run.page.chkDeleteParts.IsChecked()))
-        writer.WriteLine(line);
-    writer.Close();
+    ReplaceContents(run.context.machine.files, path,
+                    JoinBatchBytes(FileName, part - 1, run.page.chkDeleteParts.IsChecked()));
     run.context.watch.Did(before ? Outcome::Rewritten : Outcome::Made, path);
 }
 

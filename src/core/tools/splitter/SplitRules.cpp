@@ -6,6 +6,7 @@
 #include "base/Failure.h"
 #include "base/Numbers.h"
 #include "base/Pictures.h"
+#include "machine/TextFile.h"
 
 #include <QLocale>
 
@@ -179,6 +180,12 @@ QStringList JoinBatchLines(const QString &name, qint64 parts, bool deletesParts)
     lines += deletesParts ? LinesThatDeleteParts(name, parts) : LinesThatKeepParts(name, parts);
     lines += u"ECHO Done!"_s;
     return lines;
+}
+
+QByteArray JoinBatchBytes(const QString &name, qint64 parts, bool deletesParts)
+{
+    const QString lineEnd = u"\r\n"_s;
+    return EncodeText(JoinBatchLines(name, parts, deletesParts).join(lineEnd) + lineEnd, NameBytes::Raw);
 }
 
 } // namespace tressel

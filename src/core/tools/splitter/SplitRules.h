@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QByteArray>
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
@@ -57,5 +58,7 @@ QString DateTimeText(const QDateTime &now);
 /// The lines of the batch file that joins the parts without this program. `name` has no folder, so the file
 /// works from wherever the parts are.
 QStringList JoinBatchLines(const QString &name, qint64 parts, bool deletesParts);
+/// The same as the bytes of the file, in which a name has its own bytes.
+QByteArray JoinBatchBytes(const QString &name, qint64 parts, bool deletesParts);
 
 } // namespace tressel

@@ -102,8 +102,9 @@ TEST(SplitRules, ExactChunksGiveThatManyPartsAndNoneEmpty)
             const qint64 last = length - (count - 1) * chunk;
             EXPECT_GT(chunk, 0) << length << " in " << count;
             EXPECT_GT(last, 0) << length << " in " << count;
-            if (PartsOf(length, ChunkOf(length, count)) == count)
+            if (PartsOf(length, ChunkOf(length, count)) == count) {
                 EXPECT_EQ(chunk, ChunkOf(length, count)) << length << " in " << count;
+            }
         }
     }
     EXPECT_EQ(ExactChunkOf(10, 3), 3);

@@ -3,17 +3,9 @@
 
 #pragma once
 
-#include "controls/CheckBox.h"
-#include "controls/OptionGroup.h"
-#include "controls/TextBox.h"
-#include "language/Session.h"
-#include "settings/Settings.h"
 #include "support/MemoryMachine.h"
 #include "support/Text.h"
-#include "tools/ClickSound.h"
-#include "tools/RunWatch.h"
-#include "tools/ToolContext.h"
-#include "tools/WorkArea.h"
+#include "support/ToolBench.h"
 #include "tools/splitter/SplitterPage.h"
 
 #include <gtest/gtest.h>
@@ -39,12 +31,16 @@ public:
     QStringList lines;
 };
 
-/// The splitter on a form of its own.
-struct SplitterTool {
-    explicit SplitterTool(const Machine &onMachine)
-        : machine(onMachine)
+struct WithKeptWatch {
+    KeptWatch watch;
+};
+
+/// The splitter on a form of its own, without the click sound.
+struct SplitterTool : WithKeptWatch, ToolBench {
+    explicit SplitterTool(const Machine &machine)
+        : ToolBench(machine, &watch)
     {
-        OptSound.Select(1);
+        options.OptSound.Select(1);
         page.cmbSplitSize.SetText(QStringLiteral("1"));
         page.txtSplitCount.SetText(QStringLiteral("2"));
     }
@@ -65,25 +61,6 @@ struct SplitterTool {
     QString Count() const { return page.lblFileCount.Caption(); }
     QString Status() const { return area.lblStatusLine.Caption(); }
 
-    Machine machine;
-    Settings settings{machine};
-    Session session;
-    Form form{QStringLiteral("frmMain")};
-    WorkArea area{form};
-    Form optionForm{QStringLiteral("frmOption")};
-    OptionGroup OptSound{
-        optionForm, QStringLiteral("OptSound"), {QStringLiteral("On"), QStringLiteral("Off")}};
-    CheckBox ChkAutoOption{optionForm, QStringLiteral("ChkAutoOption")};
-    OptionGroup OptDigit{optionForm, QStringLiteral("OptDigit"), {QStringLiteral("1")}};
-    CheckBox ChkAnimOption{optionForm, QStringLiteral("ChkAnimOption")};
-    TextBox txtHeight{optionForm, QStringLiteral("txtHeight")};
-    TextBox txtWidth{optionForm, QStringLiteral("txtWidth")};
-    ClickSound clickSound{machine.sound, machine.files, machine.program, OptSound};
-    KeptWatch watch;
-    ToolContext context{form,       area,
-                        machine,    settings,
-                        session,    {OptSound, ChkAutoOption, OptDigit, ChkAnimOption, txtHeight, txtWidth},
-                        clickSound, watch};
     SplitterPage page{context};
 };
 
@@ -94,8 +71,6 @@ struct SplitterMachine {
 /// The tool on a memory machine.
 class SplitterFixture : public testing::Test, protected SplitterMachine, protected SplitterTool {
 protected:
-    using SplitterMachine::machine;
-
     SplitterFixture()
         : SplitterTool(machine.machine)
     {

@@ -61,7 +61,7 @@ TEST_F(SplitterPageTest, TheCutOpensItsOwnField)
 
 TEST_F(SplitterPageTest, EachButtonAnswersWithTheClickSound)
 {
-    OptSound.Select(0);
+    options.OptSound.Select(0);
     machine.dialogs.ExpectOpenFile(std::nullopt);
     page.btnBrowse.UserClicks();
     ExpectReadError(u"File Not Found ()"_s);
