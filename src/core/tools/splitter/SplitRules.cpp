@@ -10,7 +10,9 @@
 
 #include <QLocale>
 
+#include <algorithm>
 #include <cstdlib>
+#include <functional>
 
 namespace tressel {
 
@@ -122,6 +124,22 @@ qint64 ExactChunkOf(qint64 length, qint64 count)
     const qint64 nearest = ChunkOf(length, count);
     // Rounded up, the parts before the last one can take everything, or more than there is.
     return nearest * count > length && PartsOf(length, nearest) != count ? length / count : nearest;
+}
+
+qint64 FirstUnfitPart(const QList<qint64> &lengths)
+{
+    if (lengths.size() < 2)
+        return 0;
+    const qint64 chunk = lengths.first();
+    const qint64 last = lengths.last();
+    const bool isDealtOut = std::ranges::is_sorted(lengths, std::ranges::greater()) && chunk - last <= 1;
+    if (isDealtOut && last > 0)
+        return 0;
+    for (qsizetype index = 1; index + 1 < lengths.size(); ++index) {
+        if (lengths.at(index) != chunk)
+            return index + 1;
+    }
+    return last > 0 && last - chunk < lengths.size() ? 0 : lengths.size();
 }
 
 std::int32_t Length32(qint64 length)

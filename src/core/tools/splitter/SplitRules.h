@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QDateTime>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -34,6 +35,11 @@ qint64 ChunkOf(qint64 length, qint64 count);
 /// The same for exactly `count` parts, of which the last takes what is left, be it more than the others.
 /// None of them is empty where there is a byte for each.
 qint64 ExactChunkOf(qint64 length, qint64 count);
+
+/// The number of the first part whose length no cut would give it beside the others, 0 if there is none.
+/// Parts fit where all but the last have one size and the last takes what is left, which is less than one
+/// byte a part more, or where the file was dealt out evenly, so that earlier parts have a byte more.
+qint64 FirstUnfitPart(const QList<qint64> &lengths);
 
 /// A file's length as the page sees it. Kept: beyond 32 bits it comes out negative.
 std::int32_t Length32(qint64 length);

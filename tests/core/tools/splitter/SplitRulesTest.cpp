@@ -112,6 +112,32 @@ TEST(SplitRules, ExactChunksGiveThatManyPartsAndNoneEmpty)
     EXPECT_EQ(ExactChunkOf(11, 3), 4);
 }
 
+TEST(SplitRules, PartsOfACutFitEachOther)
+{
+    for (qint64 length = 1; length <= 40; ++length) {
+        for (qint64 count = 1; count <= length; ++count) {
+            const qint64 chunk = ExactChunkOf(length, count);
+            QList<qint64> lengths(count - 1, chunk);
+            lengths += length - (count - 1) * chunk;
+            EXPECT_EQ(FirstUnfitPart(lengths), 0) << length << " in " << count;
+        }
+    }
+    for (const QList<qint64> &lengths :
+         {QList<qint64>{}, {0}, {5}, {5, 5, 1}, {5, 5, 5}, {3, 3, 2, 2}, {3, 2, 2, 2}, {2, 2, 2, 4}})
+        EXPECT_EQ(FirstUnfitPart(lengths), 0) << lengths.size();
+}
+
+TEST(SplitRules, APartOfAnotherSizeIsFound)
+{
+    EXPECT_EQ(FirstUnfitPart({5, 3, 5, 2}), 2);
+    EXPECT_EQ(FirstUnfitPart({5, 5, 4, 2}), 3);
+    EXPECT_EQ(FirstUnfitPart({5, 5, 8}), 3);
+    EXPECT_EQ(FirstUnfitPart({5, 5, 0}), 3);
+    EXPECT_EQ(FirstUnfitPart({3, 2, 3, 2}), 2);
+    EXPECT_EQ(FirstUnfitPart({0, 5}), 2);
+    EXPECT_EQ(FirstUnfitPart({0, 0}), 2);
+}
+
 TEST(SplitRules, TypedSizesAreKilobytesInThirtyTwoBits)
 {
     EXPECT_EQ(ChunkOfSize(u"1440"_s), 1440 * 1024);
