@@ -380,7 +380,7 @@ QList<Volume> MemoryFileSystem::Volumes()
     for (const auto &[letter, drive] : drives) {
         if (drive.ready)
             volumes.insert(letter == u'C' ? 0 : volumes.size(),
-                           Volume{drive.root->name + u'\\', drive.label});
+                           Volume{drive.root->name + u'\\', drive.label, letter == u'A'});
     }
     return volumes;
 }

@@ -47,6 +47,13 @@ void ComboBox::UserSteps(int count)
         UserSelects(to);
 }
 
+bool ComboBox::UserPressesKey(int key)
+{
+    int left = key;
+    UserAct([&] { KeyDown.Raise(left); });
+    return left == 0;
+}
+
 void ComboBox::OnSelected()
 {
     // Choosing an entry is told by Click alone, though the text changes with it.

@@ -10,8 +10,10 @@
 #include <QList>
 #include <QString>
 
+#include <algorithm>
 #include <memory>
 #include <optional>
+#include <span>
 
 namespace tressel {
 
@@ -71,6 +73,13 @@ public:
     /// Up to `maximum` bytes from the present position; fewer only at the end of the file, none behind it.
     /// Fails with 5 for a negative number, with 7 if there is no room for so many.
     virtual QByteArray Read(qint64 maximum) = 0;
+    /// The same into room that the caller has for them. How many bytes came.
+    virtual qint64 ReadInto(std::span<char> room)
+    {
+        const QByteArray bytes = Read(static_cast<qint64>(room.size()));
+        std::copy(bytes.cbegin(), bytes.cend(), room.begin());
+        return bytes.size();
+    }
     /// Writes all of the bytes at the present position. Fails with 61 on a full disc.
     virtual void Write(const QByteArray &bytes) = 0;
     virtual qint64 Position() const = 0;

@@ -23,35 +23,28 @@ void CopyDown(OpenFile &source, OpenFile &target)
     target.Close();
 }
 
-void MoveByCopy(FileSystem &files, const QString &from, const QString &to)
+/// Takes away what was made, if that is still possible.
+void TakeBack(FileSystem &files, const QString &made)
+{
+    Steps undoing;
+    undoing.Do([&] { files.RemoveFile(made); });
+}
+
+} // namespace
+
+void CopyFile(FileSystem &files, const QString &from, const QString &to)
 {
     const auto source = files.Open(from, OpenFor::Reading);
     const auto target = files.Open(to, OpenFor::Creating);
     try {
         CopyDown(*source, *target);
-        source->Close();
-        files.RemoveFile(from);
     } catch (const Failure &) {
         Steps undoing;
         undoing.Do([&] { target->Close(); });
-        undoing.Do([&] { files.RemoveFile(to); });
+        TakeBack(files, to);
         throw;
     }
 }
-
-void MoveLink(FileSystem &files, const QString &from, const QString &to)
-{
-    files.MakeLink(to, files.LinkTarget(from));
-    try {
-        files.RemoveFile(from);
-    } catch (const Failure &) {
-        Steps undoing;
-        undoing.Do([&] { files.RemoveFile(to); });
-        throw;
-    }
-}
-
-} // namespace
 
 void MoveFile(FileSystem &files, const QString &from, const QString &to)
 {
@@ -66,9 +59,15 @@ void MoveFile(FileSystem &files, const QString &from, const QString &to)
     const auto hold = files.Hold(FolderOf(files, from));
     const auto status = files.Status(from, Links::Keep);
     if (status && status->kind == EntryKind::Link)
-        MoveLink(files, from, to);
+        files.MakeLink(to, files.LinkTarget(from));
     else
-        MoveByCopy(files, from, to);
+        CopyFile(files, from, to);
+    try {
+        files.RemoveFile(from);
+    } catch (const Failure &) {
+        TakeBack(files, to);
+        throw;
+    }
 }
 
 } // namespace tressel

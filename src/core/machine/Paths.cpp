@@ -108,4 +108,14 @@ QString OnDriveC(const FileSystem &files, const QString &path)
     return EntryToPath(files, path.mid(2));
 }
 
+QString OnDriveA(FileSystem &files, const QString &path)
+{
+    constexpr qsizetype rootLength = 3; // "A:\"
+    for (const Volume &volume : files.Volumes()) {
+        if (volume.isFloppy)
+            return volume.root + path.mid(rootLength);
+    }
+    throw Failure(FailureNumber::DiskNotReady);
+}
+
 } // namespace tressel

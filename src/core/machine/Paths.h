@@ -52,4 +52,8 @@ bool IsDriveRoot(FileSystem &files, const QString &path);
 /// other path stays as it is.
 QString OnDriveC(const FileSystem &files, const QString &path);
 
+/// A path on drive A:, in the form of the platform: "A:\a". Drive A: is a mounted floppy disc and nothing
+/// else; fails with 71 if there is none.
+QString OnDriveA(FileSystem &files, const QString &path);
+
 } // namespace tressel

@@ -110,4 +110,12 @@ void ComboFace::Show()
         edit->setCursorPosition(cursor);
 }
 
+bool ComboFace::eventFilter(QObject *watched, QEvent *event)
+{
+    bool isTaken = false;
+    if (IsKey(*event, Qt::Key_F12))
+        Hand([&] { isTaken = box.UserPressesKey(keyF12); });
+    return isTaken || ChoiceFace::eventFilter(watched, event);
+}
+
 } // namespace tressel

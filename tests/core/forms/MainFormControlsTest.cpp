@@ -200,9 +200,9 @@ const Row rows[] = {
     {Is<CheckBox>, u"chkCopyToFloppy", u"Copy to Floppies when finished Splitting"},
     {Is<CheckBox>, u"chkOpenExplorer", u"Open Explorer Window to Split Directory"},
     {Is<CheckBox>, u"chkDeleteParts", u"Delete Split Parts when finished Joining"},
-    {Is<IsButton>, u"btnGBSplitFile", u"Split File", u"", State::Resting},
-    {Is<IsButton>, u"btnGBJoinFile", u"Join File", u"", State::Resting},
-    {Is<IsButton>, u"btnBrowse", u"...", u"", State::Resting},
+    {Is<IsButton>, u"btnGBSplitFile", u"Split File"},
+    {Is<IsButton>, u"btnGBJoinFile", u"Join File"},
+    {Is<IsButton>, u"btnBrowse", u"..."},
 };
 // clang-format on
 

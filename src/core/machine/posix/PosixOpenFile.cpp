@@ -50,18 +50,23 @@ QByteArray PosixOpenFile::Read(qint64 maximum)
     if (maximum < 0)
         throw Failure(FailureNumber::InvalidProcedureCall);
     QByteArray bytes = Room(RoomFor(maximum));
-    qsizetype got = 0;
-    while (got < bytes.size()) {
-        const ssize_t piece = Retried(
-            [&] { return read(file.Number(), bytes.data() + got, static_cast<size_t>(bytes.size() - got)); });
+    bytes.truncate(ReadInto({bytes.data(), static_cast<size_t>(bytes.size())}));
+    return bytes;
+}
+
+qint64 PosixOpenFile::ReadInto(std::span<char> room)
+{
+    size_t got = 0;
+    while (got < room.size()) {
+        const ssize_t piece =
+            Retried([&] { return read(file.Number(), room.data() + got, room.size() - got); });
         if (piece < 0)
             ThrowError();
         if (piece == 0)
             break;
-        got += piece;
+        got += static_cast<size_t>(piece);
     }
-    bytes.truncate(got);
-    return bytes;
+    return static_cast<qint64>(got);
 }
 
 void PosixOpenFile::Write(const QByteArray &bytes)

@@ -17,6 +17,7 @@ public:
     }
 
     QByteArray Read(qint64 maximum) override;
+    qint64 ReadInto(std::span<char> room) override;
     void Write(const QByteArray &bytes) override;
     qint64 Position() const override;
     void Seek(qint64 position) override;
