@@ -99,7 +99,8 @@ void MainForm::SetFirstValues()
     PicUpdate.SetBackColor(0x0000FF); // red
     lblUpdate.SetToolTip(notice);
     lblUpdate.SetForeColor(0x00FFFF); // yellow
-    FrameXPMenu3.SetVisible(false);
+    lblUpdate.SetBold(true);
+    PicUpdate.SetHandPointer(true);
     Picture4.SetVisible(false);
 }
 
@@ -116,21 +117,6 @@ void MainForm::PlaceIcons()
     }};
     for (const auto &[button, icon] : toolbar)
         button.PlaceIcon(Picture(QString::fromUtf16(icon)));
-
-    // On a page there is only room for small ones, beside the caption.
-    constexpr std::int16_t smallIcon = 16;
-    const std::array<std::pair<IsButton &, const char16_t *>, 5> page{{
-        {emptyFolders.btnGBToolbarSearch, u"search"},
-        {emptyFolders.btnGBToolbarOpenDir, u"open-folder"},
-        {emptyFolders.btnGBToolbarDelDir, u"delete-one"},
-        {emptyFolders.btnGBToolbarDeleteAll, u"delete-all"},
-        {emptyFolders.btnGBToolbarCopy, u"clipboard"},
-    }};
-    for (const auto &[button, icon] : page) {
-        button.SetIcon(Picture(QString::fromUtf16(icon)));
-        button.SetIconSize(smallIcon);
-        button.SetIconAlign(IconPlace::Left);
-    }
 }
 
 void MainForm::TieToolbar()

@@ -90,8 +90,6 @@ public:
 
     const std::array<Frame *, 8> FrameXPMenu; ///< the pages by their numbers
 
-    QString OpenDBPath; ///< where the database dialog opens, kept from session to session
-
     // MainFormAppearance.cpp
 
     /// Brings the side bar, its palette and the window's place into the state that the settings hold.
@@ -117,6 +115,7 @@ public:
     void LayOutPending();
 
 private:
+    bool hasLoaded = false; ///< the load got to its end, so that there is something to write back
     bool layoutPending = false;
     bool foldsUp = false; ///< the window is closing and gets smaller than its least size
 
@@ -142,11 +141,9 @@ private:
 
     // MainFormLoad.cpp: restoring, in its fixed order.
     void LoadForm();
-    void SetListingToolTips();
-    void RestoreEmptyFoldersPage(Steps &steps);
-    void RestoreDatabasePage(Steps &steps);
+    void RestoreTools(Steps &steps);
+    void RestoreAppearance();
     void RestorePlace(Steps &steps, KeyReader reader);
-    void RestoreBrowsePage(Steps &steps);
     void RestoreBarWidth(Steps &steps);
     void ShowFirstTree(Steps &steps);
     void TakeCommandLine();
@@ -162,6 +159,7 @@ private:
     // MainFormUnload.cpp: writing back and going, in their fixed orders.
     void SaveSplitterPage();
     void UnloadForm(bool &refused);
+    void SaveSettings();
     bool ExitsThoughUpdateLoads();
     void FoldUp();
     static int FoldStep(const TextBox &twips);
@@ -170,8 +168,6 @@ private:
     static constexpr int menuCount = 7;
     std::array<QString, menuCount> menus; ///< kept from session to session, and nothing else
     QString customColor; ///< which palette the side bar has: "1", "2" or none of the two
-    QString databaseTable; ///< what the settings hold of the database page's two lists
-    QString databaseField;
 };
 
 /// The look that an entry of optButtonStyle stands for.

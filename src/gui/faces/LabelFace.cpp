@@ -25,6 +25,11 @@ void LabelFace::Show()
 {
     if (view.text() != label.Caption())
         view.setText(label.Caption());
+    if (label.IsBold() && !view.font().bold()) {
+        QFont font = view.font();
+        font.setBold(true);
+        view.setFont(font);
+    }
     label.TakeWidth(ToTwips(view.sizeHint().width()));
     ShowForeColor();
 }

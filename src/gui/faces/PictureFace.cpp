@@ -19,6 +19,8 @@ PictureFace::PictureFace(PictureBox &control, QWidget &widget, const FaceLooks &
 void PictureFace::Show()
 {
     shownLeft = box.Left();
+    if (box.HasHandPointer())
+        Widget().setCursor(Qt::PointingHandCursor);
     FrameFace::Show();
 }
 

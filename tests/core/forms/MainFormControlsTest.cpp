@@ -65,14 +65,14 @@ const Row rows[] = {
     {Is<PictureBox>, u"Picture3", u""},
     {Is<PictureBox>, u"Picture4", u"", u"", State::Hidden},
     {Is<TextBox>, u"txtstrSQL", u"SELECT * FROM Products", u"", State::Hidden},
-    {Is<Frame>, u"FrameXPMenu(0)", u""},
-    {Is<Frame>, u"FrameXPMenu(1)", u""},
-    {Is<Frame>, u"FrameXPMenu(2)", u""},
+    {Is<Frame>, u"FrameXPMenu(0)", u"", u"", State::Hidden},
+    {Is<Frame>, u"FrameXPMenu(1)", u"", u"", State::Hidden},
+    {Is<Frame>, u"FrameXPMenu(2)", u"", u"", State::Hidden},
     {Is<Frame>, u"FrameXPMenu(3)", u"", u"", State::Hidden},
-    {Is<Frame>, u"FrameXPMenu(4)", u""},
-    {Is<Frame>, u"FrameXPMenu(5)", u""},
-    {Is<Frame>, u"FrameXPMenu(6)", u""},
-    {Is<Frame>, u"FrameXPMenu(7)", u""},
+    {Is<Frame>, u"FrameXPMenu(4)", u"", u"", State::Hidden},
+    {Is<Frame>, u"FrameXPMenu(5)", u"", u"", State::Hidden},
+    {Is<Frame>, u"FrameXPMenu(6)", u"", u"", State::Hidden},
+    {Is<Frame>, u"FrameXPMenu(7)", u"", u"", State::Hidden},
     {Is<DriveList>, u"DrvList", u"", u" List of drivelist "},
     {Is<FolderList>, u"DirList", u"", u" List of dirlist "},
     {Is<FileList>, u"FileList", u"", u" List of filelist "},
@@ -269,6 +269,8 @@ TEST_F(MainFormTest, TheUpdateNoticeIsYellowOnRed)
 {
     EXPECT_EQ(form.PicUpdate.BackColor(), 0x0000FFU);
     EXPECT_EQ(form.lblUpdate.ForeColor(), 0x00FFFFU);
+    EXPECT_TRUE(form.lblUpdate.IsBold());
+    EXPECT_TRUE(form.PicUpdate.HasHandPointer());
 }
 
 TEST_F(MainFormTest, TheTimerFiresTenTimesASecond)
@@ -358,6 +360,17 @@ TEST_F(MainFormTest, AToolMayAnswerTheTimerToo)
         EXPECT_EQ(form.PicStrip.Left(), left);
     }
     EXPECT_EQ(ticks, 2);
+}
+
+TEST_F(MainFormTest, AllButtonsCarryTheirIconsInOneWay)
+{
+    for (const IsButton *button : form.Buttons()) {
+        EXPECT_EQ(button->IconSize(), 32) << button->Name().toStdString();
+        EXPECT_EQ(button->IconAlign(), IconPlace::Top) << button->Name().toStdString();
+        const CaptionPlace place = button->Icon().IsNone() ? CaptionPlace::Centre : CaptionPlace::Bottom;
+        EXPECT_EQ(button->CaptionAlign(), place) << button->Name().toStdString();
+    }
+    EXPECT_FALSE(form.emptyFolders.btnGBToolbarSearch.Icon().IsNone());
 }
 
 } // namespace

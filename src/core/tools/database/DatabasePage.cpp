@@ -3,6 +3,9 @@
 
 #include "tools/database/DatabasePage.h"
 
+#include "base/Steps.h"
+#include "settings/Settings.h"
+
 namespace tressel {
 
 using namespace Qt::StringLiterals;
@@ -18,6 +21,7 @@ DatabasePage::DatabasePage(const ToolContext &context)
     , Fields(context.form, u"ListBox(1)"_s)
     , btnGBLoadList(context.form, u"btnGBLoadList"_s, u"Load List"_s)
     , txtstrSQL(context.form, u"txtstrSQL"_s, u"SELECT * FROM Products"_s)
+    , settings(context.settings)
 {
     txtDatabaseFile.SetToolTip(
         u" Type in your path to mdb database file or open database with click on \"Database\" button "_s);
@@ -26,6 +30,30 @@ DatabasePage::DatabasePage(const ToolContext &context)
     btnGBOpenDatabase.SetEnabled(false);
     btnGBLoadList.SetEnabled(false);
     txtstrSQL.SetVisible(false);
+}
+
+void DatabasePage::Restore(Steps &steps)
+{
+    steps.Do([&] { txtDatabaseFile.SetText(settings.ReadText(keys::DatabaseFile)); });
+    steps.Do([&] { table = settings.ReadText(keys::SQLString); });
+    steps.Do([&] { field = settings.ReadText(keys::Table); });
+}
+
+void DatabasePage::Save()
+{
+    settings.Write(keys::DatabaseFile, txtDatabaseFile.Text());
+    settings.Write(keys::SQLString, table);
+    settings.Write(keys::Table, field);
+}
+
+void DatabasePage::RestoreFolder(Steps &steps)
+{
+    steps.Do([&] { OpenDBPath = settings.ReadText(keys::OpenDBPath); });
+}
+
+void DatabasePage::SaveFolder()
+{
+    settings.Write(keys::OpenDBPath, OpenDBPath);
 }
 
 } // namespace tressel

@@ -12,10 +12,20 @@
 
 namespace tressel {
 
+class Steps;
+
 /// The page that takes the rows of a database table into the list.
 class DatabasePage {
 public:
     explicit DatabasePage(const ToolContext &context);
+
+    /// Puts back what the settings hold, but for the dialog's folder.
+    void Restore(Steps &steps);
+    /// Writes what Restore reads.
+    void Save();
+    /// Where the database dialog opens has a place of its own in the order of the settings.
+    void RestoreFolder(Steps &steps);
+    void SaveFolder();
 
     Frame page;
     Label lblDatabaseFile;
@@ -28,6 +38,13 @@ public:
     IsButton btnGBLoadList;
 
     TextBox txtstrSQL; ///< no one sees or reads it; its text is kept from session to session
+
+    QString OpenDBPath; ///< where the database dialog opens, kept from session to session
+
+private:
+    Settings &settings;
+    QString table; ///< what the settings hold of the two lists
+    QString field;
 };
 
 } // namespace tressel

@@ -396,25 +396,33 @@ TEST_F(NumberedPageTest, AnEmptyTextRestoredIntoAComboBecomes1)
 TEST_F(NumberedPageTest, AnEarlierFailureKeepsTheListsWhereTheyAre)
 {
     const QString options = u"Software\\Halven Software\\Tressel\\Options"_s;
-    machine.hive.Put(SettingsHive::Root::User, options, u"LastNumPath"_s, QString(u"C:\\Tressel"_s));
+    machine.hive.Put(SettingsHive::Root::User, options, u"LastNumPath"_s, QString(u"D:\\Work"_s));
+    Form freshForm(u"fresh"_s);
+    NumberedPage fresh(bench.On(freshForm), DirList);
     Steps steps;
     steps.Note(Failure(FailureNumber::PathNotFound));
-    page.Restore(steps);
+    fresh.Restore(steps);
     EXPECT_FALSE(steps.Pending());
-    EXPECT_EQ(page.NumberedFolderPath, u"C:\\Tressel"_s);
-    EXPECT_EQ(page.DirBox.Path(), u"D:\\Work"_s);
-    EXPECT_EQ(page.DrvBox.Drive(), u"D:\\"_s);
+    EXPECT_EQ(fresh.NumberedFolderPath, u"D:\\Work"_s);
+    EXPECT_EQ(fresh.DirBox.Path(), u"C:\\"_s);
+    EXPECT_EQ(fresh.DrvBox.Drive(), u"C:\\"_s);
+    EXPECT_EQ(fresh.DirBox.Items(), (QStringList{u"C:\\"_s, u"Tressel"_s}));
 }
 
-TEST_F(NumberedPageTest, AFolderThatHasGoneLeavesTheListsAndNoFailure)
+TEST_F(NumberedPageTest, AFolderThatHasGoneLeavesAListToPickFromAndNoFailure)
 {
     const QString options = u"Software\\Halven Software\\Tressel\\Options"_s;
     machine.hive.Put(SettingsHive::Root::User, options, u"LastNumPath"_s, QString(u"E:\\Gone"_s));
+    Form freshForm(u"fresh"_s);
+    NumberedPage fresh(bench.On(freshForm), DirList);
     Steps steps;
-    page.Restore(steps);
+    fresh.Restore(steps);
     EXPECT_FALSE(steps.Pending());
-    EXPECT_EQ(page.NumberedFolderPath, u"E:\\Gone"_s);
-    EXPECT_EQ(page.DirBox.Path(), u"D:\\Work"_s);
+    EXPECT_EQ(fresh.NumberedFolderPath, u"E:\\Gone"_s);
+    EXPECT_EQ(fresh.DirBox.Items(), (QStringList{u"C:\\"_s, u"Tressel"_s}));
+    // The one drive is on show already, and choosing it takes the page there all the same.
+    fresh.DrvBox.UserSelects(0);
+    EXPECT_EQ(fresh.NumberedFolderPath, u"C:\\"_s);
 }
 
 } // namespace
