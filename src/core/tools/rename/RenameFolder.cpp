@@ -33,6 +33,16 @@ bool RenameFolder::HasFile(const QString &name)
     return files.Status(place, Links::Keep) && !FolderExists(files, place);
 }
 
+bool RenameFolder::TellsCaseApart()
+{
+    for (const QString &name : folders + others) {
+        const QString otherCase = name.toUpper() == name ? name.toLower() : name.toUpper();
+        if (otherCase != name && !folders.contains(otherCase) && !others.contains(otherCase))
+            return !files.Status(PathOf(otherCase), Links::Keep);
+    }
+    return true;
+}
+
 QString RenameFolder::PathOf(const QString &name) const
 {
     return base + name;

@@ -33,6 +33,9 @@ public:
     void Rename(const QString &name, const QString &newName);
     /// True if there is something of that name now that isn't a folder, nor a link to one.
     bool HasFile(const QString &name);
+    /// Whether "a" and "A" are two names here, as far as the names that are there can tell: if none of them
+    /// has letters, it says yes.
+    bool TellsCaseApart();
     /// The whole path of an entry.
     QString PathOf(const QString &name) const;
 
