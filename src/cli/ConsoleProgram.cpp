@@ -17,6 +17,8 @@ ConsoleProgram::ConsoleProgram(FileSystem &disc, Clock &clock, Program &program)
 MainForm &ConsoleProgram::Started()
 {
     application.settings.Write(keys::ShowTips, u"0"_s);
+    // No command needs the database of the last session, and opening one takes a process.
+    application.settings.Write(keys::DatabaseFile, QString());
     application.Start();
     return application.frmMain();
 }

@@ -90,8 +90,6 @@ public:
 
     const std::array<Frame *, 8> FrameXPMenu; ///< the pages by their numbers
 
-    QString OpenDBPath; ///< where the database dialog opens, kept from session to session
-
     // MainFormAppearance.cpp
 
     /// Brings the side bar, its palette and the window's place into the state that the settings hold.
@@ -156,7 +154,6 @@ private:
     void LoadForm();
     void SetListingToolTips();
     void RestoreEmptyFoldersPage(Steps &steps);
-    void RestoreDatabasePage(Steps &steps);
     void RestorePlace(Steps &steps, KeyReader reader);
     void RestoreBrowsePage(Steps &steps);
     void RestoreBarWidth(Steps &steps);
@@ -182,8 +179,6 @@ private:
     static constexpr int menuCount = 7;
     std::array<QString, menuCount> menus; ///< kept from session to session, and nothing else
     QString customColor; ///< which palette the side bar has: "1", "2" or none of the two
-    QString databaseTable; ///< what the settings hold of the database page's two lists
-    QString databaseField;
 };
 
 /// The look that an entry of optButtonStyle stands for.

@@ -21,7 +21,7 @@ void MainForm::LoadForm()
     SetListingToolTips();
     emptyFolders.ResetFoundList();
     RestoreEmptyFoldersPage(steps);
-    RestoreDatabasePage(steps);
+    database.Restore(steps);
     numbered.FillNumberCombos();
     numbered.Restore(steps);
     RestorePlace(steps, KeyReader::First);
@@ -33,7 +33,7 @@ void MainForm::LoadForm()
     rename.ResetRenamePage(steps);
     RestoreBrowsePage(steps);
     steps.Do([&] { textLists.OpenTXTPath = settings.ReadText(keys::OpenTXTPath); });
-    steps.Do([&] { OpenDBPath = settings.ReadText(keys::OpenDBPath); });
+    steps.Do([&] { database.OpenDBPath = settings.ReadText(keys::OpenDBPath); });
     RestoreBarWidth(steps);
     session.RunNumber = 1;
     area.txtStrtPath.SetTakesDrops(true);
@@ -71,13 +71,6 @@ void MainForm::RestoreEmptyFoldersPage(Steps &steps)
 {
     steps.Do([&] { emptyFolders.DirListRemove.SetPath(settings.ReadText(keys::SearchPath)); });
     steps.Do([&] { emptyFolders.DrvListRemove.SetDrive(emptyFolders.DirListRemove.Path()); });
-}
-
-void MainForm::RestoreDatabasePage(Steps &steps)
-{
-    steps.Do([&] { database.txtDatabaseFile.SetText(settings.ReadText(keys::DatabaseFile)); });
-    steps.Do([&] { databaseTable = settings.ReadText(keys::SQLString); });
-    steps.Do([&] { databaseField = settings.ReadText(keys::Table); });
 }
 
 void MainForm::RestorePlace(Steps &steps, KeyReader reader)

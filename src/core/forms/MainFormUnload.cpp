@@ -57,9 +57,7 @@ void MainForm::UnloadForm(bool &refused)
     listing.Save(steps);
     listing.SaveRecentPath();
     settings.Write(keys::SearchPath, emptyFolders.DirListRemove.Path());
-    settings.Write(keys::DatabaseFile, database.txtDatabaseFile.Text());
-    settings.Write(keys::SQLString, databaseTable);
-    settings.Write(keys::Table, databaseField);
+    database.Save();
     settings.Write(keys::FilePath, area.txtStrtPath.Text());
     settings.Write(keys::FileExt, QString::number(area.chkExtension.Value()));
     settings.Write(keys::ButtonBar, QString::number(area.chkButtonBar.Value()));
@@ -68,7 +66,7 @@ void MainForm::UnloadForm(bool &refused)
     settings.Write(keys::LastPath, rename.txtCurrentPath.Text());
     settings.Write(keys::LastDBPath, browse.DirList.Path());
     settings.Write(keys::OpenTXTPath, textLists.OpenTXTPath);
-    settings.Write(keys::OpenDBPath, OpenDBPath);
+    settings.Write(keys::OpenDBPath, database.OpenDBPath);
     numbered.Save(steps);
     if (session.UpdateLoading && !ExitsThoughUpdateLoads()) {
         refused = true;

@@ -142,7 +142,7 @@ TEST(FirstStart, BringsTheTipsThenTheWindowInTheProgramFolder)
     EXPECT_EQ(fresh.frmMain().area.txtStrtPath.Text(), u"C:\\Tressel"_s);
     EXPECT_EQ(fresh.frmMain().browse.DirList.Path(), u"C:\\Tressel"_s);
     EXPECT_EQ(fresh.frmMain().textLists.OpenTXTPath, u"C:\\Tressel"_s);
-    EXPECT_EQ(fresh.frmMain().OpenDBPath, u"C:\\Tressel"_s);
+    EXPECT_EQ(fresh.frmMain().database.OpenDBPath, u"C:\\Tressel"_s);
     EXPECT_EQ(fresh.frmMain().area.LstItem.ListCount(), 0);
 }
 
