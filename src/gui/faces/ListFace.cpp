@@ -8,6 +8,7 @@
 #include "faces/Keys.h"
 #include "faces/PlainTips.h"
 
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QScrollBar>
 
@@ -126,10 +127,11 @@ void ListFace::OpenRow(int row)
     list.UserActivates(row);
 }
 
-CheckListFace::CheckListFace(CheckListBox &control, QListView &widget)
+CheckListFace::CheckListFace(CheckListBox &control, QListView &widget, const FaceLooks &faceLooks)
     : ListFace(control, widget,
                std::make_unique<CheckRows>([this](int row) { Hand([&] { list.UserToggles(row); }); }))
     , list(control)
+    , looks(faceLooks)
 {
 }
 
@@ -137,6 +139,20 @@ void CheckListFace::Show()
 {
     ListFace::Show();
     static_cast<CheckRows &>(Rows()).PublishMarks(list);
+    ShowBackColor();
+}
+
+void CheckListFace::ShowBackColor()
+{
+    if (shownColour == list.BackColor() || !looks.colour)
+        return;
+    shownColour = list.BackColor();
+    QPalette palette = View().palette();
+    const QColor ground = looks.colour(*shownColour, QGuiApplication::palette());
+    palette.setColor(QPalette::Base, ground);
+    // The ground may be light on a desktop that writes light on dark.
+    palette.setColor(QPalette::Text, ground.lightness() > 127 ? Qt::black : Qt::white);
+    View().setPalette(palette);
 }
 
 FolderFace::FolderFace(FolderList &control, QListView &widget, const QIcon &icon)

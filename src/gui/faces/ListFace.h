@@ -8,6 +8,7 @@
 #include "controls/ItemModel.h"
 #include "controls/ListBox.h"
 #include "faces/Face.h"
+#include "faces/FaceLooks.h"
 
 #include <QIcon>
 #include <QListView>
@@ -67,13 +68,17 @@ private:
 /// A list box with a check mark in each row.
 class CheckListFace : public ListFace {
 public:
-    CheckListFace(CheckListBox &control, QListView &widget);
+    CheckListFace(CheckListBox &control, QListView &widget, const FaceLooks &looks);
 
 protected:
     void Show() override;
 
 private:
+    void ShowBackColor();
+
     CheckListBox &list;
+    FaceLooks looks;
+    std::optional<ColourNumber> shownColour;
 };
 
 /// A folder list: its rows are indented by their depth and bear a folder. The present folder is marked,
