@@ -41,8 +41,6 @@ class NoScreen : public Screen {
 public:
     int Left() const override { return 0; }
     int Top() const override { return 0; }
-    int Left() const override { return 0; }
-    int Top() const override { return 0; }
     int Width() const override { return 0; }
     int Height() const override { return 0; }
 };
