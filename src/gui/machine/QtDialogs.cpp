@@ -170,7 +170,9 @@ std::optional<FileDialogAnswer> QtDialogs::OpenFile(const FileDialogRequest &req
 {
     OpenDialog dialog(Owner(), WithoutDot(request.defaultExtension));
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
-    dialog.setFileMode(request.several ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
+    dialog.setFileMode(request.several            ? QFileDialog::ExistingFiles
+                           : request.mayBeMissing ? QFileDialog::AnyFile
+                                                  : QFileDialog::ExistingFile);
     return AskForFile(dialog, request);
 }
 
