@@ -3,30 +3,52 @@
 
 #pragma once
 
-#include "CreateCommand.h"
-#include "ReportCommand.h"
-#include "SeriesCommand.h"
+#include "Command.h"
 
-#include <QString>
-#include <QStringList>
+#include <QHash>
 
-#include <variant>
+#include <optional>
 
 namespace tressel {
 
-/// A text that was asked for: help or the version.
-struct ShowText {
-    QString text;
-};
-
-/// A command line that can't be understood, and why.
+/// A command line that can't be understood, and why. The names in it are safe to show.
 struct UsageError {
     QString sentence;
 };
 
-using Command = std::variant<CreateRequest, SeriesRequest, ReportRequest, ShowText, UsageError>;
+/// The words behind a command's name, told apart by its options. Options may stand anywhere; "--" ends them,
+/// and "-" alone is no option.
+class Arguments {
+public:
+    /// Throws UsageError for an option that the command hasn't got or that comes twice, and for a value that
+    /// is missing, empty, or none of the choices. Says nothing about operands.
+    Arguments(const Command &command, const QStringList &words);
 
-/// Understands the arguments behind the program's name. Relative paths are taken from `workingFolder`.
-Command ParseArguments(const QStringList &arguments, const QString &workingFolder);
+    /// True if --help or -h stands among the options, whatever is wrong with the rest.
+    static bool AskForHelp(const Command &command, const QStringList &words);
+
+    bool Has(const CommandOption &option) const { return values.contains(option.name); }
+    bool Has(const QString &option) const { return values.contains(option); }
+    /// Nothing if the option isn't there.
+    std::optional<QString> Value(const QString &option) const;
+    /// The value of an option that must be there; UsageError if it isn't.
+    QString Need(const QString &option) const;
+    /// All that is no option, in order.
+    const QStringList &Operands() const { return operands; }
+
+private:
+    void Take(const CommandOption &option, const std::optional<QString> &attached, const QStringList &words,
+              qsizetype &at);
+
+    const Command &command;
+    QHash<QString, QString> values;
+    QStringList operands;
+};
+
+/// The one of the words that a mistyped one is likely to be; empty if none is near.
+QString NearestTo(const QString &mistyped, const QStringList &words);
+
+/// ", did you mean X?", or nothing where no word is near.
+QString DidYouMean(const QString &mistyped, const QStringList &words);
 
 } // namespace tressel

@@ -3,33 +3,22 @@
 
 #include "Console.h"
 
+#include "Arguments.h"
+#include "ConsoleMachine.h"
+#include "SafeName.h"
+#include "machine/AbsolutePath.h"
 #include "machine/TextFile.h"
 
 #include <QDeadlineTimer>
 
 #include <algorithm>
-#include <csignal>
-#include <cstdio>
-#include <unistd.h>
+#include <new>
 
 namespace tressel {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-volatile std::sig_atomic_t interrupted = 0;
-
-void NoteSignal(int)
-{
-    interrupted = 1;
-}
-
-void WriteLine(std::FILE *stream, const QString &line)
-{
-    const QByteArray bytes = EncodeText(line + u'\n', NameBytes::Raw);
-    std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stream);
-}
 
 qint64 Now()
 {
@@ -38,69 +27,133 @@ qint64 Now()
 
 } // namespace
 
-void Print(const QString &line)
-{
-    WriteLine(stdout, line);
-}
-
-void PrintAside(const QString &line)
-{
-    std::fflush(stdout);
-    WriteLine(stderr, line);
-}
-
-void PrintError(const QString &sentence)
-{
-    PrintAside(u"tressel-cli: "_s + sentence);
-}
-
-void NoteInterruptions()
-{
-    struct sigaction action = {};
-    action.sa_handler = NoteSignal;
-    sigaction(SIGINT, &action, nullptr);
-    sigaction(SIGTERM, &action, nullptr);
-}
-
-bool WasInterrupted()
-{
-    return interrupted != 0;
-}
-
-ProgressLine::ProgressLine(bool wanted)
-    : isShown(wanted && isatty(STDERR_FILENO) == 1)
+Console::Console(const Surroundings &surroundings, const Arguments &arguments)
+    : machine(surroundings.machine)
+    , streams(surroundings.streams)
+    , stops(surroundings.stops)
+    , workingFolder(surroundings.workingFolder)
+    , isQuiet(arguments.Has(shared::Quiet()))
+    , lineEnd(arguments.Has(shared::Null()) ? '\0' : '\n')
+    , showsProgress(!isQuiet && streams.Err().IsTerminal() && !streams.Out().IsTerminal())
 {
 }
 
-ProgressLine::~ProgressLine()
+QString Console::Path(const QString &typed, Links last) const
 {
-    Clear();
+    return AbsolutePath(machine.files, typed, workingFolder, last);
 }
 
-bool ProgressLine::IsDue() const
+void Console::Line(const QString &text)
 {
-    constexpr qint64 pause = 50;
-    return isShown && (!isDrawn || Now() - lastDrawn >= pause);
+    streams.Out().Write(EncodeText(text, NameBytes::Raw) + lineEnd);
 }
 
-void ProgressLine::Show(double done, double total)
+QString Console::Shown(const QString &name) const
+{
+    return streams.Out().IsTerminal() && !EndsInNul() ? SafeName(name) : name;
+}
+
+void Console::Fail(const QString &path, const Failure &failure)
+{
+    Fail(path, failure.description);
+}
+
+void Console::Fail(const QString &path, const QString &reason)
+{
+    FailAs(SafeName(path) + u": "_s + reason);
+}
+
+void Console::FailAs(const QString &sentence)
+{
+    hasFailed = true;
+    WriteAside(u"tressel-cli: "_s + sentence);
+}
+
+void Console::Aside(const QString &sentence)
+{
+    if (!isQuiet)
+        WriteAside(sentence);
+}
+
+void Console::WriteAside(const QString &line)
+{
+    ClearProgress();
+    // So that the two streams keep their order where they meet.
+    streams.Out().Flush();
+    streams.Err().Write(EncodeText(line, NameBytes::Raw) + '\n');
+    streams.Err().Flush();
+}
+
+int Console::Status() const
+{
+    return hasFailed ? SomethingFailed : AllDone;
+}
+
+void Console::BetweenSteps()
+{
+    stops.ThrowIfPending();
+    if (streams.Out().Problem())
+        throw OutputLost{};
+}
+
+void Console::ShowProgress(double done, double total)
 {
     constexpr int width = 40;
-    if (total <= 0 || !IsDue())
+    constexpr qint64 pause = 50;
+    if (!showsProgress || total <= 0 || (isBarDrawn && Now() - barDrawnAt < pause))
         return;
-    lastDrawn = Now();
-    isDrawn = true;
+    barDrawnAt = Now();
+    isBarDrawn = true;
     const int filled = static_cast<int>(width * std::clamp(done / total, 0.0, 1.0));
     const QString bar = QString(filled, u'#') + QString(width - filled, u'.');
-    std::fprintf(stderr, "\r[%s] %.0f of %.0f\033[K", bar.toLatin1().constData(), done, total);
-    std::fflush(stderr);
+    streams.Err().Write(
+        u"\r[%1] %2 of %3\033[K"_s.arg(bar).arg(done, 0, 'f', 0).arg(total, 0, 'f', 0).toLatin1());
+    streams.Err().Flush();
 }
 
-void ProgressLine::Clear()
+void Console::ClearProgress()
 {
-    if (isDrawn)
-        std::fputs("\r\033[K", stderr);
-    isDrawn = false;
+    if (isBarDrawn)
+        streams.Err().Write("\r\033[K");
+    isBarDrawn = false;
+}
+
+void Console::Count(const QString &sentence)
+{
+    ClearProgress();
+    if (!isQuiet)
+        streams.Out().Write(EncodeText(sentence) + '\n');
+}
+
+int Console::Conclude(const std::function<void()> &work, const std::function<void()> &close)
+{
+    int signal = 0;
+    try {
+        work();
+    } catch (const Stopped &stopped) {
+        signal = stopped.signal;
+    } catch (const OutputLost &) {
+        // Finish says why.
+    } catch (const Unanswered &unanswered) {
+        FailAs(u"there is no answer to: "_s + SafeText(unanswered.question));
+    } catch (const Failure &failure) {
+        FailAs(failure.description);
+    } catch (const std::bad_alloc &) {
+        FailAs(DescriptionOf(FailureNumber::OutOfMemory));
+    }
+    close();
+    return signal != 0 ? StoppedBySignal + signal : Status();
+}
+
+int Console::Finish(int status)
+{
+    ClearProgress();
+    streams.Out().Flush();
+    const auto problem = streams.Out().Problem();
+    if (!problem)
+        return status;
+    WriteAside(u"tressel-cli: standard output: "_s + problem->description);
+    return status == AllDone ? int(SomethingFailed) : status;
 }
 
 } // namespace tressel

@@ -3,33 +3,55 @@
 
 #include "ConsoleMachine.h"
 
-#include "Console.h"
+#include "base/Failure.h"
 
 namespace tressel {
 
-using namespace Qt::StringLiterals;
-
 BoxAnswer ConsoleDialogs::Show(const MessageBox &box)
 {
-    PrintError(box.text);
-    return box.defaultAnswer.value_or(BoxAnswer::Ok);
+    const auto answer = onBox ? onBox(box) : std::nullopt;
+    if (!answer)
+        throw Unanswered{box.text};
+    return *answer;
 }
 
 void ConsoleDialogs::ShowFatal(int number, const QString &description)
 {
-    PrintError(u"Run-time error '%1': %2"_s.arg(number).arg(description));
+    throw Failure(static_cast<FailureNumber>(number), description);
 }
 
 std::optional<FileDialogAnswer> ConsoleDialogs::OpenFile(const FileDialogRequest &request)
 {
     if (namedFile.isEmpty())
-        return {};
+        throw Unanswered{request.title};
     return FileDialogAnswer{{namedFile}, request.folder};
 }
 
-ConsoleMachine::ConsoleMachine(FileSystem &fileSystem, Clock &systemClock, Program &runningProgram)
+std::optional<FileDialogAnswer> ConsoleDialogs::SaveFile(const FileDialogRequest &request)
+{
+    throw Unanswered{request.title};
+}
+
+std::optional<QString> ConsoleDialogs::ChooseFolder(const QString &prompt, const QString &)
+{
+    throw Unanswered{prompt};
+}
+
+std::optional<quint32> ConsoleDialogs::ChooseColour(quint32)
+{
+    throw Unanswered{QStringLiteral("colour")};
+}
+
+std::optional<FontChoice> ConsoleDialogs::ChooseFont(const FontChoice &)
+{
+    throw Unanswered{QStringLiteral("font")};
+}
+
+ConsoleMachine::ConsoleMachine(FileSystem &fileSystem, Clock &systemClock, Program &runningProgram,
+                               Databases &readDatabases)
     : files(fileSystem)
     , clock(systemClock)
+    , databases(readDatabases)
     , program(runningProgram)
 {
 }

@@ -11,7 +11,6 @@
 #include "machine/Screen.h"
 #include "machine/Shell.h"
 #include "machine/Sound.h"
-#include "machine/posix/JetDatabases.h"
 #include "settings/HiveTree.h"
 
 #include <functional>
@@ -44,19 +43,28 @@ public:
     int Height() const override { return 0; }
 };
 
-/// Boxes become lines on standard error; a file dialog answers with what the command line named.
+/// What ends a command whose run asks for something that the command line didn't tell. No Failure, so that no
+/// run takes it for one of its own.
+struct Unanswered {
+    QString question;
+};
+
+/// Where a run would ask its user. A command says beforehand what it answers; what it wasn't told of ends it.
 class ConsoleDialogs : public Dialogs {
 public:
-    /// What the next file dialogs answer with.
+    /// The answer to a box; nothing for one that the command knows nothing of.
+    std::function<std::optional<BoxAnswer>(const MessageBox &)> onBox;
+    /// What a dialog for opening a file answers with; empty for a command that has no such file.
     QString namedFile;
 
     BoxAnswer Show(const MessageBox &box) override;
+    /// Throws the failure on: it ends the command.
     void ShowFatal(int number, const QString &description) override;
     std::optional<FileDialogAnswer> OpenFile(const FileDialogRequest &request) override;
-    std::optional<FileDialogAnswer> SaveFile(const FileDialogRequest &) override { return {}; }
-    std::optional<QString> ChooseFolder(const QString &, const QString &) override { return {}; }
-    std::optional<quint32> ChooseColour(quint32) override { return {}; }
-    std::optional<FontChoice> ChooseFont(const FontChoice &) override { return {}; }
+    std::optional<FileDialogAnswer> SaveFile(const FileDialogRequest &request) override;
+    std::optional<QString> ChooseFolder(const QString &prompt, const QString &folder) override;
+    std::optional<quint32> ChooseColour(quint32 colour) override;
+    std::optional<FontChoice> ChooseFont(const FontChoice &font) override;
 };
 
 /// The running program, which writes no files of its own: no folder is made for them.
@@ -77,43 +85,36 @@ private:
     Program &program;
 };
 
-/// A run's pauses are used to show how far it is and to notice an interruption.
-class ConsoleEvents : public Events {
+/// Nothing but the run goes on: a signal is noticed between two steps.
+class NoEvents : public Events {
 public:
-    /// Called at every pause.
-    std::function<void()> onPause;
-
-    void LetEventsRun() override
-    {
-        if (onPause)
-            onPause();
-    }
-    void ShowAnimationStep() override { LetEventsRun(); }
-    void KeepPainting() override { LetEventsRun(); }
+    void LetEventsRun() override { }
+    void ShowAnimationStep() override { }
+    void KeepPainting() override { }
     void SetBusyPointer(bool) override { }
 };
 
-/// What the command line has of a computer: the real disc, settings that last as long as the process,
-/// and nothing to see or hear.
+/// What the command line has of a computer: disc, clock and databases, settings that last as long as the
+/// process, and nothing to see or hear.
 class ConsoleMachine {
 public:
-    ConsoleMachine(FileSystem &files, Clock &clock, Program &program);
+    ConsoleMachine(FileSystem &files, Clock &clock, Program &program, Databases &databases);
 
     Machine AsMachine();
 
-    MemorySettingsHive hive;
     ConsoleDialogs dialogs;
-    ConsoleEvents events;
 
 private:
     FileSystem &files;
     Clock &clock;
+    Databases &databases;
     ProgramWithoutFiles program;
+    MemorySettingsHive hive;
+    NoEvents events;
     SilentSound sound;
     NoShell shell;
     NoClipboard clipboard;
     NoScreen screen;
-    JetDatabases databases{events};
 };
 
 } // namespace tressel

@@ -3,80 +3,61 @@
 
 #include "ReportOutput.h"
 
-#include "machine/posix/SystemError.h"
-
-#include <cerrno>
-#include <cstdio>
-#include <utility>
+#include "Console.h"
+#include "machine/NameText.h"
 
 namespace tressel {
 
 namespace {
 
-/// Takes the CR out of each CR LF.
-QByteArray WithPlainEnds(QByteArrayView lines)
-{
-    QByteArray plain(lines.size(), Qt::Uninitialized);
-    char *to = plain.data();
-    for (const char *at = lines.begin(); at != lines.end(); ++at) {
-        if (*at != '\r' || at + 1 == lines.end() || at[1] != '\n')
-            *to++ = *at;
-    }
-    plain.truncate(to - plain.constData());
-    return plain;
-}
-
-void WriteToStandardOutput(QByteArrayView lines)
-{
-    const QByteArray plain = WithPlainEnds(lines);
-    const auto length = static_cast<size_t>(plain.size());
-    if (std::fwrite(plain.constData(), 1, length, stdout) != length)
-        throw Failure(NumberOfError(errno));
-}
+constexpr qsizetype heldAtMost = 1 << 16;
 
 } // namespace
 
-ReportOutput::ReportOutput(std::unique_ptr<OpenFile> openFile)
-    : file(std::move(openFile))
+ReportOutput::ReportOutput(Console &toConsole)
+    : console(toConsole)
+    , end(1, toConsole.EndsInNul() ? '\0' : '\n')
 {
 }
 
-void ReportOutput::Write(const QByteArray &lines)
+ReportOutput::ReportOutput(Console &toConsole, const QString &path, IfThere ifThere)
+    : console(toConsole)
+    , file(toConsole.machine.files.Replace(path, ifThere))
+    , end(toConsole.EndsInNul() ? QByteArray(1, '\0') : QByteArray("\r\n"))
 {
-    Noting([&] {
-        if (file)
-            file->Write(lines);
-        else
-            WriteToStandardOutput(lines);
-    });
 }
 
-void ReportOutput::Finish()
+ReportOutput::~ReportOutput() = default;
+
+QString ReportOutput::Shown(const QString &name) const
 {
-    if (problem)
-        return;
-    try {
-        Noting([&] {
-            if (file)
-                file->Close();
-            else if (std::fflush(stdout) != 0)
-                throw Failure(NumberOfError(errno));
-        });
-    } catch (const Failure &) {
-        // Noted as the problem.
-    }
+    return file ? name : console.Shown(name);
 }
 
-template <typename Step> void ReportOutput::Noting(Step &&step)
+void ReportOutput::WriteLine(const QString &line)
 {
-    if (problem)
-        throw Failure(*problem);
-    try {
-        step();
-    } catch (const Failure &failure) {
-        problem = failure;
-        throw;
-    }
+    const qsizetype before = held.size();
+    held.resize(before + line.size() * 3);
+    held.truncate(WriteUtf8(line, NameBytes::Raw, held.data() + before) - held.constData());
+    held += end;
+    if (held.size() >= heldAtMost)
+        Pass();
+}
+
+void ReportOutput::Commit()
+{
+    Pass();
+    if (file)
+        file->Commit();
+}
+
+void ReportOutput::Pass()
+{
+    if (file)
+        file->Write(held);
+    else
+        console.streams.Out().Write(held);
+    held.resize(0);
 }
 
 } // namespace tressel

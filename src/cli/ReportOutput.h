@@ -5,27 +5,40 @@
 
 #include "machine/FileSystem.h"
 
+#include <QByteArray>
+#include <QString>
+
+#include <memory>
+
 namespace tressel {
 
-/// Where the lines of a report go: to a file as they are, ended by CR LF, or to standard output with the
-/// line ends that other programs expect there.
+class Console;
+
+/// Where the lines of a report go: to standard output, or to a file that is put in place when all of it is
+/// there. Lines end as other programs expect it of each: LF on standard output, CR LF in a file as the
+/// window's reports have it, NUL in both with --null.
 class ReportOutput {
 public:
-    /// To standard output if there is no file.
-    explicit ReportOutput(std::unique_ptr<OpenFile> file);
+    /// To standard output.
+    explicit ReportOutput(Console &console);
+    /// To a file. Fails as FileSystem::Replace does.
+    ReportOutput(Console &console, const QString &file, IfThere ifThere);
+    ~ReportOutput();
 
-    /// Whole lines. Fails as OpenFile::Write does, and every time once it has failed.
-    void Write(const QByteArray &lines);
-    /// Hands over what is still held back.
-    void Finish();
-    /// Why not all of it could be written; nothing if all was.
-    const std::optional<Failure> &Problem() const { return problem; }
+    /// A name as it may stand in a line.
+    QString Shown(const QString &name) const;
+    /// A line without its end. A file fails as ReplacingFile::Write does.
+    void WriteLine(const QString &line);
+    /// Writes the rest, and puts the file in place. Without it the file is left as it was.
+    void Commit();
 
 private:
-    template <typename Step> void Noting(Step &&step);
+    void Pass();
 
-    std::unique_ptr<OpenFile> file;
-    std::optional<Failure> problem;
+    Console &console;
+    std::unique_ptr<ReplacingFile> file; ///< none for standard output
+    QByteArray end;
+    QByteArray held;
 };
 
 } // namespace tressel

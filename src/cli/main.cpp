@@ -1,17 +1,20 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
-#include "Arguments.h"
+#include "Commands.h"
 #include "Console.h"
+#include "ConsoleMachine.h"
+#include "StandardStreams.h"
+#include "base/Failure.h"
 #include "machine/TextFile.h"
+#include "machine/posix/JetDatabases.h"
 #include "machine/posix/PosixClock.h"
 #include "machine/posix/PosixFileSystem.h"
 #include "machine/posix/PosixProgram.h"
 
 #include <array>
 #include <climits>
-#include <cstdio>
-#include <cstdlib>
+#include <new>
 #include <unistd.h>
 
 using namespace tressel;
@@ -35,33 +38,36 @@ QString WorkingFolder()
     return path ? DecodeText(QByteArray(path), NameBytes::Raw) : u"/"_s;
 }
 
-struct Runner {
-    FileSystem &files;
-    Clock &clock;
-    Program &program;
+int Run(int count, char **arguments, StandardStreams &streams)
+{
+    PosixFileSystem files;
+    PosixClock clock;
+    PosixProgram program(count, arguments, [&streams] { streams.Out().Flush(); });
+    NoEvents events;
+    JetDatabases databases(events);
+    ConsoleMachine machine(files, clock, program, databases);
+    StopSignals stops;
+    return RunCommandLine(TextOf(count, arguments), {streams, machine.AsMachine(), stops, WorkingFolder()});
+}
 
-    int operator()(const ShowText &text) const
-    {
-        Print(text.text);
-        return AllDone;
-    }
-    int operator()(const UsageError &error) const
-    {
-        PrintError(error.sentence + u" (see tressel-cli --help)"_s);
-        return WrongUsage;
-    }
-    int operator()(const CreateRequest &request) const { return RunCreate(request, files, clock, program); }
-    int operator()(const SeriesRequest &request) const { return RunSeries(request, files, clock, program); }
-    int operator()(const ReportRequest &request) const { return RunReport(request, files, clock, program); }
-};
+int TellEnd(StandardStreams &streams, const QString &reason)
+{
+    streams.Err().Write(EncodeText(u"tressel-cli: "_s + reason + u'\n'));
+    return SomethingFailed;
+}
 
 } // namespace
 
 int main(int count, char **arguments)
 {
-    PosixFileSystem files;
-    PosixClock clock;
-    PosixProgram program(count, arguments, [] { std::fflush(stdout); });
-    const Command command = ParseArguments(TextOf(count, arguments), WorkingFolder());
-    return std::visit(Runner{files, clock, program}, command);
+    FillClosedDescriptors();
+    StopSignals::TakeOver();
+    StandardStreams streams;
+    try {
+        return Run(count, arguments, streams);
+    } catch (const Failure &failure) {
+        return TellEnd(streams, failure.description);
+    } catch (const std::bad_alloc &) {
+        return TellEnd(streams, DescriptionOf(FailureNumber::OutOfMemory));
+    }
 }

@@ -3,14 +3,17 @@
 
 #include "RunCommand.h"
 
+#include <array>
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
 #include <fstream>
 #include <iterator>
+#include <pty.h>
 #include <sched.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 namespace tressel {
 
@@ -18,10 +21,54 @@ namespace fs = std::filesystem;
 
 namespace {
 
-void Replace(int descriptor, const fs::path &path)
+void Replace(int descriptor, const fs::path &path, int flags)
 {
-    dup2(open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666), descriptor);
+    dup2(open(path.c_str(), flags, 0666), descriptor);
 }
+
+/// What takes one of the program's two outputs: a file or a terminal.
+class Sink {
+public:
+    Sink(fs::path filePath, bool isTerminal)
+        : path(std::move(filePath))
+    {
+        if (isTerminal && openpty(&terminal, &programSide, nullptr, nullptr, nullptr) != 0)
+            std::abort();
+    }
+    ~Sink()
+    {
+        close(terminal);
+        close(programSide);
+    }
+    Sink(const Sink &) = delete;
+    Sink &operator=(const Sink &) = delete;
+
+    /// In the program.
+    void PutAt(int descriptor) const
+    {
+        if (programSide >= 0)
+            dup2(programSide, descriptor);
+        else
+            Replace(descriptor, path, O_WRONLY | O_CREAT | O_TRUNC);
+    }
+    /// What came, once the program has gone.
+    std::string Taken()
+    {
+        if (terminal < 0)
+            return CommandPlace::Contents(path);
+        close(std::exchange(programSide, -1));
+        std::string text;
+        std::array<char, 4096> piece;
+        for (ssize_t length; (length = read(terminal, piece.data(), piece.size())) > 0;)
+            text.append(piece.data(), static_cast<size_t>(length));
+        return text;
+    }
+
+private:
+    fs::path path;
+    int terminal = -1;
+    int programSide = -1;
+};
 
 [[noreturn]] void BecomeProgram(const std::vector<std::string> &arguments)
 {
@@ -42,27 +89,45 @@ CommandPlace::CommandPlace()
 
 Outcome CommandPlace::RunCli(const std::vector<std::string> &arguments, uid_t asUser) const
 {
-    const fs::path out = standardOutput.empty() ? folder / "stdout" : fs::path(standardOutput);
-    const fs::path err = folder / "stderr";
+    Sink out(standardOutput.empty() ? folder / "stdout" : fs::path(standardOutput), outIsTerminal);
+    Sink err(folder / "stderr", errIsTerminal);
     const pid_t child = fork();
     if (child == 0) {
-        Replace(STDOUT_FILENO, out);
-        Replace(STDERR_FILENO, err);
-        if (asUser != 0 && setuid(asUser) != 0)
+        Replace(STDIN_FILENO, standardInput, O_RDONLY);
+        if (outputDescriptor >= 0)
+            dup2(outputDescriptor, STDOUT_FILENO);
+        else
+            out.PutAt(STDOUT_FILENO);
+        err.PutAt(STDERR_FILENO);
+        if (!MakeReady(asUser))
             _exit(99);
-        for (const char *name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"})
-            setenv(name, (folder / "home").c_str(), 1);
         BecomeProgram(arguments);
     }
     if (!interruptAfter.empty()) {
         while (!fs::exists(interruptAfter) && waitpid(child, nullptr, WNOHANG) == 0)
             sched_yield();
-        kill(child, SIGINT);
+        kill(child, interruptWith);
     }
     int status = 0;
     waitpid(child, &status, 0);
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status),
-            standardOutput.empty() ? Contents(out) : std::string(), Contents(err)};
+            standardOutput.empty() ? out.Taken() : std::string(), err.Taken()};
+}
+
+bool CommandPlace::MakeReady(uid_t asUser) const
+{
+    for (const int descriptor : closed)
+        close(descriptor);
+    for (const int number : ignored)
+        std::signal(number, SIG_IGN);
+    const rlimit limit{longestFile, longestFile};
+    if (longestFile != RLIM_INFINITY && setrlimit(RLIMIT_FSIZE, &limit) != 0)
+        return false;
+    if (chdir(workingFolder.c_str()) != 0 || (asUser != 0 && setuid(asUser) != 0))
+        return false;
+    for (const char *name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"})
+        setenv(name, (folder / "home").c_str(), 1);
+    return true;
 }
 
 fs::path CommandPlace::Put(const std::string &name, const std::string &contents) const

@@ -5,9 +5,11 @@
 
 #include "support/TemporaryFolder.h"
 
+#include <csignal>
 #include <filesystem>
 #include <set>
 #include <string>
+#include <sys/resource.h>
 #include <sys/types.h>
 #include <vector>
 
@@ -35,12 +37,27 @@ public:
     std::set<std::string> Below(const std::string &name) const;
 
 private:
+    /// In the program that is about to start: puts it where the run is to be. False if that can't be.
+    bool MakeReady(uid_t asUser) const;
+
     TemporaryFolder temporary;
 
 public:
     const std::filesystem::path folder{temporary.Path().toStdString()};
+
+    // How the program is run from now on.
+
+    std::filesystem::path workingFolder = folder; ///< where it is started
+    std::string standardInput = "/dev/null"; ///< a path
+    std::string standardOutput; ///< a path that takes it in place of Outcome::out; empty for none
+    int outputDescriptor = -1; ///< what takes it in place of both
+    bool outIsTerminal = false; ///< Outcome::out is what a terminal would have shown
+    bool errIsTerminal = false;
+    std::set<int> closed; ///< descriptors
+    std::set<int> ignored; ///< signals
     std::filesystem::path interruptAfter; ///< a run is interrupted as soon as this is there
-    std::string standardOutput; ///< what takes the standard output in place of Outcome::out; empty for none
+    int interruptWith = SIGINT;
+    rlim_t longestFile = RLIM_INFINITY; ///< bytes that a file of it may have
 };
 
 } // namespace tressel

@@ -193,6 +193,18 @@ std::optional<FileStatus> MemoryFileSystem::Status(const QString &path, Links li
     }
 }
 
+std::optional<QString> MemoryFileSystem::LinkTarget(const QString &path)
+{
+    try {
+        const Node node = Find(path, Links::Keep).node;
+        if (node && node->kind == EntryKind::Link)
+            return node->target;
+    } catch (const Failure &) {
+        // What can't be reached is no link.
+    }
+    return {};
+}
+
 QList<FolderEntry> MemoryFileSystem::List(const QString &folder, Lengths lengths)
 {
     return Ask(Operation::List, folder, {}, [&] {

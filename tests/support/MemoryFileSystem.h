@@ -55,6 +55,8 @@ public:
 
     QChar Separator() const override { return u'\\'; }
     std::optional<FileStatus> Status(const QString &path, Links links) override;
+    /// Without a word in the journal.
+    std::optional<QString> LinkTarget(const QString &path) override;
     QList<FolderEntry> List(const QString &folder, Lengths lengths = Lengths::LeftOut) override;
     std::unique_ptr<FolderReader> Read(const QString &folder, Lengths lengths = Lengths::LeftOut) override;
     std::optional<Failure> TryMakeFolder(const QString &path) override;

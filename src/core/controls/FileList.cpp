@@ -7,6 +7,18 @@
 
 namespace tressel {
 
+QStringList ShownFiles(FileSystem &files, const QString &folder)
+{
+    QStringList names;
+    for (const FolderEntry &entry : files.List(folder)) {
+        const bool isFile = entry.kind == EntryKind::File
+            || (entry.kind == EntryKind::Link && FileExists(files, JoinPath(files, folder, entry.name)));
+        if (isFile && !entry.hidden)
+            names += entry.name;
+    }
+    return names;
+}
+
 FileList::FileList(Form &form, const QString &name, FileSystem &fileSystem)
     : ListBox(form, name)
     , files(fileSystem)
@@ -25,15 +37,9 @@ void FileList::Refresh()
 {
     QStringList names;
     try {
-        for (const FolderEntry &entry : files.List(path)) {
-            const bool isFile = entry.kind == EntryKind::File
-                || (entry.kind == EntryKind::Link && FileExists(files, JoinPath(files, path, entry.name)));
-            if (isFile && !entry.hidden)
-                names += entry.name;
-        }
+        names = ShownFiles(files, path);
     } catch (const Failure &) {
         // A folder that can't be read shows no files.
-        names.clear();
     }
     SetItems(names);
 }

@@ -8,7 +8,11 @@
 
 namespace tressel {
 
-/// The names of the files of one folder, hidden ones left out.
+/// The names of the files in a folder, and of links to files, in the order of a listing; hidden ones are left
+/// out. Fails as FileSystem::List does.
+QStringList ShownFiles(FileSystem &files, const QString &folder);
+
+/// The names of the files of one folder, as ShownFiles has them.
 class FileList : public ListBox {
 public:
     /// Nothing is read before the path is set.

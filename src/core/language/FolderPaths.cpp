@@ -9,6 +9,7 @@
 #include "machine/FileSystem.h"
 #include "machine/Paths.h"
 
+#include <algorithm>
 #include <array>
 
 namespace tressel {
@@ -20,9 +21,7 @@ namespace {
 /// In the order in which they are replaced. Kept: the second one is the control character 9.
 constexpr std::array<char16_t, 9> illegalCharacters{u'/', u'\t', u':', u'*', u'?', u'"', u'<', u'>', u'|'};
 
-/// The one folder that RemoveFolderPath never touches. Kept: an old guard, compared to the letter, so that
-/// it speaks only where drives have letters.
-const QString protectedFolder = u"C:\\Test1"_s;
+const QString levelUp = u".."_s;
 
 /// Notes how one level went and tells it.
 void Tell(const LevelTried &tried, Steps &steps, const QString &level, const std::optional<Failure> &failure)
@@ -39,7 +38,22 @@ QString MendedName(const QString &name)
     QString mended = name;
     for (const char16_t character : illegalCharacters)
         mended.replace(QChar(character), QChar(u'_'));
-    return mended;
+    if (!LeadsOut(mended))
+        return mended;
+    QStringList levels = mended.split(u'\\');
+    std::ranges::replace(levels, levelUp, u"__"_s);
+    return levels.join(u'\\');
+}
+
+bool LeadsOut(const QString &entry)
+{
+    return entry.contains(levelUp) && entry.split(u'\\').contains(levelUp);
+}
+
+QString EntryOfName(const QString &name)
+{
+    QString entry = name;
+    return entry.replace(u'\\', u'_');
 }
 
 QString FixFolderName(const QString &name, Events &events, Session &session)
@@ -82,11 +96,17 @@ bool MakeFolderPath(FileSystem &files, const QString &path, const LevelTried &tr
     return !steps.Pending();
 }
 
+bool IsProtectedFolder(const QString &folder)
+{
+    // Kept: an old guard, compared to the letter, so that it speaks only where drives have letters.
+    return folder == u"C:\\Test1"_s;
+}
+
 bool RemoveFolderPath(FileSystem &files, const QString &path, const LevelTried &tried)
 {
     Steps steps;
     for (const QString &level : LevelsOf(files, path)) {
-        if (level != protectedFolder)
+        if (!IsProtectedFolder(level))
             Tell(tried, steps, level, files.TryRemoveFolder(level));
     }
     return !steps.Pending();

@@ -20,8 +20,14 @@ struct Session;
 // The routines on names and paths of folders that all tools share.
 
 /// The name with every character that no folder name may hold replaced by "_": / tab : * ? " < > |
-/// A "\" stays, so a name keeps its nested folders.
+/// A "\" stays, so a name keeps its nested folders; a level ".." becomes "__", so that none leads out.
 QString MendedName(const QString &name);
+
+/// True if a level of the entry is "..": such an entry is mended and never looked for as it stands.
+bool LeadsOut(const QString &entry);
+
+/// A name that comes from the disc as an entry of the list, where "\" would be a level: it becomes "_".
+QString EntryOfName(const QString &name);
 
 /// The same for a run: lets pending events run nine times and leaves its result in session.LastFixedName
 /// as well.
@@ -40,6 +46,9 @@ using LevelTried = std::function<void(const QString &level, const std::optional<
 /// a level failed, which an existing one does. Where all above the last level is there, that one may be
 /// all that is tried.
 bool MakeFolderPath(FileSystem &files, const QString &path, const LevelTried &tried = {});
+
+/// True for the one folder that RemoveFolderPath never touches.
+bool IsProtectedFolder(const QString &folder);
 
 /// Tries to remove every level of the path but the first piece, from the top down, and ignores failures:
 /// what goes is what is empty when its turn comes. False if a level failed.

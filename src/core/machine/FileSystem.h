@@ -130,6 +130,8 @@ public:
 
     /// Nothing if the path can't be reached for whatever reason.
     virtual std::optional<FileStatus> Status(const QString &path, Links links) = 0;
+    /// Where a symbolic link leads, as it was written; nothing for all else.
+    virtual std::optional<QString> LinkTarget(const QString &path) = 0;
 
     /// All entries of a folder, or of the folder that a link names, but "." and "..", sorted by name without
     /// regard to case.

@@ -63,6 +63,11 @@ QByteArray EncodeText(const QString &text, NameBytes nameBytes)
     return bytes;
 }
 
+LineReader::LineReader(QString whole)
+    : text(std::move(whole))
+{
+}
+
 LineReader::LineReader(FileSystem &files, const QString &path, NameBytes nameBytes)
     : text(DecodeText(ReadWhole(files, path), nameBytes))
 {

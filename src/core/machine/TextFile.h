@@ -25,6 +25,8 @@ class LineReader {
 public:
     /// Takes the whole file in. Fails as FileSystem::Open does.
     LineReader(FileSystem &files, const QString &path, NameBytes nameBytes = NameBytes::Escaped);
+    /// Reads a text that is in memory.
+    explicit LineReader(QString text);
 
     /// The next line without its end, nothing after the last.
     std::optional<QString> Next();

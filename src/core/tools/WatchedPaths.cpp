@@ -11,6 +11,8 @@
 
 namespace tressel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Refusal {
@@ -30,6 +32,8 @@ bool HoldsSomething(FileSystem &files, const QString &folder)
 Failure Reason(FileSystem &files, const QList<Refusal> &refusals)
 {
     for (const Refusal &refusal : refusals) {
+        if (FileExists(files, refusal.level))
+            return {refusal.failure.number, u"Something that is no folder is in its place"_s};
         if (!FolderExists(files, refusal.level))
             return refusal.failure;
     }
@@ -76,6 +80,8 @@ void RemoveFolderPathTelling(FileSystem &files, const QString &path, RunWatch &w
         watch.Did(Outcome::NotThere, path);
     else if (!wasTried || (status->kind == EntryKind::Folder && HoldsSomething(files, path)))
         watch.Did(Outcome::Kept, path);
+    else if (status->kind != EntryKind::Folder)
+        watch.Failed(path, {last->failure.number, u"It is no folder"_s});
     else
         watch.Failed(path, last->failure);
 }

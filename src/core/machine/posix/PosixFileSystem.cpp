@@ -3,6 +3,7 @@
 
 #include "machine/posix/PosixFileSystem.h"
 
+#include "machine/NameText.h"
 #include "machine/posix/FileKind.h"
 #include "machine/posix/NativePath.h"
 #include "machine/posix/PosixFolderReader.h"
@@ -12,11 +13,14 @@
 #include "machine/posix/SystemError.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
+#include <climits>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
+#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -138,6 +142,18 @@ std::optional<FileStatus> PosixFileSystem::Status(const QString &path, Links lin
     const EntryKind kind = KindOfMode(status.st_mode);
     return FileStatus{kind, kind == EntryKind::File ? status.st_size : 0, (status.st_mode & allMayWrite) == 0,
                       IsHidden(native), TimeOf(status.st_mtim)};
+}
+
+std::optional<QString> PosixFileSystem::LinkTarget(const QString &path)
+{
+    const NativePath native{QStringView(path)};
+    if (native.Problem())
+        return {};
+    std::array<char, PATH_MAX> target;
+    const ssize_t length = readlinkat(native.Folder(), native.Rest(), target.data(), target.size());
+    if (length < 0)
+        return {};
+    return TextFromUtf8(QByteArrayView(target.data(), length), NameBytes::Raw);
 }
 
 QList<FolderEntry> PosixFileSystem::List(const QString &folder, Lengths lengths)

@@ -13,6 +13,7 @@ class PosixFileSystem : public FileSystem {
 public:
     QChar Separator() const override { return u'/'; }
     std::optional<FileStatus> Status(const QString &path, Links links) override;
+    std::optional<QString> LinkTarget(const QString &path) override;
     QList<FolderEntry> List(const QString &folder, Lengths lengths = Lengths::LeftOut) override;
     std::unique_ptr<FolderReader> Read(const QString &folder, Lengths lengths = Lengths::LeftOut) override;
     std::optional<Failure> TryMakeFolder(const QString &path) override;

@@ -4,6 +4,7 @@
 #include "tools/folders/BrowsePage.h"
 
 #include "base/Steps.h"
+#include "language/FolderPaths.h"
 #include "language/Session.h"
 #include "tools/WorkArea.h"
 #include "tools/folders/FolderListFile.h"
@@ -39,7 +40,7 @@ void BrowsePage::LoadAllNames()
     session.RunNumber = 1;
     // Kept: the names come in as they stand, also where "Remove Ext" is checked.
     for (const QString &name : FileList.Items())
-        area.LstItem.AddItem(name);
+        area.LstItem.AddItem(EntryOfName(name));
     tree.RefreshFolderTree();
     area.lblStatusLine.SetCaption(u"Finished"_s);
     listFile.SaveList();
@@ -67,7 +68,7 @@ void BrowsePage::DirList_Change()
 void BrowsePage::FileList_DoubleClick()
 {
     const QString name = FileList.FileName();
-    area.LstItem.AddItem(name);
+    area.LstItem.AddItem(EntryOfName(name));
     tree.RefreshFolderTree();
     area.lblStatusLine.SetCaption(u"File ''"_s + name + u"'' added to list"_s);
     session.ListFromReport = false;

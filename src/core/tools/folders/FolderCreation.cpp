@@ -4,7 +4,6 @@
 #include "tools/folders/FolderCreation.h"
 
 #include "base/Numbers.h"
-#include "base/Text.h"
 #include "base/Version.h"
 #include "language/FolderPaths.h"
 #include "language/Session.h"
@@ -14,6 +13,7 @@
 #include "tools/RunWatch.h"
 #include "tools/WatchedPaths.h"
 #include "tools/WorkArea.h"
+#include "tools/folders/CreationRules.h"
 
 namespace tressel {
 
@@ -56,22 +56,22 @@ void FolderCreation::CreateFolder(int index)
 
     watch.Next(PathOf(index));
     const QString entry = area.LstItem.Item(ToInt16(index));
-    // Kept: the last four characters go whatever they are, where the list and the tree look for a dot.
-    MakeEntry(area.chkExtension.IsChecked() ? WithoutLast(entry, 4) : entry);
+    MakeEntry(CreatedName(entry, area.chkExtension.IsChecked()));
 }
 
 void FolderCreation::MakeEntry(const QString &item)
 {
     const QString wanted = session.DestinationPath + EntryToPath(files, item);
     // The test takes the name before it is mended, behind a doubled separator.
-    if (!FolderPathExists(files, session.DestinationPath + files.Separator() + EntryToPath(files, item))) {
+    if (LeadsOut(item)
+        || !FolderPathExists(files, session.DestinationPath + files.Separator() + EntryToPath(files, item))) {
         FixFolderName(item, events, session);
         const QString path = session.DestinationPath + EntryToPath(files, session.LastFixedName);
         if (MakeFolderPathTelling(files, path, watch) == PathEnd::StoodThere)
             watch.Did(Outcome::AlreadyThere, path);
     } else {
         // Kept: no name is mended on this road, so the suffix goes to the name handled before this one.
-        const QString suffixed = session.LastFixedName + u" ("_s + QString::number(session.RunNumber) + u')';
+        const QString suffixed = SuffixedName(session.LastFixedName, session.RunNumber);
         const QString path = session.DestinationPath + EntryToPath(files, suffixed);
         if (MakeFolderPathTelling(files, path, watch) != PathEnd::NotThere)
             watch.Did(Outcome::AlreadyThere, wanted);

@@ -13,6 +13,7 @@
 #include "machine/WholeFile.h"
 #include "settings/Settings.h"
 #include "tools/WorkArea.h"
+#include "tools/folders/CreationRules.h"
 #include "tools/folders/FolderTree.h"
 
 namespace tressel {
@@ -124,11 +125,9 @@ void FolderListFile::ReadLines(LineReader &reader)
 {
     while (const auto line = reader.Next()) {
         events.LetEventsRun();
-        if (line->isEmpty() || line->startsWith(u';'))
-            continue;
         // Only an extension of exactly three letters goes. A shorter line fails and ends the load.
-        const bool withoutExtension = area.chkExtension.IsChecked() && HasThreeLetterExtension(*line);
-        area.LstItem.AddItem(withoutExtension ? WithoutLast(*line, 4) : *line);
+        if (const auto entry = EntryOfLine(*line, area.chkExtension.IsChecked()))
+            area.LstItem.AddItem(*entry);
     }
     reader.Close();
 }

@@ -1,0 +1,244 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "RunCommand.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+namespace {
+
+using namespace tressel;
+namespace fs = std::filesystem;
+
+/// The built program as a process: where it is started, what its descriptors are, and what signals it gets.
+class Process : public testing::Test, protected CommandPlace {
+protected:
+    Process() { fs::create_directories(folder / "w/Live"); }
+
+    std::string Numbers(int count) const
+    {
+        std::string lines;
+        for (int line = 0; line < count; ++line)
+            lines += std::to_string(line) + "\n";
+        return lines;
+    }
+};
+
+TEST_F(Process, RelativePathsStartInTheWorkingFolder)
+{
+    workingFolder = folder / "w/Live";
+    EXPECT_EQ(RunCli({"create", "--to", "../made", "a"}).status, 0);
+    EXPECT_TRUE(fs::exists(folder / "w/made/a"));
+    EXPECT_EQ(RunCli({"report", "--folders-only", "../made"}).out,
+              (folder / "w/made").string() + " \n" + (folder / "w/made/a").string() + " \n");
+    Put("w/made/stays", "");
+    EXPECT_EQ(
+        RunCli({"series", "delete", "--in", "../made", "--base", "Disk", "--from", "1", "--to", "2"}).out,
+        "removed 0, kept 0, not there 2, failed 0\n");
+    EXPECT_TRUE(fs::exists(folder / "w/Live"));
+}
+
+TEST_F(Process, WorkingFolderBehindALinkIsTheRealOne)
+{
+    fs::create_directory_symlink(folder / "w/Live", folder / "link");
+    RunCli({"create", "--to", "link/../made", "a"});
+    EXPECT_TRUE(fs::exists(folder / "w/made/a"));
+}
+
+TEST_F(Process, FullStandardOutputIsAFailureOfEachCommand)
+{
+    standardOutput = "/dev/full";
+    for (const std::vector<std::string> &words : std::vector<std::vector<std::string>>{
+             {"--help"},
+             {"completions", "bash"},
+             {"report", "w"},
+             {"create", "--to", "out", "a"},
+             {"series", "make", "--in", "w", "--base", "D", "--from", "1", "--to", "2"}}) {
+        const Outcome outcome = RunCli(words);
+        EXPECT_EQ(outcome.status, 1) << words.front();
+        EXPECT_NE(outcome.err.find("tressel-cli: standard output: Disk full\n"), std::string::npos)
+            << outcome.err;
+    }
+}
+
+TEST_F(Process, ClosedStandardOutputIsAFailureWhereSomethingIsToldThere)
+{
+    closed = {STDOUT_FILENO};
+    const Outcome outcome = RunCli({"create", "--to", "out", "a"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.err, "tressel-cli: standard output: It is closed\n");
+    EXPECT_EQ(RunCli({"create", "--quiet", "--to", "out", "b"}).status, 0);
+}
+
+TEST_F(Process, BrokenPipeHasWords)
+{
+    int ends[2];
+    ASSERT_EQ(pipe(ends), 0);
+    close(ends[0]);
+    outputDescriptor = ends[1];
+    const Outcome outcome = RunCli({"report", "w"});
+    close(ends[1]);
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.err.find("tressel-cli: standard output: Nobody reads it any more\n"), std::string::npos)
+        << outcome.err;
+}
+
+TEST_F(Process, MessagesNeverLandInAFileOfOurs)
+{
+    closed = {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO};
+    EXPECT_EQ(RunCli({"report", "w", "--output", "r.txt"}).status, 1);
+    EXPECT_EQ(Contents(folder / "r.txt").find("listed"), std::string::npos);
+    EXPECT_NE(Contents(folder / "r.txt").find("w/Live"), std::string::npos);
+}
+
+TEST_F(Process, ClosedStandardInputIsNoList)
+{
+    closed = {STDIN_FILENO};
+    const Outcome outcome = RunCli({"create", "--to", "out", "--list", "-"});
+    EXPECT_EQ(outcome.err, "tressel-cli: -: It is closed\ntressel-cli: nothing was made\n");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_FALSE(fs::exists(folder / "out"));
+}
+
+TEST_F(Process, ListComesFromStandardInput)
+{
+    standardInput = Put("names", "a\nb\\c\n");
+    EXPECT_EQ(RunCli({"create", "--to", "out", "--list", "-"}).out, "made 3, already there 0, failed 0\n");
+    EXPECT_EQ(RunCli({"create", "--to", "more", "--list", "/dev/stdin"}).out,
+              "made 3, already there 0, failed 0\n");
+}
+
+TEST_F(Process, PipeAsListIsWaitedFor)
+{
+    const fs::path pipePath = folder / "pipe";
+    ASSERT_EQ(mkfifo(pipePath.c_str(), 0600), 0);
+    std::thread writer([&] { Put("pipe", "a\nb\n"); });
+    const Outcome outcome = RunCli({"create", "--to", "out", "--list", "pipe"});
+    writer.join();
+    EXPECT_EQ(outcome.out, "made 2, already there 0, failed 0\n");
+    EXPECT_EQ(outcome.status, 0);
+}
+
+TEST_F(Process, EndlessListIsRefused)
+{
+    const Outcome outcome = RunCli({"create", "--to", "out", "--list", "/dev/zero"});
+    EXPECT_EQ(outcome.err,
+              "tressel-cli: /dev/zero: It is longer than 64 MiB, the most that a list can be\n"
+              "tressel-cli: nothing was made\n");
+    EXPECT_EQ(outcome.status, 1);
+}
+
+TEST_F(Process, BarStandsOnATerminalWhoseOutputGoesElsewhere)
+{
+    errIsTerminal = true;
+    Outcome outcome = RunCli({"create", "--to", "out", "--list", Put("l", Numbers(50))});
+    EXPECT_EQ(outcome.err.rfind("\r[", 0), 0U) << outcome.err;
+    EXPECT_EQ(outcome.err.substr(outcome.err.size() - 4), "\r\033[K");
+    outcome = RunCli({"create", "--quiet", "--to", "out2", "a"});
+    EXPECT_EQ(outcome.err, "");
+    outIsTerminal = true;
+    outcome = RunCli({"create", "--to", "out3", "a"});
+    EXPECT_EQ(outcome.err, "");
+    EXPECT_EQ(outcome.out, "made 1, already there 0, failed 0\r\n");
+}
+
+TEST_F(Process, ReportOnATerminalHasNoBarAndNoRawNames)
+{
+    Put("w/Live/\033[31mred\xE2\x80\xAE", "");
+    Put("w/Live/\xFF", "");
+    outIsTerminal = errIsTerminal = true;
+    const Outcome outcome = RunCli({"report", "--names-only", "w/Live"});
+    EXPECT_EQ(outcome.out,
+              " \r\n" + (folder / "w/Live").string()
+                  + "\r\n''$'\\033''[31mred'$'\\342\\200\\256'\r\n''$'\\377'\r\n \r\n");
+    EXPECT_EQ(outcome.err, "listed 1 folders, 2 files, unreadable 0\r\n");
+}
+
+TEST_F(Process, NamesInMessagesAreNeverRaw)
+{
+    Put("w/x\033]0;title\a", "");
+    const Outcome outcome = RunCli({"create", "--to", "w/x\033]0;title\a", "a"});
+    EXPECT_EQ(outcome.err.find('\033'), std::string::npos);
+    EXPECT_NE(outcome.err.find("'$'\\033'']0;title'$'\\a': It is no folder"), std::string::npos)
+        << outcome.err;
+}
+
+TEST_F(Process, TerminatedRunKeepsWhatWasMadeAndSaysSo)
+{
+    const std::string list = Put("long.txt", Numbers(30000));
+    int number = 0;
+    for (const auto &[signal, status] : {std::pair(SIGTERM, 143), {SIGINT, 130}, {SIGHUP, 129}}) {
+        const std::string to = "out" + std::to_string(++number);
+        fs::create_directories(folder / to);
+        interruptAfter = folder / to / "100";
+        interruptWith = signal;
+        const Outcome outcome = RunCli({"create", "--to", to, "--list", list});
+        EXPECT_EQ(outcome.status, status);
+        EXPECT_EQ(outcome.out, "made " + std::to_string(Below(to).size()) + ", already there 0, failed 0\n");
+        EXPECT_LT(Below(to).size(), 30000U);
+    }
+}
+
+TEST_F(Process, SignalThatWasIgnoredStaysIgnored)
+{
+    const std::string list = Put("long.txt", Numbers(3000));
+    int number = 0;
+    for (const int signal : {SIGINT, SIGHUP}) {
+        const std::string to = "out" + std::to_string(++number);
+        fs::create_directories(folder / to);
+        ignored = {signal};
+        interruptAfter = folder / to / "10";
+        interruptWith = signal;
+        const Outcome outcome = RunCli({"create", "--to", to, "--list", list});
+        EXPECT_EQ(outcome.status, 0);
+        EXPECT_EQ(outcome.out, "made 3000, already there 0, failed 0\n");
+    }
+}
+
+TEST_F(Process, InterruptedWaitForAPipeEnds)
+{
+    const fs::path pipePath = folder / "pipe";
+    ASSERT_EQ(mkfifo(pipePath.c_str(), 0600), 0);
+    interruptAfter = pipePath;
+    interruptWith = SIGTERM;
+    const Outcome outcome = RunCli({"create", "--to", "out", "--list", "pipe"});
+    // The signal may come before the program has taken it over.
+    EXPECT_TRUE(outcome.status == 143 || outcome.status == -SIGTERM) << outcome.status;
+    EXPECT_FALSE(fs::exists(folder / "out"));
+}
+
+TEST_F(Process, ReportThatFindsNoRoomLeavesNoFile)
+{
+    for (int file = 0; file < 2000; ++file)
+        Put("w/a file of some length " + std::to_string(file), "");
+    longestFile = 4096;
+    const Outcome outcome = RunCli({"report", "w", "--output", "r.txt"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.err.find("/r.txt: Disk full\n"), std::string::npos) << outcome.err;
+    EXPECT_EQ(Below("").count("r.txt"), 0U);
+    EXPECT_EQ(Below("").size(), 2000U + 5U);
+}
+
+TEST_F(Process, BashCompletesCommandsOptionsAndValues)
+{
+    Put("completions", RunCli({"completions", "bash"}).out);
+    const auto completed = [&](const std::string &words, int at) {
+        const std::string script = "source " + (folder / "completions").string()
+            + "; COMP_WORDS=(tressel-cli " + words + "); COMP_CWORD=" + std::to_string(at)
+            + "; _tressel_cli; echo ${COMPREPLY[*]}";
+        Put("script", script);
+        const std::string command =
+            "bash " + (folder / "script").string() + " > " + (folder / "reply").string();
+        EXPECT_EQ(std::system(command.c_str()), 0);
+        return Contents(folder / "reply");
+    };
+    EXPECT_EQ(completed("cr", 1), "create\n");
+    EXPECT_EQ(completed("series m", 2), "make\n");
+    EXPECT_EQ(completed("series make --nu", 3), "--number-sub --null\n");
+    EXPECT_EQ(completed("series make --digits a", 4), "auto\n");
+}
+
+} // namespace
