@@ -11,6 +11,7 @@ namespace tressel {
 Command CompletionsCommand();
 Command CreateCommand();
 Command DatabaseCommand();
+Command RenameCommand();
 Command ReportCommand();
 Command SeriesCommand();
 
