@@ -5,7 +5,7 @@
 # copied beside them. What changes in assets/ is copied anew with the next build.
 file(GLOB TRESSEL_LANGUAGES RELATIVE ${PROJECT_SOURCE_DIR}/assets CONFIGURE_DEPENDS
   ${PROJECT_SOURCE_DIR}/assets/Lang/*)
-set(TRESSEL_PROGRAM_FILES TIPOFDAY.TXT click.wav ${TRESSEL_LANGUAGES})
+set(TRESSEL_PROGRAM_FILES TIPOFDAY.TXT click.wav data.mdb ${TRESSEL_LANGUAGES})
 
 set(copies "")
 foreach(file IN LISTS TRESSEL_PROGRAM_FILES)

@@ -39,6 +39,8 @@ public:
 
 class NoScreen : public Screen {
 public:
+    int Left() const override { return 0; }
+    int Top() const override { return 0; }
     int Width() const override { return 0; }
     int Height() const override { return 0; }
 };

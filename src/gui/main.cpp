@@ -27,8 +27,10 @@ void SaveSettings(FileHive &hive)
 
 int main(int count, char **arguments)
 {
-    // The toolkit takes its own options out of the arguments; the rest is the program's command line.
-    QApplication toolkit(count, arguments);
+    // The toolkit gets the program's name alone: the options that it knows may be meant for nobody but the
+    // program, whose command line is everything behind the name.
+    int toolkitCount = count > 0 ? 1 : 0;
+    QApplication toolkit(toolkitCount, arguments);
     QApplication::setApplicationName(u"tressel"_s);
     QApplication::setDesktopFileName(u"tressel"_s);
     QApplication::setWindowIcon(ProgramIcon(u"tressel"_s));

@@ -4,6 +4,7 @@
 // Saves a picture of the main window, with a sample list loaded and settings of its own:
 // tressel-picture FILE [WIDTHxHEIGHT] [--scale FACTOR] [--page ENTRY] [--dark] [--tip]
 
+#include "base/Twips.h"
 #include "machine/posix/PosixProgram.h"
 #include "settings/HiveTree.h"
 #include "widgets/ProgramIcons.h"
@@ -22,8 +23,6 @@ using namespace tressel;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int twipsPerPixel = 15;
 
 /// What the command line asks for.
 struct Wish {
@@ -101,8 +100,8 @@ void PrepareSettings(const Machine &machine, const Wish &wish, const QString &pl
     settings.Write(keys::IndxBar, wish.entry);
     if (!wish.size.isValid())
         return;
-    settings.Write(keys::MainWidth, QString::number(wish.size.width() * twipsPerPixel));
-    settings.Write(keys::MainHeight, QString::number(wish.size.height() * twipsPerPixel));
+    settings.Write(keys::MainWidth, QString::number(ToTwips(wish.size.width())));
+    settings.Write(keys::MainHeight, QString::number(ToTwips(wish.size.height())));
 }
 
 /// Lets the window come to rest.

@@ -3,7 +3,6 @@
 
 #include "Catalog.h"
 
-#include "JetTable.h"
 #include "Refusal.h"
 
 #include <optional>
@@ -28,89 +27,67 @@ constexpr std::uint32_t queryKindMask = 0xF0;
 constexpr std::uint32_t selectQuery = 0x00;
 constexpr std::uint32_t unionQuery = 0x80;
 
-class Catalog {
-public:
-    explicit Catalog(JetFile &databaseFile)
-        : file(databaseFile)
-        , table(databaseFile, catalogPage)
-        , id(Column(u"Id"))
-        , name(Column(u"Name"))
-        , type(Column(u"Type"))
-        , flags(Column(u"Flags"))
-    {
-    }
-
-    bool NextRow() { return table.NextRow(); }
-
-    /// Nothing for an object that is no table and doesn't look like one.
-    std::optional<CatalogEntry> Entry()
-    {
-        if (table.IsNull(id) || table.IsNull(name) || table.IsNull(type))
-            return {};
-        const std::optional<ObjectKind> kind = Kind();
-        if (!kind)
-            return {};
-        return CatalogEntry{file.Text(table.Value(name)), *kind, Number32(table.Value(id), 0) & pageMask};
-    }
-
-private:
-    std::size_t Column(std::u16string_view column) const
-    {
-        const auto found = table.Find(column);
-        if (!found)
-            throw Refusal{FailureCode::Damaged};
-        return *found;
-    }
-
-    std::optional<ObjectKind> Kind() const
-    {
-        const std::uint32_t bits = table.IsNull(flags) ? 0 : Number32(table.Value(flags), 0);
-        switch (Number16(table.Value(type), 0)) {
-        case localTable:
-            return bits & systemFlags ? ObjectKind::SystemTable : ObjectKind::Table;
-        case tableOfServer:
-        case tableOfOtherFile:
-            return ObjectKind::LinkedTable;
-        case query:
-            return IsView(bits & queryKindMask) ? std::optional(ObjectKind::View) : std::nullopt;
-        default:
-            return {};
-        }
-    }
-
-    /// Queries that do something are no views, and neither are the nameless ones behind forms and reports,
-    /// whose names begin with "~".
-    bool IsView(std::uint32_t kind) const
-    {
-        return (kind == selectQuery || kind == unionQuery) && !file.Text(table.Value(name)).starts_with(u'~');
-    }
-
-    JetFile &file;
-    JetTable table;
-    std::size_t id;
-    std::size_t name;
-    std::size_t type;
-    std::size_t flags;
-};
-
 } // namespace
 
-void ForEachObject(JetFile &file, const std::function<void(const CatalogEntry &)> &take)
+Catalog::Catalog(JetFile &databaseFile)
+    : file(databaseFile)
+    , table(databaseFile, catalogPage)
+    , id(Column(u"Id"))
+    , name(Column(u"Name"))
+    , type(Column(u"Type"))
+    , flags(Column(u"Flags"))
 {
-    Catalog catalog(file);
-    while (catalog.NextRow()) {
-        if (const auto entry = catalog.Entry())
-            take(*entry);
+}
+
+std::optional<CatalogEntry> Catalog::Next()
+{
+    while (table.NextRow()) {
+        if (table.IsNull(id) || table.IsNull(name) || table.IsNull(type))
+            continue;
+        if (const std::optional<ObjectKind> kind = Kind())
+            return CatalogEntry{file.Text(table.Value(name)), *kind, Number32(table.Value(id), 0) & pageMask};
     }
+    return {};
+}
+
+std::size_t Catalog::Column(std::u16string_view column) const
+{
+    const auto found = table.Find(column);
+    if (!found)
+        throw Refusal{FailureCode::Damaged};
+    return *found;
+}
+
+/// Nothing for an object that is no table and doesn't look like one.
+std::optional<ObjectKind> Catalog::Kind() const
+{
+    const std::uint32_t bits = table.IsNull(flags) ? 0 : Number32(table.Value(flags), 0);
+    switch (Number16(table.Value(type), 0)) {
+    case localTable:
+        return bits & systemFlags ? ObjectKind::SystemTable : ObjectKind::Table;
+    case tableOfServer:
+    case tableOfOtherFile:
+        return ObjectKind::LinkedTable;
+    case query:
+        return IsView(bits & queryKindMask) ? std::optional(ObjectKind::View) : std::nullopt;
+    default:
+        return {};
+    }
+}
+
+/// Queries that do something are no views, and neither are the nameless ones behind forms and reports, whose
+/// names begin with "~".
+bool Catalog::IsView(std::uint32_t kind) const
+{
+    return (kind == selectQuery || kind == unionQuery) && !file.Text(table.Value(name)).starts_with(u'~');
 }
 
 std::uint32_t PageOfTable(JetFile &file, std::u16string_view name)
 {
-    std::optional<CatalogEntry> found;
-    ForEachObject(file, [&](const CatalogEntry &entry) {
-        if (!found && AreSameNames(entry.name, name))
-            found = entry;
-    });
+    Catalog catalog(file);
+    std::optional<CatalogEntry> found = catalog.Next();
+    while (found && !AreSameNames(found->name, name))
+        found = catalog.Next();
     if (!found)
         throw Refusal{FailureCode::NoSuchTable};
     if (found->kind == ObjectKind::View)

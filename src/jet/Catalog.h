@@ -3,11 +3,11 @@
 
 #pragma once
 
-#include "JetFile.h"
+#include "JetTable.h"
 #include "Wire.h"
 
 #include <cstdint>
-#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -20,8 +20,27 @@ struct CatalogEntry {
     std::uint32_t page = 0; ///< that describes it, of tables that lie in the file
 };
 
-/// Goes through the objects of a file that look like tables, in the order of the file's own list.
-void ForEachObject(JetFile &file, const std::function<void(const CatalogEntry &)> &take);
+/// The objects of a file that look like tables, in the order of the file's own list.
+class Catalog {
+public:
+    /// Refuses a file whose list can't be opened.
+    explicit Catalog(JetFile &file);
+
+    /// Nothing behind the last.
+    std::optional<CatalogEntry> Next();
+
+private:
+    std::size_t Column(std::u16string_view column) const;
+    std::optional<ObjectKind> Kind() const;
+    bool IsView(std::uint32_t kind) const;
+
+    JetFile &file;
+    JetTable table;
+    std::size_t id;
+    std::size_t name;
+    std::size_t type;
+    std::size_t flags;
+};
 
 /// The page of a table with rows of its own. Refuses a name that nothing has, a view and a linked table.
 std::uint32_t PageOfTable(JetFile &file, std::u16string_view name);

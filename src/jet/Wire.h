@@ -34,7 +34,7 @@ enum class FrameKind : std::uint8_t {
     Hello, ///< the protocol version (8 bits)
     Object, ///< ObjectKind (8 bits), name
     Field, ///< type code (16 bits), size (32 bits), name
-    Opened, ///< the table is open; what comes then are its rows
+    Opened, ///< what was asked for is open: the list of objects, or the table whose values come then
     Value, ///< ValueKind (8 bits) and the value
     Failed, ///< FailureCode (8 bits)
     End, ///< how many frames of the kind that was asked for came before (64 bits)

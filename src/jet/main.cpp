@@ -116,10 +116,12 @@ Output TakeOutput()
 
 void TellObjects(JetFile &file, Output &output)
 {
-    ForEachObject(file, [&](const CatalogEntry &entry) {
+    Catalog catalog(file);
+    output.Send(Packer(FrameKind::Opened));
+    output.TakeCount();
+    while (const auto entry = catalog.Next())
         output.Send(
-            Packer(FrameKind::Object).Number8(static_cast<std::uint8_t>(entry.kind)).Text(entry.name));
-    });
+            Packer(FrameKind::Object).Number8(static_cast<std::uint8_t>(entry->kind)).Text(entry->name));
 }
 
 void TellFields(JetFile &file, const std::u16string &table, Output &output)

@@ -18,6 +18,26 @@ bool AreSame(const QString &one, const QString &other)
     return one.compare(other, Qt::CaseInsensitive) == 0;
 }
 
+class MemoryObjectReader : public ObjectReader {
+public:
+    MemoryObjectReader(MemoryDatabases &databases, QList<DatabaseObject> objects)
+        : databases(databases)
+        , objects(std::move(objects))
+    {
+    }
+    std::optional<DatabaseObject> Next() override
+    {
+        if (objects.isEmpty())
+            return {};
+        databases.Obey(u"NextObject"_s);
+        return objects.takeFirst();
+    }
+
+private:
+    MemoryDatabases &databases;
+    QList<DatabaseObject> objects;
+};
+
 /// Reads a field of a table that no longer changes.
 class MemoryFieldReader : public FieldReader {
 public:
@@ -89,13 +109,13 @@ void MemoryDatabases::OrderFailure(const QString &what, int nth, const Failure &
     orders.append({what, nth, failure});
 }
 
-QList<DatabaseObject> MemoryDatabases::Objects(const QString &file, DatabaseRoad road)
+std::unique_ptr<ObjectReader> MemoryDatabases::OpenSchema(const QString &file, DatabaseRoad road)
 {
-    Note(u"ListObjects"_s, file, {});
+    Note(u"OpenSchema"_s, file, {});
     QList<DatabaseObject> objects;
     for (const MemoryTable &table : Find(file, road).tables)
         objects.append({table.name, table.kind});
-    return objects;
+    return std::make_unique<MemoryObjectReader>(*this, objects);
 }
 
 QList<DatabaseField> MemoryDatabases::Fields(const QString &file, const QString &table, DatabaseRoad road)

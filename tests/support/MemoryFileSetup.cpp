@@ -45,10 +45,22 @@ void MemoryFileSystem::PutFile(const QString &path, const QByteArray &bytes)
     node->bytes = bytes;
 }
 
+void MemoryFileSystem::PutPipe(const QString &path)
+{
+    PutFolder(path.left(path.lastIndexOf(u'\\')));
+    Add(Find(path, Links::Keep), EntryKind::Other);
+}
+
 void MemoryFileSystem::PutLink(const QString &path, const QString &target)
 {
     PutFolder(path.left(path.lastIndexOf(u'\\')));
     Add(Find(path, Links::Keep), EntryKind::Link)->target = target;
+}
+
+void MemoryFileSystem::PutLinkInPlaceOf(const QString &path, const QString &target)
+{
+    Remove(FindFile(path));
+    PutLink(path, target);
 }
 
 void MemoryFileSystem::SetHidden(const QString &path, bool hidden)
@@ -102,6 +114,11 @@ QStringList MemoryFileSystem::Tree(const QString &folder)
 void MemoryFileSystem::FailAt(Operation operation, const QString &path, int nth, FailureNumber number)
 {
     orders.Order(operation, path, nth, number);
+}
+
+void MemoryFileSystem::DoBefore(Operation operation, const QString &path, int nth, std::function<void()> act)
+{
+    acts.Order(operation, path, nth, std::move(act));
 }
 
 } // namespace tressel

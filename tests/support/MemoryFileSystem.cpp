@@ -75,6 +75,12 @@ MemoryFileSystem::MemoryFileSystem(Journal &theJournal, const Clock &theClock)
     AddDrive(u'C');
 }
 
+void MemoryFileSystem::RefuseLongName(const QString &name)
+{
+    if (name.size() > longestName)
+        throw Failure(FailureNumber::PathFileAccessError);
+}
+
 void MemoryFileSystem::Obey(Operation operation, const Place &place)
 {
     orders.Obey(operation,
@@ -97,19 +103,20 @@ MemoryFileSystem::Place MemoryFileSystem::Find(const QString &path, Links links,
     RefuseImpossible(path);
     if (depth > mostLinks)
         throw Failure(FailureNumber::PathNotFound);
+    if (Held *const held = depth == 0 ? HeldAbove(path) : nullptr)
+        return FindBeneath(*held, path);
     Place place{{}, {}, DriveFor(path).root};
     const QStringList names = path.mid(HasDrive(path) ? 2 : 0).split(u'\\', Qt::SkipEmptyParts);
     for (qsizetype index = 0; index < names.size(); ++index) {
         const QString &name = names.at(index);
-        if (name.size() > longestName)
-            throw Failure(FailureNumber::PathFileAccessError);
+        RefuseLongName(name);
         if (!place.node || place.node->kind != EntryKind::Folder)
             throw Failure(FailureNumber::PathNotFound);
         if (name == u"."_s)
             continue;
         if (name == u".."_s) {
             const MemoryNode &above = place.node->parent ? *place.node->parent : *place.node;
-            place = Find(FoldedPath(above), Links::Keep, depth);
+            place = Find(FoldedPath(above), Links::Keep, depth + 1);
             continue;
         }
         const auto child = place.node->children.find(name.toCaseFolded());
@@ -181,7 +188,7 @@ std::optional<FileStatus> MemoryFileSystem::Status(const QString &path, Links li
 {
     try {
         return Ask(Operation::Status, path, {}, [&] {
-            const Place place = Find(path, links);
+            const Place place = FindToLookAt(path, links);
             if (!place.node)
                 throw Failure(FailureNumber::FileNotFound);
             Obey(Operation::Status, place);
@@ -191,18 +198,6 @@ std::optional<FileStatus> MemoryFileSystem::Status(const QString &path, Links li
     } catch (const Failure &) {
         return {};
     }
-}
-
-std::optional<QString> MemoryFileSystem::LinkTarget(const QString &path)
-{
-    try {
-        const Node node = Find(path, Links::Keep).node;
-        if (node && node->kind == EntryKind::Link)
-            return node->target;
-    } catch (const Failure &) {
-        // What can't be reached is no link.
-    }
-    return {};
 }
 
 QList<FolderEntry> MemoryFileSystem::List(const QString &folder, Lengths lengths)
@@ -235,6 +230,7 @@ std::optional<Failure> MemoryFileSystem::TryMakeFolder(const QString &path)
                 throw Failure(FailureNumber::PathFileAccessError);
             Obey(Operation::MakeFolder, place);
             Add(place, EntryKind::Folder);
+            Forget(path);
         });
     } catch (const Failure &failure) {
         return failure;
@@ -253,6 +249,7 @@ std::optional<Failure> MemoryFileSystem::TryRemoveFolder(const QString &path)
                 throw Failure(FailureNumber::PathFileAccessError);
             Obey(Operation::RemoveFolder, place);
             Remove(place.node);
+            Forget(path);
         });
     } catch (const Failure &failure) {
         return failure;
@@ -297,26 +294,31 @@ void MemoryFileSystem::Rename(const QString &from, const QString &to)
         node->name = target.name;
         node->parent = target.parent.get();
         target.parent->children.emplace(target.name.toCaseFolded(), node);
+        Forget(from);
+        Forget(to);
     });
 }
 
 std::unique_ptr<OpenFile> MemoryFileSystem::Open(const QString &path, OpenFor purpose, Sharing sharing)
 {
-    static const QStringList purposes{u"Reading"_s, u"Writing"_s, u"Appending"_s, u"Changing"_s,
-                                      u"Creating"_s};
+    static const QStringList purposes{u"Reading"_s,   u"Streaming"_s, u"Writing"_s,
+                                      u"Appending"_s, u"Changing"_s,  u"Creating"_s};
     const QString detail = purposes.at(static_cast<int>(purpose))
         + (sharing == Sharing::Exclusive ? u" exclusively"_s : QString());
-    const Operation operation =
-        purpose == OpenFor::Reading ? Operation::OpenForReading : Operation::OpenForWriting;
+    const bool reads = purpose == OpenFor::Reading || purpose == OpenFor::Streaming;
+    const Operation operation = reads ? Operation::OpenForReading : Operation::OpenForWriting;
     return Ask(operation, path, detail, [&]() -> std::unique_ptr<OpenFile> {
-        Place place = Find(path, purpose == OpenFor::Creating ? Links::Keep : Links::Follow);
+        const bool keepsLinks = purpose == OpenFor::Creating || purpose == OpenFor::Changing;
+        Place place = Find(path, keepsLinks ? Links::Keep : Links::Follow);
         if (place.node && purpose == OpenFor::Creating)
             throw Failure(FailureNumber::FileAlreadyExists);
-        if (place.node && place.node->kind != EntryKind::File)
+        const bool isStream =
+            place.node && place.node->kind == EntryKind::Other && purpose == OpenFor::Streaming;
+        if (place.node && place.node->kind != EntryKind::File && !isStream)
             throw Failure(FailureNumber::PathFileAccessError);
-        if (!place.node && (purpose == OpenFor::Reading || purpose == OpenFor::Changing))
+        if (!place.node && (reads || purpose == OpenFor::Changing))
             throw Failure(FailureNumber::FileNotFound);
-        if (place.node && place.node->readOnly && purpose != OpenFor::Reading)
+        if (place.node && place.node->readOnly && !reads)
             throw Failure(FailureNumber::PathFileAccessError);
         if (place.node && place.node->heldExclusively && sharing == Sharing::Exclusive)
             throw Failure(FailureNumber::PermissionDenied);
@@ -340,6 +342,28 @@ std::unique_ptr<ReplacingFile> MemoryFileSystem::Replace(const QString &path, If
     });
 }
 
+QString MemoryFileSystem::LinkTarget(const QString &path)
+{
+    return Ask(Operation::LinkTarget, path, {}, [&] {
+        const Node node = FindFile(path);
+        if (node->kind != EntryKind::Link)
+            throw Failure(FailureNumber::PathFileAccessError);
+        orders.Obey(Operation::LinkTarget, FoldedPath(*node));
+        return node->target;
+    });
+}
+
+void MemoryFileSystem::MakeLink(const QString &path, const QString &target)
+{
+    Ask(Operation::MakeLink, path, target, [&] {
+        const Place place = Find(path, Links::Keep);
+        if (place.node)
+            throw Failure(FailureNumber::FileAlreadyExists);
+        Obey(Operation::MakeLink, place);
+        Add(place, EntryKind::Link)->target = target;
+    });
+}
+
 void MemoryFileSystem::SetReadOnly(const QString &path, bool readOnly)
 {
     Ask(Operation::SetReadOnly, path, readOnly ? u"on"_s : u"off"_s, [&] {
@@ -356,7 +380,7 @@ QList<Volume> MemoryFileSystem::Volumes()
     for (const auto &[letter, drive] : drives) {
         if (drive.ready)
             volumes.insert(letter == u'C' ? 0 : volumes.size(),
-                           Volume{drive.root->name + u'\\', drive.label});
+                           Volume{drive.root->name + u'\\', drive.label, letter == u'A'});
     }
     return volumes;
 }

@@ -7,10 +7,13 @@
 #include "machine/FileSystem.h"
 #include "support/Journal.h"
 #include "support/MemoryNode.h"
+#include "support/OrderedActs.h"
 #include "support/OrderedFailures.h"
 
 #include <QStringList>
 
+#include <functional>
+#include <list>
 #include <type_traits>
 
 namespace tressel {
@@ -34,8 +37,12 @@ public:
     void PutFolder(const QString &path);
     /// Makes or replaces a file and makes the folders above it.
     void PutFile(const QString &path, const QByteArray &bytes = {});
+    /// Makes a pipe.
+    void PutPipe(const QString &path);
     /// Makes a link to a path, which need not exist.
     void PutLink(const QString &path, const QString &target);
+    /// Takes what is there away, with all below it, and makes a link of its name.
+    void PutLinkInPlaceOf(const QString &path, const QString &target);
     void SetHidden(const QString &path, bool hidden = true);
     void SetModified(const QString &path, const QDateTime &modified);
     /// Another program holds the file, or lets it go.
@@ -50,13 +57,16 @@ public:
     /// of those that would have succeeded, fails with this number; with nth 0 every one. MakeFolder under
     /// C:\W: the 2nd folder made there.
     void FailAt(Operation operation, const QString &path, int nth, FailureNumber number);
+    /// Has something done before the `nth` operation of this kind on this very path (1 the next): what
+    /// another program does between two steps. An order that never came due fails the test.
+    void DoBefore(Operation operation, const QString &path, int nth, std::function<void()> act);
     /// Takes all ordered failures back.
     void FailNoMore() { orders.Clear(); }
 
     QChar Separator() const override { return u'\\'; }
+    std::unique_ptr<FolderHold> Hold(const QString &folder) override;
     std::optional<FileStatus> Status(const QString &path, Links links) override;
     /// Without a word in the journal.
-    std::optional<QString> LinkTarget(const QString &path) override;
     QList<FolderEntry> List(const QString &folder, Lengths lengths = Lengths::LeftOut) override;
     std::unique_ptr<FolderReader> Read(const QString &folder, Lengths lengths = Lengths::LeftOut) override;
     std::optional<Failure> TryMakeFolder(const QString &path) override;
@@ -66,6 +76,8 @@ public:
     std::unique_ptr<OpenFile> Open(const QString &path, OpenFor purpose,
                                    Sharing sharing = Sharing::Shared) override;
     std::unique_ptr<ReplacingFile> Replace(const QString &path, IfThere ifThere) override;
+    QString LinkTarget(const QString &path) override;
+    void MakeLink(const QString &path, const QString &target) override;
     void SetReadOnly(const QString &path, bool readOnly) override;
     QList<Volume> Volumes() override;
     QString VolumeLabel(const QString &path) override;
@@ -83,8 +95,28 @@ private:
         Node node; ///< none if nothing is there
     };
 
+    /// A folder that is held: the names that lead to it, folded, and what was found there first.
+    struct Held {
+        QStringList names;
+        int holds = 0; ///< that are alive
+        Node folder{};
+    };
+    class OneHold;
+
+    /// The drive and the names of a path, folded.
+    static QStringList FoldedNames(const QString &path);
+    static void RefuseLongName(const QString &name);
+    /// The innermost held folder that the path is below, none if it is below none.
+    Held *HeldAbove(const QString &path);
+    /// For a path that now stands for something else than before.
+    void Forget(const QString &path);
+    Place FindBeneath(Held &held, const QString &path);
+    /// Where a path leads whose last name may be a link to look behind.
+    Place FindToLookAt(const QString &path, Links links);
+
     MemoryDrive &DriveFor(const QString &path);
-    /// Fails with 76 if a level above the last one is missing. A link at the end is followed with Follow.
+    /// Fails with 76 if a level above the last one is missing. A link at the end is followed with Follow, but
+    /// not below a folder that is held, where one on the way fails with 75.
     Place Find(const QString &path, Links links, int depth = 0);
     Node FindFolder(const QString &path);
     Node FindFile(const QString &path);
@@ -100,6 +132,8 @@ private:
     Journal &journal;
     const Clock &clock;
     OrderedFailures orders;
+    OrderedActs acts;
+    std::list<Held> holds;
     std::map<QChar, MemoryDrive> drives; ///< by the capital letter
     quint64 births = 0;
 };
@@ -107,6 +141,7 @@ private:
 template <typename Step>
 auto MemoryFileSystem::Ask(Operation operation, const QString &path, const QString &detail, Step step)
 {
+    acts.Do(operation, path);
     try {
         if constexpr (std::is_void_v<decltype(step())>) {
             step();

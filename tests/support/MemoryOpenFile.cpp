@@ -51,7 +51,7 @@ QByteArray MemoryOpenFile::Read(qint64 maximum)
         NeedOpen();
         if (maximum < 0)
             throw Failure(FailureNumber::InvalidProcedureCall);
-        if (purpose != OpenFor::Reading && purpose != OpenFor::Changing)
+        if (purpose != OpenFor::Reading && purpose != OpenFor::Streaming && purpose != OpenFor::Changing)
             throw Failure(FailureNumber::BadFileName);
         files.orders.Obey(Operation::ReadBytes, FoldedPath(*node));
         const QByteArray bytes =
@@ -65,7 +65,7 @@ void MemoryOpenFile::Write(const QByteArray &bytes)
 {
     files.Ask(Operation::WriteBytes, path, QString::number(bytes.size()), [&] {
         NeedOpen();
-        if (purpose == OpenFor::Reading)
+        if (purpose == OpenFor::Reading || purpose == OpenFor::Streaming)
             throw Failure(FailureNumber::BadFileName);
         files.orders.Obey(Operation::WriteBytes, FoldedPath(*node));
         Put(bytes);
@@ -126,6 +126,14 @@ void MemoryOpenFile::Close()
         LetGo();
         files.orders.Obey(Operation::CloseFile, folded);
     });
+}
+
+void MemoryOpenFile::TakeAttributesOf(const OpenFile &other)
+{
+    const MemoryNode &from = *dynamic_cast<const MemoryOpenFile &>(other).node;
+    node->readOnly = from.readOnly;
+    node->hidden = from.hidden;
+    node->modified = from.modified;
 }
 
 } // namespace tressel

@@ -23,6 +23,7 @@ public:
     qint64 Length() const override;
     void Flush() override;
     void Close() override;
+    void TakeAttributesOf(const OpenFile &other) override;
 
 private:
     /// Fails with 52 once the file is closed.

@@ -40,6 +40,10 @@ QString OperationName(Operation operation)
         return u"Replace"_s;
     case Operation::CommitFile:
         return u"CommitFile"_s;
+    case Operation::LinkTarget:
+        return u"LinkTarget"_s;
+    case Operation::MakeLink:
+        return u"MakeLink"_s;
     case Operation::SetReadOnly:
         return u"SetReadOnly"_s;
     case Operation::VolumeLabel:

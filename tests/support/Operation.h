@@ -24,6 +24,8 @@ enum class Operation {
     CloseFile,
     Replace, ///< the start of it; what is written counts as WriteBytes
     CommitFile, ///< the detail is how many bytes
+    LinkTarget,
+    MakeLink, ///< the detail is where it leads
     SetReadOnly,
     VolumeLabel,
     FreeSpace,

@@ -10,6 +10,7 @@ namespace tressel {
 // One for each file of this folder.
 Command CompletionsCommand();
 Command CreateCommand();
+Command DatabaseCommand();
 Command ReportCommand();
 Command SeriesCommand();
 

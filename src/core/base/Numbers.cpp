@@ -63,6 +63,20 @@ double ToNumber(const Value &value)
     return ToNumber(std::get<QString>(value));
 }
 
+bool IsNumeric(const QString &text)
+{
+    const QString trimmed = text.trimmed();
+    if (trimmed.compare("True"_L1, Qt::CaseInsensitive) == 0
+        || trimmed.compare("False"_L1, Qt::CaseInsensitive) == 0)
+        return false;
+    try {
+        ToNumber(trimmed);
+        return true;
+    } catch (const Failure &) {
+        return false;
+    }
+}
+
 std::int16_t ToInt16(double number)
 {
     return ToWhole<std::int16_t>(number);

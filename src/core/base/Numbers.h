@@ -19,6 +19,9 @@ using Value = std::variant<QString, std::int32_t>;
 double ToNumber(const QString &text);
 double ToNumber(const Value &value);
 
+/// True for a text that ToNumber takes, but for "True" and "False", which no person types for a number.
+bool IsNumeric(const QString &text);
+
 /// A whole number in 16 bits, rounded half to even. Fails with 6 beyond the 16 bits and with 13 for a
 /// text that is no number.
 std::int16_t ToInt16(double number);

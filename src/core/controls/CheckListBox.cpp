@@ -23,6 +23,12 @@ void CheckListBox::SetChecked(int index, bool isChecked)
     ItemCheck.Raise(index);
 }
 
+void CheckListBox::SetBackColor(ColourNumber colour)
+{
+    backColor = colour;
+    NoteChanged();
+}
+
 void CheckListBox::UserToggles(int index)
 {
     // A view may speak of a row that a handler has taken out meanwhile.

@@ -3,7 +3,10 @@
 
 #pragma once
 
+#include "controls/Colours.h"
 #include "controls/ListBox.h"
+
+#include <optional>
 
 namespace tressel {
 
@@ -17,6 +20,10 @@ public:
     /// Raises ItemCheck if the mark differs. Fails with 9 for an index outside the list.
     void SetChecked(int index, bool isChecked);
 
+    /// The ground that the entries stand on; the toolkit's own as long as it wasn't written.
+    const std::optional<ColourNumber> &BackColor() const { return backColor; }
+    void SetBackColor(ColourNumber colour);
+
     Event<int> ItemCheck; ///< the mark of the entry of that index changed
 
     // For faces.
@@ -26,6 +33,7 @@ private:
     void OnRemoved(int index) override;
     void OnCleared() override;
 
+    std::optional<ColourNumber> backColor;
     QList<bool> marks; ///< entries beyond its end have no mark
 };
 

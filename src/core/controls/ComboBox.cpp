@@ -3,6 +3,8 @@
 
 #include "controls/ComboBox.h"
 
+#include <algorithm>
+
 namespace tressel {
 
 ComboBox::ComboBox(Form &form, const QString &name, Kind boxKind)
@@ -31,6 +33,25 @@ void ComboBox::UserEdits(const QString &newText)
 {
     if (kind == Kind::Editable)
         UserAct([&] { SetText(newText); });
+}
+
+void ComboBox::UserSteps(int count)
+{
+    const qsizetype from = Items().indexOf(text);
+    bool isNumber = false;
+    text.toLongLong(&isNumber);
+    if (ListCount() == 0 || (from < 0 && isNumber))
+        return;
+    const int to = from < 0 ? 0 : std::clamp(static_cast<int>(from) + count, 0, ListCount() - 1);
+    if (to != from)
+        UserSelects(to);
+}
+
+bool ComboBox::UserPressesKey(int key)
+{
+    int left = key;
+    UserAct([&] { KeyDown.Raise(left); });
+    return left == 0;
 }
 
 void ComboBox::OnSelected()

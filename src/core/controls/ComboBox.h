@@ -7,6 +7,9 @@
 
 namespace tressel {
 
+/// The numbers of keys, as KeyDown tells them.
+inline constexpr int keyF12 = 123;
+
 /// A text with a list of choices below it.
 class ComboBox : public ItemList {
 public:
@@ -26,9 +29,16 @@ public:
     void SetText(const QString &newText);
 
     Event<> Change;
+    /// A key was pressed in the box: its number. A handler that takes the key sets it to 0.
+    Event<int &> KeyDown;
 
     // For faces.
     void UserEdits(const QString &newText);
+    /// The user goes so many entries on from the one that the text stands for, back if below 0. A text that
+    /// is none of the entries leads to the first one, a number that is none leads nowhere.
+    void UserSteps(int count);
+    /// Before the box itself makes something of the key. True if a handler took it.
+    bool UserPressesKey(int key);
 
 protected:
     void OnSelected() override;

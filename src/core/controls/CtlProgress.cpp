@@ -99,7 +99,16 @@ void CtlProgress::SetForeColor(ColourNumber colour)
 
 void CtlProgress::SetBackColor(ColourNumber colour)
 {
+    backColorIsOwn = true;
     Write(backColor, colour, u"BackColor"_s);
+    NoteChanged();
+}
+
+void CtlProgress::TakeContainerColour(ColourNumber colour)
+{
+    if (backColorIsOwn || backColor == colour)
+        return;
+    backColor = colour;
     NoteChanged();
 }
 
@@ -161,7 +170,8 @@ void CtlProgress::WriteProperties(PropertyBag &bag) const
     bag.WriteOptional(u"Font"_s, font);
     bag.Write(u"FillColor"_s, fillColor, ColourNumber{0xFF0000});
     bag.Write(u"ForeColor"_s, foreColor, NumberOf(SystemColour::ButtonText));
-    bag.Write(u"BackColor"_s, backColor, NumberOf(SystemColour::ButtonFace));
+    if (backColorIsOwn)
+        bag.Write(u"BackColor"_s, backColor, {});
 }
 
 void CtlProgress::ReadProperties(const PropertyBag &bag)
@@ -181,7 +191,10 @@ void CtlProgress::ReadProperties(const PropertyBag &bag)
     steps.Do([&] { font = bag.ReadOptional<FontFace>(u"Font"_s); });
     steps.Do([&] { SetFillColor(bag.Read<ColourNumber>(u"FillColor"_s, 0xFF0000)); });
     steps.Do([&] { SetForeColor(bag.Read(u"ForeColor"_s, NumberOf(SystemColour::ButtonText))); });
-    steps.Do([&] { SetBackColor(bag.Read(u"BackColor"_s, NumberOf(SystemColour::ButtonFace))); });
+    steps.Do([&] {
+        if (const auto colour = bag.ReadOptional<ColourNumber>(u"BackColor"_s))
+            SetBackColor(*colour);
+    });
 }
 
 } // namespace tressel

@@ -61,6 +61,7 @@ public:
     void SetFillColor(ColourNumber colour);
     ColourNumber ForeColor() const { return foreColor; }
     void SetForeColor(ColourNumber colour);
+    /// The container's until one is written.
     ColourNumber BackColor() const { return backColor; }
     void SetBackColor(ColourNumber colour);
     /// What was written last, also where it lies beyond Min and Max.
@@ -76,6 +77,11 @@ public:
 
     /// A property was written; tells its name to whoever stores the design.
     Event<const QString &> PropertyChanged;
+
+    // For faces.
+
+    /// Tells the container's background colour.
+    void TakeContainerColour(ColourNumber colour);
 
     /// Stores the design, all but the value.
     void WriteProperties(PropertyBag &bag) const;
@@ -98,6 +104,7 @@ private:
     ColourNumber fillColor = 0xFF0000;
     ColourNumber foreColor = NumberOf(SystemColour::ButtonText);
     ColourNumber backColor = NumberOf(SystemColour::ButtonFace);
+    bool backColorIsOwn = false;
     std::int32_t value = 0;
     Drawing drawn;
 };

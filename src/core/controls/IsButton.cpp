@@ -3,6 +3,7 @@
 
 #include "controls/IsButton.h"
 
+#include "base/Twips.h"
 #include "machine/Shell.h"
 
 #include <algorithm>
@@ -14,8 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int leastSize = 300;
-constexpr int twipsToPixel = 15;
 constexpr int textInset = 4;
 
 int FlagsOf(CaptionPlace place)
@@ -68,6 +67,12 @@ template <typename Kind> void IsButton::WriteShape(Kind &property, const Kind &w
 {
     Write(property, written, name);
     Resize();
+}
+
+void IsButton::WriteColour(ColourNumber &colour, ColourNumber written, const QString &name)
+{
+    untranslated.removeOne(&colour);
+    Write(colour, written, name);
 }
 
 void IsButton::SetStyle(ButtonStyle style)
@@ -130,22 +135,22 @@ void IsButton::SetUseCustomColors(bool uses)
 
 void IsButton::SetBackColor(ColourNumber colour)
 {
-    Write(own.backColor, colour, u"BackColor"_s);
+    WriteColour(own.backColor, colour, u"BackColor"_s);
 }
 
 void IsButton::SetHighlightColor(ColourNumber colour)
 {
-    Write(own.highlightColor, colour, u"HighlightColor"_s);
+    WriteColour(own.highlightColor, colour, u"HighlightColor"_s);
 }
 
 void IsButton::SetFontColor(ColourNumber colour)
 {
-    Write(own.fontColor, colour, u"FontColor"_s);
+    WriteColour(own.fontColor, colour, u"FontColor"_s);
 }
 
 void IsButton::SetFontHighlightColor(ColourNumber colour)
 {
-    Write(own.fontHighlightColor, colour, u"FontHighlightColor"_s);
+    WriteColour(own.fontHighlightColor, colour, u"FontHighlightColor"_s);
 }
 
 void IsButton::SetToolTip(const QString &text)
@@ -236,7 +241,7 @@ LookState IsButton::ShownState() const
 
 QRect IsButton::Bounds() const
 {
-    return QRect(0, 0, Width() / twipsToPixel, Height() / twipsToPixel);
+    return QRect(0, 0, Width() / twipsPerPixel, Height() / twipsPerPixel);
 }
 
 QRect IsButton::TextBox() const
@@ -371,6 +376,12 @@ void IsButton::FaceShown()
 void IsButton::FaceHidden()
 {
     Control::SetToolTip(own.toolTip);
+}
+
+void IsButton::TranslateFirstColours(const std::function<ColourNumber(ColourNumber)> &translate)
+{
+    for (ColourNumber *colour : std::exchange(untranslated, {}))
+        *colour = translate(*colour);
 }
 
 void IsButton::TakeSize(int widthTwips, int heightTwips)

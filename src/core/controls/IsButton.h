@@ -30,6 +30,9 @@ public:
     /// A button with these properties.
     IsButton(Form &form, const QString &name, IsButtonProperties initial);
 
+    /// In twips, either way.
+    static constexpr int leastSize = 300;
+
     static QString Version();
     ButtonStyle Style() const { return own.style; }
     void SetStyle(ButtonStyle style);
@@ -141,6 +144,9 @@ public:
     void TakeFocus(bool hasFocus);
     void FaceShown();
     void FaceHidden();
+    /// Turns those of the four colours that were never written from system colours into plain ones, as the
+    /// face's desktop has them. Only the first call does.
+    void TranslateFirstColours(const std::function<ColourNumber(ColourNumber)> &translate);
     /// Takes the size over from the face, in twips.
     void TakeSize(int widthTwips, int heightTwips);
     /// The system can't draw its theme: gives the theme up for good, in favour of NonThemeStyle.
@@ -151,6 +157,7 @@ public:
 private:
     template <typename Kind> void Write(Kind &property, const Kind &written, const QString &name);
     template <typename Kind> void WriteShape(Kind &property, const Kind &written, const QString &name);
+    void WriteColour(ColourNumber &colour, ColourNumber written, const QString &name);
     void Resize();
     void ShowState(LookState newState);
     void PressMouse(MouseButton button);
@@ -158,6 +165,8 @@ private:
     void EndClick();
 
     IsButtonProperties own;
+    QList<ColourNumber *> untranslated{&own.backColor, &own.highlightColor, &own.fontColor,
+                                       &own.fontHighlightColor};
     LookState state = LookState::Normal;
     bool focused = false;
     int textDrawFlags = 0;

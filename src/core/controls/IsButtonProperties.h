@@ -36,10 +36,11 @@ enum class ToolTipIconKind : std::int32_t { None = 0, Information = 1, Warning =
 enum class ToolTipShape : std::int32_t { Standard = 0, Balloon = 1 };
 enum class ButtonKind : std::int32_t { Push = 0, Check = 1 };
 
-/// What a button's look, behaviour and tool tip are made of. The values here are those of a new control.
+/// What a button's look, behaviour and tool tip are made of. The values here are the one home of the
+/// defaults: those of a stored design that leaves a property out, but for the caption.
 struct IsButtonProperties {
     ButtonStyle style = ButtonStyle::DoubleLine;
-    QString caption; ///< null: the control's name
+    QString caption; ///< null: the control's name, which is a new control's
     Picture icon;
     IconPlace iconAlign = IconPlace::Left;
     std::int16_t iconSize = 16; ///< pixels

@@ -28,6 +28,12 @@ void Label::SetForeColor(ColourNumber colour)
     NoteChanged();
 }
 
+void Label::SetBold(bool isBold)
+{
+    bold = isBold;
+    NoteChanged();
+}
+
 void Label::UserClicks()
 {
     UserAct([this] { Click.Raise(); });

@@ -21,6 +21,10 @@ public:
     ColourNumber ForeColor() const { return foreColor; }
     void SetForeColor(ColourNumber colour);
 
+    /// Whether its text is in bold.
+    bool IsBold() const { return bold; }
+    void SetBold(bool isBold);
+
     Event<> Change;
     Event<> Click;
     Event<> Resize; ///< the label grew or shrank with its text
@@ -32,6 +36,7 @@ public:
 
 private:
     QString caption;
+    bool bold = false;
     ColourNumber foreColor = NumberOf(SystemColour::ButtonText);
 };
 

@@ -10,6 +10,12 @@ PictureBox::PictureBox(Form &form, const QString &name)
 {
 }
 
+void PictureBox::SetHandPointer(bool hasOne)
+{
+    handPointer = hasOne;
+    NoteChanged();
+}
+
 void PictureBox::UserMovesMouse(int buttons, int x)
 {
     UserAct([&] { MouseMove.Raise(buttons, x); });

@@ -14,6 +14,10 @@ public:
 
     static constexpr int leftButton = 1;
 
+    /// Whether the pointer becomes a hand over it.
+    bool HasHandPointer() const { return handPointer; }
+    void SetHandPointer(bool hasOne);
+
     /// The buttons held (leftButton or a sum with others; 0 for none) and the mouse's place in the box,
     /// in twips from its left edge.
     Event<int, int> MouseMove;
@@ -24,6 +28,9 @@ public:
     void UserMovesMouse(int buttons, int x);
     void UserReleasesMouse();
     void UserClicks();
+
+private:
+    bool handPointer = false;
 };
 
 } // namespace tressel

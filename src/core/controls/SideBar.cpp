@@ -21,7 +21,8 @@ int SideBar::ShownCount() const
 
 int SideBar::Rows() const
 {
-    return std::min(std::clamp(visibleItems, 0, ShownCount()), room);
+    const bool isWishedFor = visibleItems <= items.Count();
+    return std::min(std::clamp(visibleItems, 0, ShownCount()), isWishedFor ? room : std::min(room, easyRoom));
 }
 
 QList<int> SideBar::RestEntries() const
@@ -184,7 +185,7 @@ void SideBar::UserScrolls(int rows)
 void SideBar::UserSetsVisibleItems(int count)
 {
     const bool isAll = count >= std::min(ShownCount(), room);
-    UserAct([&] { SetVisibleItems(isAll ? std::max(items.Count(), visibleItems) : std::max(count, 0)); });
+    UserAct([&] { SetVisibleItems(isAll ? items.Count() : std::max(count, 0)); });
 }
 
 void SideBar::UserShowsItem(int number, bool isShown)
@@ -193,11 +194,12 @@ void SideBar::UserShowsItem(int number, bool isShown)
         UserAct([&] { items[number].SetVisible(isShown); });
 }
 
-void SideBar::TakeRoom(int rows)
+void SideBar::TakeRoom(int rows, int easyRows)
 {
-    if (room == rows)
+    if (room == rows && easyRoom == easyRows)
         return;
     room = rows;
+    easyRoom = easyRows;
     Owner().Dispatch([this] { OnLayoutChanged(); });
 }
 

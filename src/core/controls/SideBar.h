@@ -56,7 +56,8 @@ public:
     int ShownCount() const;
 
     /// How many entries the strip may show as rows. It reads back as it was written; below 0 it works
-    /// as 0 (all entries are small icons), beyond the number of shown entries as that number.
+    /// as 0 (all entries are small icons), beyond the number of shown entries as that number. A number
+    /// beyond that of all entries asks for as many as leave every page whole.
     int VisibleItems() const { return visibleItems; }
     void SetVisibleItems(int count);
     /// How many rows there are now, VisibleItems and the room of the face considered.
@@ -145,8 +146,8 @@ public:
     void UserSetsVisibleItems(int count);
     /// The user's choice in the menu. Nothing happens while ShowMenu is off.
     void UserShowsItem(int number, bool isShown);
-    /// How many rows the face has room for.
-    void TakeRoom(int rows);
+    /// How many rows the face has room for, and how many so that every page is seen whole.
+    void TakeRoom(int rows, int easyRows);
     /// The room that the face gives to the page, in twips.
     void TakePageSize(int width, int height);
 
@@ -176,6 +177,7 @@ private:
     SideBarItem *selected = nullptr;
     int visibleItems = allRows;
     int room = allRows;
+    int easyRoom = allRows;
     int toldRows = 0; ///< number of rows at the last StripResize
     int first = 1;
     QString imageList;

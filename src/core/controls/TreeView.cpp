@@ -73,6 +73,12 @@ void TreeView::UserClicks(int node)
     });
 }
 
+void TreeView::UserMovesTo(int node)
+{
+    if (node >= 0 && node < nodes.size())
+        selected = node;
+}
+
 void TreeView::UserExpands(int node, bool isExpanded)
 {
     expanded.removeOne(node);

@@ -37,7 +37,7 @@ public:
     bool IsExpanded(int node) const { return expanded.contains(node); }
     void Expand(int node);
     void Collapse(int node);
-    /// The node that the user selected last, -1 for none.
+    /// The node that the user clicked or went to last, -1 for none.
     int SelectedNode() const { return selected; }
 
     /// The user clicked a node.
@@ -45,6 +45,8 @@ public:
 
     // For faces.
     void UserClicks(int node);
+    /// The user went to a node by keyboard or mouse: no event, and the face knows already.
+    void UserMovesTo(int node);
     /// The user opened or closed a node: no event, and the face knows already.
     void UserExpands(int node, bool isExpanded);
 

@@ -22,11 +22,7 @@ constexpr int designWidth = 13470;
 constexpr int designHeight = 19275;
 constexpr int narrowest = 8120;
 constexpr int lowest = 6825;
-constexpr int toolbarHeight = 1095;
-constexpr int statusHeight = 315;
-constexpr int barWidth = 80;
-constexpr int gripWidth = 7 * 15;
-constexpr int gripHeight = 43 * 15;
+constexpr int barWidth = 8 * 15;
 
 } // namespace
 
@@ -61,7 +57,7 @@ MainForm::MainForm(const FormContext &program, OptionForm &allOptions)
     , creation(context, browse.DirList)
     , numbered(context, browse.DirList)
     , splitter(context)
-    , database(context)
+    , database(context, tree)
     , emptyFolders(context)
     , rename(context)
     , FrameXPMenu3(*this, u"FrameXPMenu(3)"_s)
@@ -91,14 +87,7 @@ void MainForm::SetFirstValues()
     SetCaption(u"Tressel"_s);
     SetSize(designWidth, designHeight);
     SetLeastSize(narrowest, lowest);
-    FrmeToolbar.SetHeight(toolbarHeight);
-    FrmeToolbar.SetWidth(designWidth);
     PicStrip.SetWidth(barWidth);
-    PicHold.SetWidth(gripWidth);
-    PicHold.SetHeight(gripHeight);
-    PicStatus.SetWidth(designWidth);
-    PicStatus.SetHeight(statusHeight);
-    PicStatus.SetTop(designHeight - statusHeight);
 
     btnGBToolbarOption.SetEnabled(false);
     btnGBToolbarUpdate.SetEnabled(false);
@@ -110,7 +99,8 @@ void MainForm::SetFirstValues()
     PicUpdate.SetBackColor(0x0000FF); // red
     lblUpdate.SetToolTip(notice);
     lblUpdate.SetForeColor(0x00FFFF); // yellow
-    FrameXPMenu3.SetVisible(false);
+    lblUpdate.SetBold(true);
+    PicUpdate.SetHandPointer(true);
     Picture4.SetVisible(false);
 }
 
@@ -127,21 +117,6 @@ void MainForm::PlaceIcons()
     }};
     for (const auto &[button, icon] : toolbar)
         button.PlaceIcon(Picture(QString::fromUtf16(icon)));
-
-    // On a page there is only room for small ones, beside the caption.
-    constexpr std::int16_t smallIcon = 16;
-    const std::array<std::pair<IsButton &, const char16_t *>, 5> page{{
-        {emptyFolders.btnGBToolbarSearch, u"search"},
-        {emptyFolders.btnGBToolbarOpenDir, u"open-folder"},
-        {emptyFolders.btnGBToolbarDelDir, u"delete-one"},
-        {emptyFolders.btnGBToolbarDeleteAll, u"delete-all"},
-        {emptyFolders.btnGBToolbarCopy, u"clipboard"},
-    }};
-    for (const auto &[button, icon] : page) {
-        button.SetIcon(Picture(QString::fromUtf16(icon)));
-        button.SetIconSize(smallIcon);
-        button.SetIconAlign(IconPlace::Left);
-    }
 }
 
 void MainForm::TieToolbar()
@@ -165,7 +140,9 @@ void MainForm::TiePathRow()
         const QString text = area.TVList.Nodes().at(node).text;
         SetCaption(text);
         // What isn't there yet can't be opened, and nobody is told.
-        machine.shell.Open(EntryToPath(machine.files, text), area.txtStrtPath.Text());
+        const QString start = area.txtStrtPath.Text();
+        if (const auto folder = FolderBelow(machine.files, start, text))
+            machine.shell.Open(*folder, start);
     });
 }
 

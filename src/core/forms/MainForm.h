@@ -90,8 +90,6 @@ public:
 
     const std::array<Frame *, 8> FrameXPMenu; ///< the pages by their numbers
 
-    QString OpenDBPath; ///< where the database dialog opens, kept from session to session
-
     // MainFormAppearance.cpp
 
     /// Brings the side bar, its palette and the window's place into the state that the settings hold.
@@ -106,20 +104,18 @@ public:
     /// Builds the entries of the side bar anew and opens the one that was open last.
     void LoadItems();
 
-    // MainFormLayout.cpp: geometry in twips. A control that can't take a size keeps its own.
+    // MainFormLayout.cpp: what the form decides of its geometry, in twips. All else follows in the window.
 
-    /// The answer to each change of the window's size: keeps the least size, places the bands and then
-    /// the panes. Does nothing but note that there is something to lay out while the window can't be seen
-    /// or folds up.
+    /// The answer to each change of the window's size: keeps the least size and lays the panes out. Does
+    /// nothing but note that there is something to lay out while the window can't be seen or folds up.
     void FormResize();
-    /// Keeps the split bar within its limits and places what follows it: side bar, pages, tree.
+    /// Keeps the split bar within its limits and gives the side bar the room left of it.
     void LayoutPanes();
-    /// Whether FormResize was called since the last LayOutPending.
-    bool IsLayoutPending() const { return layoutPending; }
-    /// Lays out once more if a layout is pending.
+    /// Lays out once more if a layout is pending: FormResize was called since the last time.
     void LayOutPending();
 
 private:
+    bool hasLoaded = false; ///< the load got to its end, so that there is something to write back
     bool layoutPending = false;
     bool foldsUp = false; ///< the window is closing and gets smaller than its least size
 
@@ -128,18 +124,9 @@ private:
     void TieSideBar();
     void TieLayout();
     void KeepLeastSize();
-    void PlaceUnderToolbar();
-    void PlaceWithoutToolbar();
-    void PlaceBar();
-    void GivePagesRoom();
-    void PlaceFolderPages();
-    void PlaceDatabaseAndEmptyFolders();
-    void PlaceRenamePage();
-    void PlaceErasePart();
-    void PlaceListingPart();
-    void PlaceSplitterPage();
+    int CentredLeft(int width) const;
+    int CentredTop(int height) const;
     void DragBar(int buttons, int x);
-    void PlaceUpdateNotice();
     void EyeDropper1_ItemSelected(const SideBarItem &item);
     void chkButtonBar_Click();
 
@@ -154,11 +141,9 @@ private:
 
     // MainFormLoad.cpp: restoring, in its fixed order.
     void LoadForm();
-    void SetListingToolTips();
-    void RestoreEmptyFoldersPage(Steps &steps);
-    void RestoreDatabasePage(Steps &steps);
+    void RestoreTools(Steps &steps);
+    void RestoreAppearance();
     void RestorePlace(Steps &steps, KeyReader reader);
-    void RestoreBrowsePage(Steps &steps);
     void RestoreBarWidth(Steps &steps);
     void ShowFirstTree(Steps &steps);
     void TakeCommandLine();
@@ -174,6 +159,7 @@ private:
     // MainFormUnload.cpp: writing back and going, in their fixed orders.
     void SaveSplitterPage();
     void UnloadForm(bool &refused);
+    void SaveSettings();
     bool ExitsThoughUpdateLoads();
     void FoldUp();
     static int FoldStep(const TextBox &twips);
@@ -182,8 +168,6 @@ private:
     static constexpr int menuCount = 7;
     std::array<QString, menuCount> menus; ///< kept from session to session, and nothing else
     QString customColor; ///< which palette the side bar has: "1", "2" or none of the two
-    QString databaseTable; ///< what the settings hold of the database page's two lists
-    QString databaseField;
 };
 
 /// The look that an entry of optButtonStyle stands for.

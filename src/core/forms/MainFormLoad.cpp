@@ -18,10 +18,21 @@ void MainForm::LoadForm()
     // In this part a step that fails is ignored and the next one runs ...
     Steps steps;
     SetCloseBox(false);
-    SetListingToolTips();
+    RestoreTools(steps);
+    // ... and from here on a failure ends the load without a word. What was done stays.
+    try {
+        RestoreAppearance();
+    } catch (const Failure &) {
+        // The window shows what there is.
+    }
+    hasLoaded = true;
+}
+
+void MainForm::RestoreTools(Steps &steps)
+{
     emptyFolders.ResetFoundList();
-    RestoreEmptyFoldersPage(steps);
-    RestoreDatabasePage(steps);
+    emptyFolders.Restore(steps);
+    database.Restore(steps);
     numbered.FillNumberCombos();
     numbered.Restore(steps);
     RestorePlace(steps, KeyReader::First);
@@ -31,9 +42,9 @@ void MainForm::LoadForm()
     steps.Do([&] { rename.txtCurrentPath.SetText(settings.ReadText(keys::LastPath)); });
     steps.Do([&] { session.ListFile = settings.ReadText(keys::LastFile); });
     rename.ResetRenamePage(steps);
-    RestoreBrowsePage(steps);
-    steps.Do([&] { textLists.OpenTXTPath = settings.ReadText(keys::OpenTXTPath); });
-    steps.Do([&] { OpenDBPath = settings.ReadText(keys::OpenDBPath); });
+    browse.Restore(steps);
+    textLists.Restore(steps);
+    database.RestoreFolder(steps);
     RestoreBarWidth(steps);
     session.RunNumber = 1;
     area.txtStrtPath.SetTakesDrops(true);
@@ -44,40 +55,18 @@ void MainForm::LoadForm()
     listing.LoadRecentPaths();
     listing.Restore(steps);
     steps.Do([&] { EyeDropper1.SetPageBackColor(0xF5F5F5); });
-
-    // ... and from here on a failure ends the load without a word. What was done stays.
-    try {
-        TakeCommandLine();
-        FillSplitSizes();
-        RestoreSplitterPage();
-        frmOption().EnsureLoaded();
-        ApplyAppearance();
-        RestoreItemVisibility();
-        for (int number = 1; number <= menuCount; ++number)
-            menus[static_cast<size_t>(number - 1)] = settings.ReadText(keys::Menu.At(number));
-    } catch (const Failure &) {
-        return;
-    }
 }
 
-void MainForm::SetListingToolTips()
+void MainForm::RestoreAppearance()
 {
-    listing.btnGBBrowse.SetToolTip(u" Browse... "_s);
-    listing.btnGBMakeList.SetToolTip(u" Start Make list "_s);
-    listing.btnGBResult.SetToolTip(u" Open List from textfile or show list direct to folder list "_s);
-}
-
-void MainForm::RestoreEmptyFoldersPage(Steps &steps)
-{
-    steps.Do([&] { emptyFolders.DirListRemove.SetPath(settings.ReadText(keys::SearchPath)); });
-    steps.Do([&] { emptyFolders.DrvListRemove.SetDrive(emptyFolders.DirListRemove.Path()); });
-}
-
-void MainForm::RestoreDatabasePage(Steps &steps)
-{
-    steps.Do([&] { database.txtDatabaseFile.SetText(settings.ReadText(keys::DatabaseFile)); });
-    steps.Do([&] { databaseTable = settings.ReadText(keys::SQLString); });
-    steps.Do([&] { databaseField = settings.ReadText(keys::Table); });
+    TakeCommandLine();
+    FillSplitSizes();
+    RestoreSplitterPage();
+    frmOption().EnsureLoaded();
+    ApplyAppearance();
+    RestoreItemVisibility();
+    for (int number = 1; number <= menuCount; ++number)
+        menus[static_cast<size_t>(number - 1)] = settings.ReadText(keys::Menu.At(number));
 }
 
 void MainForm::RestorePlace(Steps &steps, KeyReader reader)
@@ -88,14 +77,7 @@ void MainForm::RestorePlace(Steps &steps, KeyReader reader)
     steps.Do([&] { Move(Left(), settings.ReadInt32(keys::MainTop, reader)); });
     // Both at 0 is taken for a place that was never stored.
     if (Left() == 0 && Top() == 0)
-        Move((machine.screen.Width() - Width()) / 2, (machine.screen.Height() - Height()) / 2);
-}
-
-void MainForm::RestoreBrowsePage(Steps &steps)
-{
-    steps.Do([&] { browse.DirList.SetPath(settings.ReadText(keys::LastDBPath)); });
-    steps.Do([&] { browse.DrvList.SetDrive(browse.DirList.Path()); });
-    steps.Do([&] { browse.FileList.SetPath(browse.DirList.Path()); });
+        Move(CentredLeft(Width()), CentredTop(Height()));
 }
 
 void MainForm::RestoreBarWidth(Steps &steps)

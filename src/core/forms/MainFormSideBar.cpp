@@ -38,8 +38,11 @@ std::int32_t LastOpened(const Settings &settings)
 
 void MainForm::TieSideBar()
 {
-    for (Frame *page : FrameXPMenu)
+    for (Frame *page : FrameXPMenu) {
         page->SetBackColor(0xF5F5F5);
+        // The side bar shows the page of the entry that is open.
+        page->SetVisible(false);
+    }
     EyeDropper1.ItemSelected.Handle([this](const SideBarItem &item) { EyeDropper1_ItemSelected(item); });
     EyeDropper1.StripResize.Handle([this] { LayoutPanes(); });
     EyeDropper1.PageResize.Handle([this] { LayoutPanes(); });

@@ -27,6 +27,9 @@ constexpr int foldedWidth = 1700;
 
 void MainForm::SaveSplitterPage()
 {
+    // What is half restored isn't what the user left.
+    if (!hasLoaded)
+        return;
     // A second Exit while the window folds up finds it on its way to nothing.
     if (!foldsUp) {
         settings.Write(keys::WindowLeft, QString::number(Left()));
@@ -42,6 +45,23 @@ void MainForm::SaveSplitterPage()
 
 void MainForm::UnloadForm(bool &refused)
 {
+    if (!hasLoaded)
+        return;
+    SaveSettings();
+    if (session.UpdateLoading && !ExitsThoughUpdateLoads()) {
+        refused = true;
+        return;
+    }
+    // What was written outlives whatever ends the process while the window folds up. Whatever fails from
+    // here on, the program ends.
+    Steps folding;
+    folding.Do([&] { settings.Flush(); });
+    if (State() != WindowState::Minimised && options.ChkAnimOption.IsChecked())
+        folding.Do([&] { FoldUp(); });
+}
+
+void MainForm::SaveSettings()
+{
     // A minimised or maximised window keeps the place of its last normal state.
     if (State() == WindowState::Normal && !foldsUp) {
         settings.Write(keys::MainLeft, Left());
@@ -56,28 +76,18 @@ void MainForm::UnloadForm(bool &refused)
     Steps steps;
     listing.Save(steps);
     listing.SaveRecentPath();
-    settings.Write(keys::SearchPath, emptyFolders.DirListRemove.Path());
-    settings.Write(keys::DatabaseFile, database.txtDatabaseFile.Text());
-    settings.Write(keys::SQLString, databaseTable);
-    settings.Write(keys::Table, databaseField);
+    emptyFolders.Save();
+    database.Save();
     settings.Write(keys::FilePath, area.txtStrtPath.Text());
     settings.Write(keys::FileExt, QString::number(area.chkExtension.Value()));
     settings.Write(keys::ButtonBar, QString::number(area.chkButtonBar.Value()));
     settings.Write(keys::Separate, QString::number(PicStrip.Width()));
     settings.Write(keys::LastFile, session.ListFile);
     settings.Write(keys::LastPath, rename.txtCurrentPath.Text());
-    settings.Write(keys::LastDBPath, browse.DirList.Path());
-    settings.Write(keys::OpenTXTPath, textLists.OpenTXTPath);
-    settings.Write(keys::OpenDBPath, OpenDBPath);
+    browse.Save();
+    textLists.Save();
+    database.SaveFolder();
     numbered.Save(steps);
-    if (session.UpdateLoading && !ExitsThoughUpdateLoads()) {
-        refused = true;
-        return;
-    }
-    // Whatever fails from here on, the program ends.
-    Steps folding;
-    if (State() != WindowState::Minimised && options.ChkAnimOption.IsChecked())
-        folding.Do([&] { FoldUp(); });
 }
 
 bool MainForm::ExitsThoughUpdateLoads()
@@ -99,7 +109,7 @@ void MainForm::FoldUp()
     while (height > foldedHeight) {
         height = std::max(height - heightStep, 0);
         SetSize(Width(), height);
-        Move(Left(), (machine.screen.Height() - height) / 2);
+        Move(Left(), CentredTop(height));
         machine.events.ShowAnimationStep();
     }
     const int widthStep = FoldStep(options.txtWidth);
@@ -107,7 +117,7 @@ void MainForm::FoldUp()
     while (width > foldedWidth) {
         width = std::max(width - widthStep, 0);
         SetSize(width, Height());
-        Move((machine.screen.Width() - width) / 2, Top());
+        Move(CentredLeft(width), Top());
         machine.events.ShowAnimationStep();
     }
     Hide();

@@ -76,7 +76,7 @@ bool TipForm::LoadTips(const QString &path)
 {
     if (!FileExists(files, path))
         return false;
-    LineReader reader(files, path);
+    LineReader reader(files, path, NameBytes::Escaped, largestProgramText);
     while (const auto line = reader.Next())
         tips += *line;
     reader.Close();

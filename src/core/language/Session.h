@@ -17,6 +17,7 @@ struct Session {
     QString ListFile; ///< the list text file of the session, empty until one was picked or saved
     QString ReportFile; ///< the latest listing report
     QString AppTitle; ///< title of the error box
+    QString CurrentFolder = QStringLiteral("."); ///< where names without a folder are; a split leaves its own
     QString OlderKey; ///< the older product's key in the settings
     QString NoticeText; ///< terms of use
 

@@ -76,13 +76,14 @@ private:
         reached += level;
         if (last == Links::Keep && coming.isEmpty())
             return;
-        const auto target = files.LinkTarget(root + reached.join(files.Separator()));
-        if (!target)
+        const QString path = root + reached.join(files.Separator());
+        const auto status = files.Status(path, Links::Keep);
+        if (!status || status->kind != EntryKind::Link)
             return;
         if (++links > mostLinks)
             throw Failure(FailureNumber::PathFileAccessError);
         reached.removeLast();
-        Add(*target);
+        Add(files.LinkTarget(path));
     }
 
     FileSystem &files;

@@ -110,6 +110,14 @@ struct BinaryValue {
 using DatabaseValue = std::variant<std::monostate, bool, std::int64_t, MoneyValue, float, double, DateValue,
                                    QString, GuidValue, DecimalValue, BinaryValue>;
 
+/// The objects of a file, one by one: its tables by name, then its views, then linked and system tables.
+class ObjectReader {
+public:
+    virtual ~ObjectReader() = default;
+    /// Nothing behind the last.
+    virtual std::optional<DatabaseObject> Next() = 0;
+};
+
 /// One field of a table, row by row.
 class FieldReader {
 public:
@@ -119,14 +127,14 @@ public:
     virtual std::optional<DatabaseValue> Next() = 0;
 };
 
-/// Database files, read only. Each function opens the file, asks one question and closes it again; a
-/// damaged file is a failure and never more.
+/// Database files, read only. Each function opens the file anew; it is closed with the end of the answer or
+/// of the reader. A damaged file is a failure and never more.
 class Databases {
 public:
     virtual ~Databases() = default;
 
-    /// What a file holds: its tables by name, then its views, then linked and system tables.
-    virtual QList<DatabaseObject> Objects(const QString &file, DatabaseRoad road) = 0;
+    /// Opens a file to see what it holds.
+    virtual std::unique_ptr<ObjectReader> OpenSchema(const QString &file, DatabaseRoad road) = 0;
     /// The fields of a table in their order. Fails with databaseFailures::NotReadable for a view and for a
     /// linked table.
     virtual QList<DatabaseField> Fields(const QString &file, const QString &table, DatabaseRoad road) = 0;

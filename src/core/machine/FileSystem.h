@@ -10,8 +10,10 @@
 #include <QList>
 #include <QString>
 
+#include <algorithm>
 #include <memory>
 #include <optional>
+#include <span>
 
 namespace tressel {
 
@@ -47,12 +49,14 @@ enum class Links {
     Keep, ///< speak of the link itself
 };
 
-/// What to open a file for. None of them ever makes a folder.
+/// What to open a file for. None of them ever makes a folder, and none but Streaming waits for another
+/// program or takes anything but a regular file, which is looked at when it is open; all else fails with 75.
 enum class OpenFor {
     Reading, ///< the file must exist
+    Streaming, ///< reading whatever it is, a pipe or a device too: for what somebody names at this moment
     Writing, ///< made or emptied
     Appending, ///< made if it isn't there
-    Changing, ///< read and write in place; the file must exist
+    Changing, ///< read and write in place; the file must exist, and a link is refused with 75
     Creating, ///< must not exist; fails with 58 if it does
 };
 
@@ -69,6 +73,13 @@ public:
     /// Up to `maximum` bytes from the present position; fewer only at the end of the file, none behind it.
     /// Fails with 5 for a negative number, with 7 if there is no room for so many.
     virtual QByteArray Read(qint64 maximum) = 0;
+    /// The same into room that the caller has for them. How many bytes came.
+    virtual qint64 ReadInto(std::span<char> room)
+    {
+        const QByteArray bytes = Read(static_cast<qint64>(room.size()));
+        std::copy(bytes.cbegin(), bytes.cend(), room.begin());
+        return bytes.size();
+    }
     /// Writes all of the bytes at the present position. Fails with 61 on a full disc.
     virtual void Write(const QByteArray &bytes) = 0;
     virtual qint64 Position() const = 0;
@@ -79,6 +90,9 @@ public:
     virtual void Flush() = 0;
     /// Does nothing for a file that is closed; all else fails with 52 then.
     virtual void Close() = 0;
+    /// Takes over rights and time of change of another file of the same file system, as far as they can be
+    /// given; where the rights can't, nobody but the owner gets any.
+    virtual void TakeAttributesOf(const OpenFile & /*other*/) { }
 };
 
 /// New contents on their way into the place of a file's. They are gathered beside the old file; until Commit
@@ -105,6 +119,12 @@ public:
     virtual std::optional<FolderEntry> Next() = 0;
 };
 
+/// Holds a folder for as long as it lives; see FileSystem::Hold.
+class FolderHold {
+public:
+    virtual ~FolderHold() = default;
+};
+
 /// A volume that a person would recognise as a drive.
 struct Volume {
     QString root; ///< path of its root, with the separator at its end
@@ -128,10 +148,16 @@ public:
     /// The character between the levels of a path.
     virtual QChar Separator() const = 0;
 
+    /// Holds a folder that somebody named, which need not be there yet, for as long as the answer lives;
+    /// links in the path to it are followed. Every step of this file system whose path is this folder's with
+    /// more behind it then starts from the folder as it was first met, and goes through no link, also not
+    /// through one that somebody puts there meanwhile: such a path fails with 75, and so does one with ".."
+    /// in it. A link at the end is no folder to list and no file to open; Status alone looks behind it if
+    /// asked to. Every run holds what it works below.
+    [[nodiscard]] virtual std::unique_ptr<FolderHold> Hold(const QString &folder) = 0;
+
     /// Nothing if the path can't be reached for whatever reason.
     virtual std::optional<FileStatus> Status(const QString &path, Links links) = 0;
-    /// Where a symbolic link leads, as it was written; nothing for all else.
-    virtual std::optional<QString> LinkTarget(const QString &path) = 0;
 
     /// All entries of a folder, or of the folder that a link names, but "." and "..", sorted by name without
     /// regard to case.
@@ -162,6 +188,11 @@ public:
     /// as far as the system lets it be. The file keeps its rights, and a file of several names keeps them
     /// all. Fails with 75 for what is no file or can't be written; with Refuse 58 if anything is there.
     virtual std::unique_ptr<ReplacingFile> Replace(const QString &path, IfThere ifThere) = 0;
+
+    /// The path in a link, as it was made. Fails with 75 for what is no link.
+    virtual QString LinkTarget(const QString &path) = 0;
+    /// Makes a link to a path that need not exist. Fails with 58 if something is there.
+    virtual void MakeLink(const QString &path, const QString &target) = 0;
 
     /// Takes the write protection off a file, or puts it on. A link has none of its own and stays as it is.
     virtual void SetReadOnly(const QString &path, bool readOnly) = 0;

@@ -7,12 +7,15 @@
 
 namespace tressel {
 
-FolderWalk::FolderWalk(const FileSystem &files, const QString &folder, const QStringList &names)
-    : separator(files.Separator())
+FolderWalk::FolderWalk(FileSystem &files, const QString &folder, const QStringList &names)
+    : hold(files.Hold(folder))
+    , separator(files.Separator())
     , path(folder)
 {
     Enter(names);
 }
+
+FolderWalk::~FolderWalk() = default;
 
 std::optional<QString> FolderWalk::Next()
 {

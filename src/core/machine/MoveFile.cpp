@@ -5,6 +5,7 @@
 
 #include "base/Steps.h"
 #include "machine/FileSystem.h"
+#include "machine/Paths.h"
 
 namespace tressel {
 
@@ -12,14 +13,38 @@ namespace {
 
 constexpr qint64 copiedAtOnce = 1 << 20;
 
-void CopyContents(OpenFile &source, OpenFile &target)
+void CopyDown(OpenFile &source, OpenFile &target)
 {
     for (QByteArray piece = source.Read(copiedAtOnce); !piece.isEmpty(); piece = source.Read(copiedAtOnce))
         target.Write(piece);
+    target.TakeAttributesOf(source);
+    // What is removed then must be there after a loss of power too.
+    target.Flush();
     target.Close();
 }
 
+/// Takes away what was made, if that is still possible.
+void TakeBack(FileSystem &files, const QString &made)
+{
+    Steps undoing;
+    undoing.Do([&] { files.RemoveFile(made); });
+}
+
 } // namespace
+
+void CopyFile(FileSystem &files, const QString &from, const QString &to)
+{
+    const auto source = files.Open(from, OpenFor::Reading);
+    const auto target = files.Open(to, OpenFor::Creating);
+    try {
+        CopyDown(*source, *target);
+    } catch (const Failure &) {
+        Steps undoing;
+        undoing.Do([&] { target->Close(); });
+        TakeBack(files, to);
+        throw;
+    }
+}
 
 void MoveFile(FileSystem &files, const QString &from, const QString &to)
 {
@@ -31,16 +56,16 @@ void MoveFile(FileSystem &files, const QString &from, const QString &to)
         if (failure.number != FailureNumber::PathFileAccessError)
             throw;
     }
-    const auto source = files.Open(from, OpenFor::Reading);
-    const auto target = files.Open(to, OpenFor::Creating);
+    const auto hold = files.Hold(FolderOf(files, from));
+    const auto status = files.Status(from, Links::Keep);
+    if (status && status->kind == EntryKind::Link)
+        files.MakeLink(to, files.LinkTarget(from));
+    else
+        CopyFile(files, from, to);
     try {
-        CopyContents(*source, *target);
-        source->Close();
         files.RemoveFile(from);
     } catch (const Failure &) {
-        Steps undoing;
-        undoing.Do([&] { target->Close(); });
-        undoing.Do([&] { files.RemoveFile(to); });
+        TakeBack(files, to);
         throw;
     }
 }

@@ -9,8 +9,13 @@ namespace tressel {
 
 class FileSystem;
 
-/// Gives a file another path, also on another volume, where it is copied and then removed. Never
-/// overwrites: 58 if the target exists. After a failure the file is where it was, and nothing else is left.
+/// Makes a copy of a file, with its rights and its time, and has it written down to the medium. Never
+/// overwrites: 58 if the target exists. After a failure nothing is left of the copy.
+void CopyFile(FileSystem &files, const QString &from, const QString &to);
+
+/// Gives a file another path, also on another volume, where it is copied, with its rights and
+/// its time, and then removed. A link stays a link. Never overwrites: 58 if the target exists. After a
+/// failure the file is where it was, and nothing else is left.
 void MoveFile(FileSystem &files, const QString &from, const QString &to);
 
 } // namespace tressel

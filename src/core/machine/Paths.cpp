@@ -38,6 +38,14 @@ QString EntryToPath(const FileSystem &files, const QString &entry)
     return path.replace(u'\\', files.Separator());
 }
 
+QString PathToEntry(const FileSystem &files, const QString &path)
+{
+    QString entry = path;
+    if (files.Separator() != u'\\')
+        entry.replace(u'\\', u'_');
+    return entry.replace(files.Separator(), u'\\');
+}
+
 bool FolderExists(FileSystem &files, const QString &path)
 {
     const auto status = files.Status(path, Links::Follow);
@@ -48,6 +56,18 @@ bool FileExists(FileSystem &files, const QString &path)
 {
     const auto status = files.Status(path, Links::Follow);
     return status && status->kind != EntryKind::Folder;
+}
+
+std::optional<QString> FolderBelow(FileSystem &files, const QString &start, const QString &entry)
+{
+    const QString below = EntryToPath(files, entry);
+    // Separators alone name the start folder itself.
+    if (start.isEmpty() || below.count(files.Separator()) == below.size())
+        return {};
+    const auto hold = files.Hold(start);
+    const QString path = JoinPath(files, start, below);
+    const auto status = files.Status(path, Links::Keep);
+    return status && status->kind == EntryKind::Folder ? std::optional(path) : std::nullopt;
 }
 
 QString FileNameOf(const FileSystem &files, const QString &path)
@@ -86,6 +106,16 @@ QString OnDriveC(const FileSystem &files, const QString &path)
     if (HasDriveLetters(files) || !path.startsWith(QStringLiteral("C:"), Qt::CaseInsensitive))
         return path;
     return EntryToPath(files, path.mid(2));
+}
+
+QString OnDriveA(FileSystem &files, const QString &path)
+{
+    constexpr qsizetype rootLength = 3; // "A:\"
+    for (const Volume &volume : files.Volumes()) {
+        if (volume.isFloppy)
+            return volume.root + path.mid(rootLength);
+    }
+    throw Failure(FailureNumber::DiskNotReady);
 }
 
 } // namespace tressel

@@ -5,7 +5,10 @@
 
 #include "base/Failure.h"
 
+#include <QStringDecoder>
+
 #include <array>
+#include <new>
 #include <utility>
 
 namespace tressel {
@@ -13,7 +16,6 @@ namespace tressel {
 namespace {
 
 constexpr QByteArrayView byteOrderMark = "\xEF\xBB\xBF";
-constexpr qint64 readAtOnce = 1 << 20;
 constexpr qsizetype writeAtOnce = 1 << 16;
 
 /// What the bytes 0x80 to 0x9F stand for in Windows-1252, by the Unicode Consortium's table CP1252.TXT;
@@ -35,25 +37,31 @@ QString TextFromWindows1252(QByteArrayView bytes)
     return text;
 }
 
-QByteArray ReadWhole(FileSystem &files, const QString &path)
+/// The text behind a byte order mark of UTF-16, nothing without one.
+std::optional<QString> TextFromUtf16(QByteArrayView bytes)
 {
-    const std::unique_ptr<OpenFile> file = files.Open(path, OpenFor::Reading);
-    QByteArray bytes;
-    bytes.reserve(file->Length());
-    for (QByteArray piece = file->Read(readAtOnce); !piece.isEmpty(); piece = file->Read(readAtOnce))
-        bytes += piece;
-    return bytes;
+    const bool isLittleEndian = bytes.startsWith("\xFF\xFE");
+    if (!isLittleEndian && !bytes.startsWith("\xFE\xFF"))
+        return {};
+    QStringDecoder decode(isLittleEndian ? QStringDecoder::Utf16LE : QStringDecoder::Utf16BE);
+    return decode(bytes);
 }
 
 } // namespace
 
 QString DecodeText(const QByteArray &bytes, NameBytes nameBytes)
 {
-    QByteArrayView rest = bytes;
-    if (rest.startsWith(byteOrderMark))
-        rest = rest.sliced(byteOrderMark.size());
-    std::optional<QString> text = TextFromUtf8(rest, nameBytes);
-    return text ? *text : TextFromWindows1252(rest);
+    try {
+        if (std::optional<QString> text = TextFromUtf16(bytes))
+            return *text;
+        QByteArrayView rest = bytes;
+        if (rest.startsWith(byteOrderMark))
+            rest = rest.sliced(byteOrderMark.size());
+        std::optional<QString> text = TextFromUtf8(rest, nameBytes);
+        return text ? *text : TextFromWindows1252(rest);
+    } catch (const std::bad_alloc &) {
+        throw Failure(FailureNumber::OutOfMemory);
+    }
 }
 
 QByteArray EncodeText(const QString &text, NameBytes nameBytes)
@@ -68,8 +76,9 @@ LineReader::LineReader(QString whole)
 {
 }
 
-LineReader::LineReader(FileSystem &files, const QString &path, NameBytes nameBytes)
-    : text(DecodeText(ReadWhole(files, path), nameBytes))
+LineReader::LineReader(FileSystem &files, const QString &path, NameBytes nameBytes, qint64 largest,
+                       OpenFor purpose)
+    : text(DecodeText(ReadWhole(files, path, largest, purpose), nameBytes))
 {
 }
 

@@ -5,6 +5,7 @@
 
 #include "machine/FileSystem.h"
 #include "machine/NameText.h"
+#include "machine/WholeFile.h"
 
 #include <QString>
 
@@ -14,7 +15,7 @@
 namespace tressel {
 
 /// Turns the bytes of a text file into text: UTF-8, or Windows-1252 if they aren't that. A byte order
-/// mark in front is dropped.
+/// mark in front is dropped, and one of UTF-16 means UTF-16. Fails with 7 if there is no room for the text.
 QString DecodeText(const QByteArray &bytes, NameBytes nameBytes = NameBytes::Escaped);
 
 /// Text for a file: UTF-8 without a mark.
@@ -23,8 +24,9 @@ QByteArray EncodeText(const QString &text, NameBytes nameBytes = NameBytes::Esca
 /// Reads a text file line by line. CR LF, LF and CR end a line; the last one needs no end.
 class LineReader {
 public:
-    /// Takes the whole file in. Fails as FileSystem::Open does.
-    LineReader(FileSystem &files, const QString &path, NameBytes nameBytes = NameBytes::Escaped);
+    /// Takes the whole file in. Fails as ReadWhole does.
+    LineReader(FileSystem &files, const QString &path, NameBytes nameBytes = NameBytes::Escaped,
+               qint64 largest = largestList, OpenFor purpose = OpenFor::Reading);
     /// Reads a text that is in memory.
     explicit LineReader(QString text);
 

@@ -3,27 +3,11 @@
 
 #include "faces/Binder.h"
 
-#include <QAbstractItemView>
-#include <QAbstractSpinBox>
-#include <QComboBox>
-#include <QDialogButtonBox>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QTabBar>
-#include <QTextEdit>
+#include "faces/ReadingOrder.h"
 
 namespace tressel {
 
 namespace {
-
-// Widgets that Qt puts together from others.
-bool IsComposite(const QWidget &widget)
-{
-    return qobject_cast<const QComboBox *>(&widget) || qobject_cast<const QAbstractItemView *>(&widget)
-        || qobject_cast<const QLineEdit *>(&widget) || qobject_cast<const QPlainTextEdit *>(&widget)
-        || qobject_cast<const QTextEdit *>(&widget) || qobject_cast<const QAbstractSpinBox *>(&widget)
-        || qobject_cast<const QTabBar *>(&widget) || qobject_cast<const QDialogButtonBox *>(&widget);
-}
 
 bool IsMereHolder(const QString &name)
 {
@@ -35,9 +19,13 @@ bool IsMereHolder(const QString &name)
 Binder::Binder(Form &boundForm, QWidget &window, const FaceMakers &makers)
     : form(boundForm)
 {
-    Walk(window, makers);
+    const QList<QWidget *> widgets = ReadingOrder(window);
+    for (QWidget *widget : widgets) {
+        if (!IsMereHolder(widget->objectName()))
+            Bind(*widget, makers);
+    }
     StartTimers(window);
-    SetTabOrder();
+    SetTabOrder(widgets);
 }
 
 void Binder::TakeOver(const Control &control) const
@@ -58,19 +46,6 @@ QStringList Binder::ControlsWithoutFace() const
     return names;
 }
 
-void Binder::Walk(QWidget &parent, const FaceMakers &makers)
-{
-    const QList<QWidget *> children = parent.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-    for (QWidget *child : children) {
-        if (child->isWindow())
-            continue;
-        if (!IsMereHolder(child->objectName()))
-            Bind(*child, makers);
-        if (!IsComposite(*child))
-            Walk(*child, makers);
-    }
-}
-
 void Binder::Bind(QWidget &widget, const FaceMakers &makers)
 {
     Control *control = form.Find(widget.objectName());
@@ -86,19 +61,6 @@ void Binder::StartTimers(QWidget &window)
     for (Control *control : form.Controls()) {
         if (auto *timer = dynamic_cast<Timer *>(control))
             pulses.insert(timer, new TimerPulse(*timer, &window));
-    }
-}
-
-void Binder::SetTabOrder() const
-{
-    QWidget *before = nullptr;
-    for (const Control *control : form.Controls()) {
-        const Face *face = FaceOf(*control);
-        if (!face || face->Widget().focusPolicy() == Qt::NoFocus)
-            continue;
-        if (before)
-            QWidget::setTabOrder(before, &face->Widget());
-        before = &face->Widget();
     }
 }
 

@@ -21,8 +21,8 @@ namespace tressel {
 /// other widgets, whose names begin with "layout".
 class Binder {
 public:
-    /// Makes the faces and sets the tab order to the order of the form's controls. The form must outlive
-    /// the window.
+    /// Makes the faces and sets the tab order to the order in which the window is read. The form must
+    /// outlive the window.
     Binder(Form &boundForm, QWidget &window, const FaceMakers &makers);
 
     /// Null for a control without a face.
@@ -38,10 +38,8 @@ public:
     const QStringList &WidgetsWithoutControl() const { return strangers; }
 
 private:
-    void Walk(QWidget &parent, const FaceMakers &makers);
     void Bind(QWidget &widget, const FaceMakers &makers);
     void StartTimers(QWidget &window);
-    void SetTabOrder() const;
 
     Form &form;
     QHash<const Control *, QPointer<Face>> faces;

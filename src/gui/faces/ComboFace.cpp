@@ -3,11 +3,15 @@
 
 #include "faces/ComboFace.h"
 
+#include "faces/Keys.h"
+
 #include <QLineEdit>
 
 namespace tressel {
 
 namespace {
+
+constexpr int pageStep = 10;
 
 // Where the box was made editable after other widgets were made, its line edit stands behind those in the
 // tab order, and setTabOrder loses what is between.
@@ -27,9 +31,20 @@ ChoiceFace::ChoiceFace(ItemList &control, QComboBox &widget)
     , view(widget)
 {
     view.setModel(&model);
+    view.setFocusPolicy(Qt::StrongFocus);
     // Choosing the entry that is chosen already counts too, so the change of the index isn't enough.
     connect(&view, &QComboBox::activated, this,
             [this](int index) { Hand([&] { list.UserSelects(index); }); });
+}
+
+bool ChoiceFace::eventFilter(QObject *watched, QEvent *event)
+{
+    // A wheel that turns over a box in passing scrolls what the box stands on.
+    if (event->type() == QEvent::Wheel && !view.hasFocus()) {
+        event->ignore();
+        return true;
+    }
+    return Face::eventFilter(watched, event);
 }
 
 void ChoiceFace::Show()
@@ -54,6 +69,25 @@ ComboFace::ComboFace(ComboBox &control, QComboBox &widget)
         connect(edit, &QLineEdit::textEdited, this,
                 [this](const QString &text) { Hand([&] { box.UserEdits(text); }); });
     }
+}
+
+bool ComboFace::eventFilter(QObject *watched, QEvent *event)
+{
+    // The toolkit would go on from the entry that was chosen last, whatever was typed since.
+    if (watched == &View() && View().isEditable()) {
+        for (const auto &[key, count] :
+             {std::pair{Qt::Key_Up, -1}, std::pair{Qt::Key_Down, 1}, std::pair{Qt::Key_PageUp, -pageStep},
+              std::pair{Qt::Key_PageDown, pageStep}}) {
+            if (IsKey(*event, key)) {
+                Hand([&] { box.UserSteps(count); });
+                return true;
+            }
+        }
+    }
+    bool isTaken = false;
+    if (IsKey(*event, Qt::Key_F12))
+        Hand([&] { isTaken = box.UserPressesKey(keyF12); });
+    return isTaken || ChoiceFace::eventFilter(watched, event);
 }
 
 void ComboFace::Show()

@@ -18,6 +18,7 @@ public:
 
 protected:
     void Show() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
     QComboBox &View() const { return view; }
 
@@ -34,6 +35,7 @@ public:
 
 protected:
     void Show() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     ComboBox &box;

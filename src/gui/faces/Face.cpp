@@ -4,13 +4,13 @@
 #include "faces/Face.h"
 
 #include "faces/DroppedPaths.h"
+#include "faces/PlainTips.h"
 
 #include <QDropEvent>
 #include <QHelpEvent>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QTextDocument>
-#include <QToolTip>
 
 namespace tressel {
 
@@ -18,6 +18,7 @@ Face::Face(Control &shownControl, QWidget &showingWidget)
     : QObject(&showingWidget)
     , control(shownControl)
     , widget(showingWidget)
+    , windowsTip(showingWidget.toolTip())
 {
     Watch(widget);
 }
@@ -27,7 +28,8 @@ void Face::TakeOver()
     const QScopedValueRollback guard(showing, true);
     widget.setEnabled(control.IsEnabled());
     // Of a control that shows a tool tip of its own, this is the form's, which it hides meanwhile.
-    if (const QString &toolTip = control.Control::ToolTip(); widget.toolTip() != toolTip)
+    const QString &formsTip = control.Control::ToolTip();
+    if (const QString &toolTip = formsTip.isEmpty() ? windowsTip : formsTip; widget.toolTip() != toolTip)
         widget.setToolTip(toolTip);
     for (const QPointer<QWidget> &part : std::as_const(parts)) {
         if (part)
@@ -65,7 +67,7 @@ bool Face::eventFilter(QObject *, QEvent *event)
     case QEvent::Drop:
         return control.TakesDrops() && FilterDrop(event);
     case QEvent::ToolTip:
-        return FilterToolTip(event);
+        return FilterToolTip(*static_cast<QHelpEvent *>(event));
     default:
         return false;
     }
@@ -85,14 +87,12 @@ bool Face::FilterDrop(QEvent *event)
     return true;
 }
 
-bool Face::FilterToolTip(QEvent *event)
+bool Face::FilterToolTip(const QHelpEvent &event)
 {
-    // A name may look like marked-up text; it is shown as it stands.
     const QString text = control.Control::ToolTip();
     if (!Qt::mightBeRichText(text))
         return false;
-    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
-                       QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped()), &widget);
+    ShowPlainTip(event.globalPos(), text, widget);
     return true;
 }
 

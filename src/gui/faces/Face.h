@@ -12,6 +12,8 @@
 
 #include <utility>
 
+class QHelpEvent;
+
 namespace tressel {
 
 /// What ties one control to the widget that shows it. It holds no rule: it shows the control's state and
@@ -53,13 +55,14 @@ protected:
     void Watch(QWidget &part);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
+    /// The mouse rests on the widget. True if a tool tip came up.
+    virtual bool FilterToolTip(const QHelpEvent &event);
 
 private:
     bool FilterDrop(QEvent *event);
-    bool FilterToolTip(QEvent *event);
-
     Control &control;
     QWidget &widget;
+    const QString windowsTip; ///< what the window says where the form says nothing
     QList<QPointer<QWidget>> parts;
     bool showing = false;
 };

@@ -27,7 +27,7 @@ FaceMakers::FaceMakers(const FaceLooks &looks)
     Add<CheckBox, QCheckBox, CheckBoxFace>();
     Add<OptionButton, QRadioButton, OptionFace>();
     Add<ListBox, QListView, ListFace>();
-    Add<CheckListBox, QListView, CheckListFace>();
+    Add<CheckListBox, QListView, CheckListFace>(looks);
     Add<FolderList, QListView, FolderFace>(looks.folder);
     Add<DriveList, QComboBox, ChoiceFace>();
     Add<ComboBox, QComboBox, ComboFace>();

@@ -3,6 +3,8 @@
 
 #include "faces/FolderRows.h"
 
+#include <QFont>
+
 namespace tressel {
 
 FolderRows::FolderRows(const QIcon &folderIcon)
@@ -16,12 +18,26 @@ QVariant FolderRows::data(const QModelIndex &index, int role) const
         return icon;
     if (role == DepthRole && index.isValid())
         return depths.value(index.row());
+    if (role == Qt::FontRole && index.isValid() && index.row() == present) {
+        QFont bold;
+        bold.setBold(true);
+        return bold;
+    }
     return ItemModel::data(index, role);
 }
 
 void FolderRows::SetDepths(const QList<int> &newDepths)
 {
     depths = newDepths;
+}
+
+void FolderRows::SetPresent(int row)
+{
+    if (present == row)
+        return;
+    present = row;
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1), {Qt::FontRole});
 }
 
 void FolderRowPainter::paint(QPainter *painter, const QStyleOptionViewItem &option,

@@ -21,10 +21,13 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     /// The depths of the rows that are published next, or of those on show.
     void SetDepths(const QList<int> &newDepths);
+    /// The row of the present folder, which is marked.
+    void SetPresent(int row);
 
 private:
     QIcon icon;
     QList<int> depths;
+    int present = -1;
 };
 
 /// Paints the rows of a folder list, indented by their depth.

@@ -3,6 +3,8 @@
 
 #include "faces/FrameFace.h"
 
+#include "faces/PageHost.h"
+
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QStackedWidget>
@@ -39,6 +41,8 @@ void FrameFace::ShowBackColor()
 
 void FrameFace::ShowVisible(bool visible)
 {
+    if (dynamic_cast<const PageHost *>(Widget().parentWidget()))
+        return;
     auto *stack = qobject_cast<QStackedWidget *>(Widget().parentWidget());
     if (!stack)
         Face::ShowVisible(visible);

@@ -3,8 +3,8 @@
 
 #include "faces/LabelFace.h"
 
+#include "base/Twips.h"
 #include "faces/Keys.h"
-#include "faces/Twips.h"
 
 #include <QGuiApplication>
 #include <QMouseEvent>
@@ -25,6 +25,11 @@ void LabelFace::Show()
 {
     if (view.text() != label.Caption())
         view.setText(label.Caption());
+    if (label.IsBold() && !view.font().bold()) {
+        QFont font = view.font();
+        font.setBold(true);
+        view.setFont(font);
+    }
     label.TakeWidth(ToTwips(view.sizeHint().width()));
     ShowForeColor();
 }

@@ -6,7 +6,9 @@
 #include "faces/CheckRows.h"
 #include "faces/FolderRows.h"
 #include "faces/Keys.h"
+#include "faces/PlainTips.h"
 
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QScrollBar>
 
@@ -65,9 +67,19 @@ void RowsFace::ShowSelection()
     QItemSelectionModel &selection = *view.selectionModel();
     const QModelIndex wanted = model->index(list.ListIndex());
     if (!wanted.isValid())
-        selection.clearSelection();
+        ShowNoSelection();
     else if (!selection.isSelected(wanted) || selection.currentIndex() != wanted)
         selection.setCurrentIndex(wanted, QItemSelectionModel::ClearAndSelect);
+}
+
+void RowsFace::ShowNoSelection()
+{
+    view.clearSelection();
+}
+
+bool RowsFace::FilterToolTip(const QHelpEvent &event)
+{
+    return ShowCutRow(event, view) || Face::FilterToolTip(event);
 }
 
 void RowsFace::ChooseRow(int row)
@@ -115,10 +127,11 @@ void ListFace::OpenRow(int row)
     list.UserActivates(row);
 }
 
-CheckListFace::CheckListFace(CheckListBox &control, QListView &widget)
+CheckListFace::CheckListFace(CheckListBox &control, QListView &widget, const FaceLooks &faceLooks)
     : ListFace(control, widget,
                std::make_unique<CheckRows>([this](int row) { Hand([&] { list.UserToggles(row); }); }))
     , list(control)
+    , looks(faceLooks)
 {
 }
 
@@ -126,6 +139,20 @@ void CheckListFace::Show()
 {
     ListFace::Show();
     static_cast<CheckRows &>(Rows()).PublishMarks(list);
+    ShowBackColor();
+}
+
+void CheckListFace::ShowBackColor()
+{
+    if (shownColour == list.BackColor() || !looks.colour)
+        return;
+    shownColour = list.BackColor();
+    QPalette palette = View().palette();
+    const QColor ground = looks.colour(*shownColour, QGuiApplication::palette());
+    palette.setColor(QPalette::Base, ground);
+    // The ground may be light on a desktop that writes light on dark.
+    palette.setColor(QPalette::Text, ground.lightness() > 127 ? Qt::black : Qt::white);
+    View().setPalette(palette);
 }
 
 FolderFace::FolderFace(FolderList &control, QListView &widget, const QIcon &icon)
@@ -133,6 +160,7 @@ FolderFace::FolderFace(FolderList &control, QListView &widget, const QIcon &icon
     , list(control)
 {
     widget.setItemDelegate(new FolderRowPainter(this));
+    connect(widget.verticalScrollBar(), &QScrollBar::actionTriggered, this, [this] { isFollowed = false; });
 }
 
 void FolderFace::Show()
@@ -140,8 +168,14 @@ void FolderFace::Show()
     QList<int> depths;
     for (int row = 0; row < list.ListCount(); ++row)
         depths += list.Depth(row);
-    static_cast<FolderRows &>(Rows()).SetDepths(depths);
+    auto &rows = static_cast<FolderRows &>(Rows());
+    rows.SetDepths(depths);
+    const QStringList before = shownItems;
+    shownItems = list.Items();
+    isFollowed = isFollowed || shownItems != before;
     RowsFace::Show();
+    rows.SetPresent(list.PresentRow());
+    ShowPresent();
 }
 
 void FolderFace::OpenRow(int row)
@@ -151,8 +185,48 @@ void FolderFace::OpenRow(int row)
 
 void FolderFace::AfterReset(int)
 {
-    if (list.PresentRow() < list.ListCount())
-        View().scrollTo(Rows().index(list.PresentRow()));
+    // The present folder decides, not where the list was scrolled to.
+}
+
+void FolderFace::ShowNoSelection()
+{
+    const QModelIndex present = Rows().index(list.PresentRow());
+    if (View().selectionModel()->hasSelection())
+        View().clearSelection();
+    // The keyboard starts at the present folder.
+    if (shownItems.isEmpty() || !isFollowed || View().currentIndex() == present)
+        return;
+    View().selectionModel()->setCurrentIndex(present, QItemSelectionModel::NoUpdate);
+}
+
+bool FolderFace::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::MouseButtonPress:
+        // From here on the user decides what is in view.
+        isFollowed = false;
+        break;
+    case QEvent::Resize:
+    case QEvent::Show:
+        QMetaObject::invokeMethod(
+            this, [this] { ShowPresent(); }, Qt::QueuedConnection);
+        break;
+    default:
+        break;
+    }
+    return RowsFace::eventFilter(watched, event);
+}
+
+void FolderFace::ShowPresent()
+{
+    if (!isFollowed || shownItems.isEmpty() || !View().isVisible())
+        return;
+    View().doItemsLayout();
+    // As many of its sub folders as there is room for, and the folder itself in any case.
+    View().scrollTo(Rows().index(Rows().rowCount() - 1));
+    View().scrollTo(Rows().index(list.PresentRow()));
 }
 
 } // namespace tressel

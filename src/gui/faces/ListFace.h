@@ -8,6 +8,7 @@
 #include "controls/ItemModel.h"
 #include "controls/ListBox.h"
 #include "faces/Face.h"
+#include "faces/FaceLooks.h"
 
 #include <QIcon>
 #include <QListView>
@@ -25,7 +26,10 @@ public:
 protected:
     void Show() override;
     bool eventFilter(QObject *watched, QEvent *event) override;
+    bool FilterToolTip(const QHelpEvent &event) override;
 
+    /// Shows that no row is selected.
+    virtual void ShowNoSelection();
     /// The user opened a row: a double click or Enter.
     virtual void OpenRow(int row) = 0;
     /// Called when other rows were shown in place of all, once the selection stands.
@@ -64,16 +68,21 @@ private:
 /// A list box with a check mark in each row.
 class CheckListFace : public ListFace {
 public:
-    CheckListFace(CheckListBox &control, QListView &widget);
+    CheckListFace(CheckListBox &control, QListView &widget, const FaceLooks &looks);
 
 protected:
     void Show() override;
 
 private:
+    void ShowBackColor();
+
     CheckListBox &list;
+    FaceLooks looks;
+    std::optional<ColourNumber> shownColour;
 };
 
-/// A folder list: its rows are indented by their depth and bear a folder.
+/// A folder list: its rows are indented by their depth and bear a folder. The present folder is marked,
+/// and in view with its sub folders until the user scrolls away; the keyboard starts there.
 class FolderFace : public RowsFace {
 public:
     FolderFace(FolderList &control, QListView &widget, const QIcon &icon);
@@ -82,9 +91,15 @@ protected:
     void Show() override;
     void OpenRow(int row) override;
     void AfterReset(int scrolledTo) override;
+    void ShowNoSelection() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void ShowPresent();
+
     FolderList &list;
+    QStringList shownItems;
+    bool isFollowed = true; ///< the view stands where the present folder is
 };
 
 } // namespace tressel

@@ -3,6 +3,8 @@
 
 #include "faces/OptionFace.h"
 
+#include <algorithm>
+
 namespace tressel {
 
 OptionFace::OptionFace(OptionButton &control, QRadioButton &widget)
@@ -22,12 +24,21 @@ void OptionFace::Show()
 {
     if (view.text() != option.Caption())
         view.setText(option.Caption());
+    ShowEntry();
     if (view.isChecked() == option.IsSelected())
         return;
     // An exclusive group takes no selection away without another in its place.
     group.setExclusive(false);
     view.setChecked(option.IsSelected());
     group.setExclusive(true);
+}
+
+void OptionFace::ShowEntry()
+{
+    // The tab key enters a group at its selected button, at the first one if none is.
+    const QString entry = option.Group().Button(std::max(option.Group().Selected(), 0)).Name();
+    for (QAbstractButton *button : group.buttons())
+        button->setFocusPolicy(button->objectName() == entry ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 QButtonGroup &OptionFace::WidgetGroup() const

@@ -21,6 +21,7 @@ protected:
     void Show() override;
 
 private:
+    void ShowEntry();
     QButtonGroup &WidgetGroup() const;
 
     OptionButton &option;

@@ -3,8 +3,8 @@
 
 #include "faces/PictureFace.h"
 
+#include "base/Twips.h"
 #include "faces/Keys.h"
-#include "faces/Twips.h"
 
 #include <QMouseEvent>
 
@@ -19,17 +19,22 @@ PictureFace::PictureFace(PictureBox &control, QWidget &widget, const FaceLooks &
 void PictureFace::Show()
 {
     shownLeft = box.Left();
+    if (box.HasHandPointer())
+        Widget().setCursor(Qt::PointingHandCursor);
     FrameFace::Show();
 }
 
 bool PictureFace::eventFilter(QObject *watched, QEvent *event)
 {
+    // What the mouse does here isn't told to a box below as well.
     if (event->type() == QEvent::MouseMove) {
         const auto *move = static_cast<QMouseEvent *>(event);
         const int x = ToTwips(move->position().toPoint().x()) - (box.Left() - shownLeft);
         const int buttons = move->buttons() & Qt::LeftButton ? PictureBox::leftButton : 0;
         Hand([&] { box.UserMovesMouse(buttons, x); });
-    } else if (event->type() == QEvent::MouseButtonRelease) {
+        return true;
+    }
+    if (event->type() == QEvent::MouseButtonRelease) {
         const auto *release = static_cast<QMouseEvent *>(event);
         const bool isClick =
             release->button() == Qt::LeftButton && Widget().rect().contains(release->position().toPoint());
@@ -38,7 +43,9 @@ bool PictureFace::eventFilter(QObject *watched, QEvent *event)
             if (isClick)
                 box.UserClicks();
         });
-    } else if (IsEnter(*event) || IsKey(*event, Qt::Key_Space)) {
+        return true;
+    }
+    if (IsEnter(*event) || IsKey(*event, Qt::Key_Space)) {
         Hand([this] { box.UserClicks(); });
         return true;
     }

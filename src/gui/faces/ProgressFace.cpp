@@ -3,7 +3,6 @@
 
 #include "faces/ProgressFace.h"
 
-#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -11,11 +10,12 @@ namespace tressel {
 
 namespace {
 
-int Whole(double value)
+/// The toolkit's bar counts in whole numbers of 32 bits; a range beyond them is shown in so many parts.
+constexpr int partsOfALongRange = 1'000'000;
+
+bool FitsWhole(double value)
 {
-    constexpr double smallest = std::numeric_limits<int>::min();
-    constexpr double largest = std::numeric_limits<int>::max();
-    return static_cast<int>(std::clamp(std::round(value), smallest, largest));
+    return std::abs(value) <= std::numeric_limits<int>::max();
 }
 
 } // namespace
@@ -29,11 +29,23 @@ ProgressFace::ProgressFace(ProgressBar &control, QProgressBar &widget)
 
 void ProgressFace::Show()
 {
-    const int least = Whole(progress.Min());
-    const int most = Whole(progress.Max());
+    const double least = progress.Min();
+    const double most = progress.Max();
+    if (FitsWhole(least) && FitsWhole(most)) {
+        ShowWhole(qRound(least), qRound(most), qRound(progress.Value()));
+    } else {
+        const double part = (progress.Value() - least) / (most - least);
+        ShowWhole(0, partsOfALongRange, qRound(part * partsOfALongRange));
+    }
+    // A bar at its beginning is an idle one.
+    view.setTextVisible(progress.Value() > least);
+}
+
+void ProgressFace::ShowWhole(int least, int most, int value)
+{
     // A range without an extent would make the toolkit's bar run to and fro for ever.
     view.setRange(least, most > least || most == std::numeric_limits<int>::max() ? most : least + 1);
-    view.setValue(Whole(progress.Value()));
+    view.setValue(value);
 }
 
 } // namespace tressel

@@ -10,7 +10,7 @@
 
 namespace tressel {
 
-/// A progress bar shown by a QProgressBar, in whole numbers.
+/// A progress bar shown by a QProgressBar, in whole numbers. It reads nothing while it is idle.
 class ProgressFace : public Face {
 public:
     ProgressFace(ProgressBar &control, QProgressBar &widget);
@@ -19,6 +19,8 @@ protected:
     void Show() override;
 
 private:
+    void ShowWhole(int least, int most, int value);
+
     ProgressBar &progress;
     QProgressBar &view;
 };

@@ -4,6 +4,7 @@
 #include "faces/TreeFace.h"
 
 #include "faces/Keys.h"
+#include "faces/PlainTips.h"
 
 #include <QStyledItemDelegate>
 
@@ -52,6 +53,8 @@ TreeFace::TreeFace(TreeView &control, QTreeView &widget, const NodeIcons &icons)
         if (node < tree.Nodes().size() && tree.Nodes().at(node).text == index.data().toString())
             Hand([&] { tree.UserClicks(node); });
     });
+    connect(view.selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex &index) { NoteCurrent(index); });
     connect(&view, &QTreeView::expanded, this,
             [this](const QModelIndex &index) { NoteExpanded(index, true); });
     connect(&view, &QTreeView::collapsed, this,
@@ -78,6 +81,18 @@ void TreeFace::ShowExpanded(const QModelIndex &parent)
             view.setExpanded(index, isExpanded);
         ShowExpanded(index);
     }
+}
+
+void TreeFace::NoteCurrent(const QModelIndex &index)
+{
+    const int node = model.NodeOf(index);
+    if (node >= 0 && node < tree.Nodes().size())
+        Hand([&] { tree.UserMovesTo(node); });
+}
+
+bool TreeFace::FilterToolTip(const QHelpEvent &event)
+{
+    return ShowCutRow(event, view) || Face::FilterToolTip(event);
 }
 
 void TreeFace::NoteExpanded(const QModelIndex &index, bool isExpanded)

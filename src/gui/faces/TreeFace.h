@@ -21,9 +21,11 @@ public:
 protected:
     void Show() override;
     bool eventFilter(QObject *watched, QEvent *event) override;
+    bool FilterToolTip(const QHelpEvent &event) override;
 
 private:
     void ShowExpanded(const QModelIndex &parent);
+    void NoteCurrent(const QModelIndex &index);
     void NoteExpanded(const QModelIndex &index, bool isExpanded);
 
     TreeView &tree;

@@ -3,8 +3,8 @@
 
 #include "faces/WindowFace.h"
 
+#include "base/Twips.h"
 #include "faces/FaceUpdates.h"
-#include "faces/Twips.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -111,7 +111,7 @@ void WindowFace::ShowLeastSize()
 void WindowFace::ShowGeometry()
 {
     if (form.State() != WindowState::Normal
-        || (window.windowState() & (Qt::WindowMaximized | Qt::WindowMinimized)))
+        || (window.windowState() & (Qt::WindowMaximized | Qt::WindowMinimized | Qt::WindowFullScreen)))
         return;
     const QSize size = QSize(ToPixels(form.Width()), ToPixels(form.Height())).boundedTo(largest);
     if (window.size() != size)
@@ -125,6 +125,9 @@ void WindowFace::ShowGeometry()
 
 void WindowFace::ShowState()
 {
+    // The form knows no full screen and holds it for maximised.
+    if (form.State() == WindowState::Maximised && window.isFullScreen())
+        return;
     const Qt::WindowStates others = window.windowState() & ~(Qt::WindowMaximized | Qt::WindowMinimized);
     const Qt::WindowStates wanted = form.State() == WindowState::Maximised ? Qt::WindowMaximized
         : form.State() == WindowState::Minimised                           ? Qt::WindowMinimized
@@ -182,9 +185,9 @@ void WindowFace::TellGeometry()
     if (!window.isVisible())
         return;
     const Qt::WindowStates states = window.windowState();
-    const WindowState state = states & Qt::WindowMinimized ? WindowState::Minimised
-        : states & Qt::WindowMaximized                     ? WindowState::Maximised
-                                                           : WindowState::Normal;
+    const WindowState state = states & Qt::WindowMinimized      ? WindowState::Minimised
+        : states & (Qt::WindowMaximized | Qt::WindowFullScreen) ? WindowState::Maximised
+                                                                : WindowState::Normal;
     const int left = Told(form.Left(), window.x());
     const int top = Told(form.Top(), window.y());
     shownLeft = left;

@@ -12,6 +12,7 @@
 #include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QScreen>
 
@@ -69,6 +70,43 @@ QMessageBox::StandardButton ToButton(BoxAnswer answer)
     }
     return QMessageBox::Ok;
 }
+
+QString WithoutDot(const QString &extension)
+{
+    return extension.startsWith(u'.') ? extension.mid(1) : extension;
+}
+
+/// The path of what is there: as it stands, or else with the extension behind it.
+QString Found(const QString &path, const QString &extension)
+{
+    const QString extended = path + u'.' + extension;
+    return !QFileInfo::exists(path) && QFileInfo::exists(extended) ? extended : path;
+}
+
+/// A dialog for what is there already. Its extension is no default suffix of the toolkit's, which would come
+/// to every name without a dot, whether there is a file of that name or not.
+class OpenDialog : public QFileDialog {
+public:
+    OpenDialog(QWidget *owner, QString defaultExtension)
+        : QFileDialog(owner)
+        , extension(std::move(defaultExtension))
+    {
+    }
+
+protected:
+    void accept() override
+    {
+        auto *edit = findChild<QLineEdit *>(u"fileNameEdit"_s);
+        if (edit
+            && Found(directory().absoluteFilePath(edit->text()), extension)
+                != directory().absoluteFilePath(edit->text()))
+            edit->setText(edit->text() + u'.' + extension);
+        QFileDialog::accept();
+    }
+
+private:
+    QString extension;
+};
 
 BoxAnswer FirstAnswer(BoxButtons buttons)
 {
@@ -130,11 +168,11 @@ void QtDialogs::ShowFatal(int number, const QString &description)
 
 std::optional<FileDialogAnswer> QtDialogs::OpenFile(const FileDialogRequest &request)
 {
-    QFileDialog dialog(Owner());
+    OpenDialog dialog(Owner(), WithoutDot(request.defaultExtension));
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
-    dialog.setFileMode(request.several         ? QFileDialog::ExistingFiles
-                           : request.mustExist ? QFileDialog::ExistingFile
-                                               : QFileDialog::AnyFile);
+    dialog.setFileMode(request.several            ? QFileDialog::ExistingFiles
+                           : request.mayBeMissing ? QFileDialog::AnyFile
+                                                  : QFileDialog::ExistingFile);
     return AskForFile(dialog, request);
 }
 
@@ -159,10 +197,8 @@ std::optional<FileDialogAnswer> QtDialogs::AskForFile(QFileDialog &dialog, const
         dialog.setNameFilters(filters);
         dialog.selectNameFilter(filters.at(FirstFilter(request)));
     }
-    QString extension = request.defaultExtension;
-    if (extension.startsWith(u'.'))
-        extension.remove(0, 1);
-    dialog.setDefaultSuffix(extension);
+    if (dialog.acceptMode() == QFileDialog::AcceptSave)
+        dialog.setDefaultSuffix(WithoutDot(request.defaultExtension));
     StartAt(dialog, request.folder);
     StartWithName(dialog, request.fileName);
     if (Run(dialog, request.centreOnOwner) != QDialog::Accepted || dialog.selectedFiles().isEmpty())

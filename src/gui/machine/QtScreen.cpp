@@ -3,27 +3,37 @@
 
 #include "machine/QtScreen.h"
 
-#include "faces/Twips.h"
+#include "base/Twips.h"
 
 #include <QGuiApplication>
 #include <QScreen>
 
 namespace tressel {
 
+int QtScreen::Left() const
+{
+    return ToTwips(Place().left());
+}
+
+int QtScreen::Top() const
+{
+    return ToTwips(Place().top());
+}
+
 int QtScreen::Width() const
 {
-    return ToTwips(Size().width());
+    return ToTwips(Place().width());
 }
 
 int QtScreen::Height() const
 {
-    return ToTwips(Size().height());
+    return ToTwips(Place().height());
 }
 
-QSize QtScreen::Size() const
+QRect QtScreen::Place() const
 {
     const QScreen *screen = mainWindow ? mainWindow->screen() : QGuiApplication::primaryScreen();
-    return screen ? screen->size() : QSize();
+    return screen ? screen->availableGeometry() : QRect();
 }
 
 } // namespace tressel

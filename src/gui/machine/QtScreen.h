@@ -10,16 +10,19 @@
 
 namespace tressel {
 
-/// The screen of the main window; the desktop's first screen as long as there is no such window.
+/// The available part of the main window's screen; that of the desktop's first screen as long as there is
+/// no such window.
 class QtScreen : public Screen {
 public:
+    int Left() const override;
+    int Top() const override;
     int Width() const override;
     int Height() const override;
 
     void SetMainWindow(QWidget *window) { mainWindow = window; }
 
 private:
-    QSize Size() const;
+    QRect Place() const;
 
     QPointer<QWidget> mainWindow;
 };

@@ -19,15 +19,15 @@ namespace {
 
 constexpr QRgb shadowColour = 0xFF808080;
 constexpr qreal disabledIconOpacity = 0.4;
+constexpr int plainMargin = 4;
+constexpr int plainFocusInset = 2;
 
 /// What the looks of fixed light colours read for the desktop's own, so that text stays readable on them.
 QPalette LightPalette(const QPalette &desktop)
 {
     QPalette light = desktop;
-    light.setColor(QPalette::All, QPalette::Button, QColor(0xF0F0EA));
     if (desktop.color(QPalette::Active, QPalette::ButtonText).lightness() > 127)
-        light.setColor(QPalette::All, QPalette::ButtonText, Qt::black);
-    light.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0xA1A192));
+        light.setColor(QPalette::Active, QPalette::ButtonText, Qt::black);
     return light;
 }
 
@@ -113,19 +113,16 @@ QPoint IconCorner(const IsButton &button, int margin)
     return centred;
 }
 
-/// Turns whatever stands out from the face in the icon's square grey; the icon's soft edge stays soft.
-void CastShadow(QImage &drawn, const QImage &icon, const QPoint &corner, const QPoint &facePlace)
+/// Turns whatever stands out from the face in this square grey.
+void CastShadow(QImage &drawn, const QRect &square, const QPoint &facePlace)
 {
     const QRgb face = drawn.pixel(facePlace);
-    const QRect square = QRect(corner, icon.size()) & drawn.rect();
-    for (int y = square.top(); y <= square.bottom(); ++y) {
+    const QRect seen = square & drawn.rect();
+    for (int y = seen.top(); y <= seen.bottom(); ++y) {
         auto *row = reinterpret_cast<QRgb *>(drawn.scanLine(y));
-        for (int x = square.left(); x <= square.right(); ++x) {
-            if (row[x] == face)
-                continue;
-            const int alpha = qAlpha(icon.pixel(QPoint(x, y) - corner));
-            const double cover = alpha == 0 ? 1 : alpha / 255.0;
-            row[x] = MixColor(QColor(face), QColor(shadowColour), cover).rgb();
+        for (int x = seen.left(); x <= seen.right(); ++x) {
+            if (row[x] != face)
+                row[x] = shadowColour;
         }
     }
 }
@@ -143,7 +140,7 @@ void DrawIcon(QImage &drawn, Canvas &canvas, const IsButton &button, const FaceT
     };
     if (button.Style() == ButtonStyle::Highlight && face.state == LookState::Hover) {
         canvas.Painter().drawImage(onScreen(corner), icon);
-        CastShadow(drawn, icon, onScreen(corner), onScreen({1, 1}));
+        CastShadow(drawn, QRect(onScreen(corner), icon.size()), onScreen({1, 1}));
         corner -= QPoint(1, 1);
     }
     canvas.Painter().setOpacity(face.state == LookState::Disabled ? disabledIconOpacity : 1);
@@ -154,13 +151,13 @@ void DrawIcon(QImage &drawn, Canvas &canvas, const IsButton &button, const FaceT
 void DrawFocusMark(Canvas &canvas, const IsButton &button, const ButtonSurroundings &around,
                    const FaceToDraw &face, const Look *look)
 {
-    const bool seenAnyway = look && look->ShowsFocus(face);
-    if (!face.focused || !(button.ShowFocus() || (around.marksFocus && !seenAnyway)))
+    const bool hasRing = look && look->ShowsFocus(face);
+    if (!face.focused || hasRing || !(button.ShowFocus() || around.marksFocus))
         return;
-    // Halfway between the frames of the looks and the caption's box.
-    constexpr int inset = 2;
-    canvas.DotFrame(inset, inset, canvas.Width() - 2 * inset - 1, canvas.Height() - 2 * inset - 1,
-                    TextColour(button, face));
+    const int inset = look ? look->FocusInset(face) : plainFocusInset;
+    const qreal radius = look ? std::max(0.0, look->CornerRadius() - inset) : 0;
+    canvas.RoundFrame(inset, inset, canvas.Width() - 2 * inset - 1, canvas.Height() - 2 * inset - 1, radius,
+                      TextColour(button, face));
 }
 
 } // namespace
@@ -189,15 +186,21 @@ QImage DrawButton(IsButton &button, const ButtonSurroundings &around)
     if (look && look->HasLightFace(face))
         face.palette = LightPalette(face.palette);
     DrawCaption(painter, button, around, face);
-    DrawIcon(drawn, canvas, button, face, look ? look->Margin() : 4);
+    DrawIcon(drawn, canvas, button, face, look ? look->Margin() : plainMargin);
     DrawFocusMark(canvas, button, around, face, look);
     return drawn;
 }
 
-QRegion ShapeOf(const IsButton &button)
+QRegion ShapeOf(const IsButton &button, qreal scale)
 {
     const Look *look = LookOf(button.Style());
-    return look ? look->Shape(button.Bounds().size()) : QRegion();
+    QRegion shape = look ? look->Shape(button.Bounds().size()) : QRegion();
+    if (scale > 1) {
+        const QRegion own = shape;
+        for (const QPoint &step : {QPoint(-1, 0), QPoint(1, 0), QPoint(0, -1), QPoint(0, 1)})
+            shape += own.translated(step) & button.Bounds();
+    }
+    return shape;
 }
 
 } // namespace tressel

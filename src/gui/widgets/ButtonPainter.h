@@ -32,7 +32,8 @@ struct ButtonSurroundings {
 /// whose theme can't be drawn gives it up and is drawn in the look that takes its place.
 QImage DrawButton(IsButton &button, const ButtonSurroundings &around);
 
-/// The pixels of the design that belong to a button; none if all do.
-QRegion ShapeOf(const IsButton &button);
+/// The pixels of the design that belong to a button; none if all do. On a finer grid, whose edges are soft,
+/// those that an edge touches belong to it, too.
+QRegion ShapeOf(const IsButton &button, qreal scale = 1);
 
 } // namespace tressel

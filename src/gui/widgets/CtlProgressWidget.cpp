@@ -4,6 +4,7 @@
 #include "widgets/CtlProgressWidget.h"
 
 #include "base/Numbers.h"
+#include "machine/PlainColours.h"
 #include "widgets/FontFaces.h"
 #include "widgets/PixelPainting.h"
 #include "widgets/ProgressAccessible.h"
@@ -11,6 +12,8 @@
 
 #include <QAccessible>
 #include <QPainter>
+
+#include <algorithm>
 
 namespace tressel {
 
@@ -25,22 +28,28 @@ QImage DrawProgress(const CtlProgress::Drawing &drawing, const QColor &backgroun
     drawn.fill(background);
     if (!drawing.painted)
         return drawn;
-    QPainter painter(&drawn);
-    painter.save();
-    painter.scale(scale, scale);
-    painter.setFont(drawing.font ? ToFont(*drawing.font) : font);
-    painter.setPen(TranslateColour(drawing.foreColor, palette));
-    painter.drawText(QRectF(QPointF(), QSizeF(screenSize) / scale), Qt::AlignCenter | Qt::TextSingleLine,
-                     drawing.text);
-    painter.restore();
-
-    // The pen of the original leaves not (pixel xor colour), which turns the plain background into the
-    // fill's colour only where that is white. Starting from the background turns it into exactly that.
+    const QColor text = TranslateColour(drawing.foreColor, palette);
     const QRgb fill = TranslateColour(drawing.fillColor, palette).rgb();
-    const QRgb turned = (fill ^ background.rgb()) & 0x00FFFFFF;
+    // The original's pen turns every colour under the bar by the one that makes the ground the bar's own.
+    // The text is printed once for either side instead: turning the soft edges of its letters would leave
+    // fringes of all colours around them.
+    const QColor turned = QColor::fromRgb(text.rgb() ^ fill ^ background.rgb());
     const int edge = qRound(screenSize.width() * drawing.filled);
-    painter.setCompositionMode(QPainter::RasterOp_SourceXorDestination);
-    painter.fillRect(QRect(0, 0, edge, screenSize.height()), QColor::fromRgb(turned));
+    QPainter painter(&drawn);
+    const auto print = [&](const QRect &part, const QColor &colour) {
+        painter.save();
+        painter.setClipRect(part);
+        painter.scale(scale, scale);
+        painter.setFont(drawing.font ? ToFont(*drawing.font) : font);
+        painter.setPen(colour);
+        painter.drawText(QRectF(QPointF(), QSizeF(screenSize) / scale), Qt::AlignCenter | Qt::TextSingleLine,
+                         drawing.text);
+        painter.restore();
+    };
+    const QRect bar(0, 0, edge, screenSize.height());
+    painter.fillRect(bar, QColor::fromRgb(fill));
+    print(bar, turned);
+    print(QRect(edge, 0, screenSize.width() - edge, screenSize.height()), text);
     return drawn;
 }
 
@@ -49,37 +58,16 @@ CtlProgressWidget::CtlProgressWidget(QWidget *parent)
 {
     InstallProgressAccess();
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    UseOwnControl();
+    SetControl(nullptr);
 }
 
 CtlProgressWidget::~CtlProgressWidget() = default;
 
-void CtlProgressWidget::UseOwnControl()
-{
-    ownForm = std::make_unique<Form>(u"own"_s);
-    ownControl = std::make_unique<CtlProgress>(*ownForm, u"ctlProgress"_s);
-    control = ownControl.get();
-    ownForm->SetChangeListener([this] {
-        QMetaObject::invokeMethod(
-            this,
-            [this] {
-                if (ownForm) {
-                    ownForm->TakeChanged();
-                    TakeOver();
-                }
-            },
-            Qt::QueuedConnection);
-    });
-}
-
 void CtlProgressWidget::SetControl(CtlProgress *newControl)
 {
-    ownControl.reset();
-    ownForm.reset();
-    if (newControl)
-        control = newControl;
-    else
-        UseOwnControl();
+    own = newControl ? nullptr : std::make_unique<OwnControl<CtlProgress>>(u"ctlProgress"_s, *this);
+    control = newControl ? newControl : &own->Control();
+    TakeContainerColour();
     TakeOver();
 }
 
@@ -87,9 +75,32 @@ void CtlProgressWidget::TakeOver()
 {
     if (isEnabled() != control->IsEnabled())
         setEnabled(control->IsEnabled());
-    QAccessibleValueChangeEvent changed(this, control->Value());
-    QAccessible::updateAccessibility(&changed);
+    TellAssistance();
     update();
+}
+
+void CtlProgressWidget::TakeContainerColour()
+{
+    if (const QWidget *container = parentWidget())
+        control->TakeContainerColour(ToNumber(container->palette().color(container->backgroundRole())));
+}
+
+void CtlProgressWidget::TellAssistance()
+{
+    if (toldValue == ShownValue() && toldText == Text())
+        return;
+    toldValue = ShownValue();
+    toldText = Text();
+    QAccessibleValueChangeEvent changed(this, toldValue);
+    QAccessible::updateAccessibility(&changed);
+}
+
+bool CtlProgressWidget::event(QEvent *event)
+{
+    // A page gives its own palette to what stands on it.
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ParentChange)
+        TakeContainerColour();
+    return QWidget::event(event);
 }
 
 QSize CtlProgressWidget::sizeHint() const
@@ -143,7 +154,7 @@ int CtlProgressWidget::Appearance() const
 
 void CtlProgressWidget::SetAppearance(int appearance)
 {
-    control->SetAppearance(ToInt16(static_cast<double>(appearance)));
+    control->Owner().Dispatch([&] { control->SetAppearance(ToInt16(static_cast<double>(appearance))); });
 }
 
 QString CtlProgressWidget::Caption() const
@@ -198,7 +209,7 @@ int CtlProgressWidget::BorderStyle() const
 
 void CtlProgressWidget::SetBorderStyle(int style)
 {
-    control->SetBorderStyle(ToInt16(static_cast<double>(style)));
+    control->Owner().Dispatch([&] { control->SetBorderStyle(ToInt16(static_cast<double>(style))); });
 }
 
 int CtlProgressWidget::CaptionStyle() const
@@ -208,7 +219,9 @@ int CtlProgressWidget::CaptionStyle() const
 
 void CtlProgressWidget::SetCaptionStyle(int style)
 {
-    control->SetCaptionStyle(static_cast<tressel::CaptionStyle>(ToInt16(static_cast<double>(style))));
+    control->Owner().Dispatch([&] {
+        control->SetCaptionStyle(static_cast<tressel::CaptionStyle>(ToInt16(static_cast<double>(style))));
+    });
 }
 
 QFont CtlProgressWidget::CaptionFont() const
@@ -256,9 +269,16 @@ int CtlProgressWidget::Value() const
     return control->Value();
 }
 
+int CtlProgressWidget::ShownValue() const
+{
+    if (!control->Drawn().painted)
+        return control->Min();
+    return control->Value() > control->Max() ? control->Max() : std::max(control->Value(), control->Min());
+}
+
 void CtlProgressWidget::SetValue(int value)
 {
-    control->SetValue(value);
+    control->Owner().Dispatch([&] { control->SetValue(value); });
 }
 
 } // namespace tressel

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "controls/CtlProgress.h"
-#include "controls/Form.h"
+#include "widgets/OwnControl.h"
 
 #include <QFont>
 #include <QImage>
@@ -14,8 +14,8 @@
 
 namespace tressel {
 
-/// A progress bar's last painting as a picture in pixels of the screen: the text is printed, and the bar
-/// then inverts what it passes over, so that the text stays readable on both sides of the bar's edge.
+/// A progress bar's last painting as a picture in pixels of the screen: the text is printed in its own
+/// colour beside the bar and inverted on it, so that it stays readable on both sides of the bar's edge.
 /// `scale` is the number of those to a pixel of the design. The picture holds no frame.
 QImage DrawProgress(const CtlProgress::Drawing &drawing, const QColor &background, const QPalette &palette,
                     const QFont &font, QSize screenSize, qreal scale);
@@ -51,7 +51,8 @@ public:
     QSize sizeHint() const override;
 
     int Appearance() const;
-    /// Fails with 6 beyond 16 bits, as the other setters of 16-bit properties do.
+    /// Fails with 6 beyond 16 bits, as the other setters of 16-bit properties do. A failure of a control on
+    /// a form goes where those of the form's events go.
     void SetAppearance(int appearance);
     QString Caption() const;
     void SetCaption(const QString &text);
@@ -76,21 +77,26 @@ public:
     uint BackColor() const;
     void SetBackColor(uint colour);
     int Value() const;
-    /// Fails as the control does.
+    /// The value within the bounds, as it is drawn; the lower one before the first painting.
+    int ShownValue() const;
+    /// Fails as the control does, and goes the same way.
     void SetValue(int value);
 
 protected:
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void UseOwnControl();
+    void TakeContainerColour();
+    void TellAssistance();
     int FrameWidth() const;
     void DrawFrame(QPainter &painter, QSize screenSize, int thick) const;
     QImage DrawWhole(QSize screenSize, qreal scale) const;
 
-    std::unique_ptr<Form> ownForm;
-    std::unique_ptr<CtlProgress> ownControl;
-    CtlProgress *control = nullptr;
+    std::unique_ptr<OwnControl<CtlProgress>> own;
+    CtlProgress *control;
+    QString toldText;
+    int toldValue = 0;
 };
 
 } // namespace tressel

@@ -57,8 +57,9 @@ public:
     }
     void doAction(const QString &name) override
     {
+        // The call comes from another process, which would wait as long as a box of the handler stands.
         if (name == (IsCheck() ? toggleAction() : pressAction()))
-            Button()->Press();
+            QMetaObject::invokeMethod(Button(), &IsButtonWidget::Press, Qt::QueuedConnection);
         else
             QAccessibleWidget::doAction(name);
     }
@@ -66,7 +67,10 @@ public:
     {
         if (name != pressAction() && name != toggleAction())
             return {};
-        return {QKeySequence(Qt::Key_Space).toString(), Shortcut().toString()};
+        QStringList keys{QStringLiteral("Space")};
+        if (!Shortcut().isEmpty())
+            keys.append(Shortcut().toString(QKeySequence::NativeText));
+        return keys;
     }
 
 private:

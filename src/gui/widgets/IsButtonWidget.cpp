@@ -3,12 +3,15 @@
 
 #include "widgets/IsButtonWidget.h"
 
+#include "base/Twips.h"
+#include "machine/PlainColours.h"
 #include "widgets/ButtonAboutBox.h"
 #include "widgets/ButtonPainter.h"
 #include "widgets/ButtonToolTip.h"
 #include "widgets/FontFaces.h"
 #include "widgets/IsButtonAccessible.h"
 #include "widgets/PixelPainting.h"
+#include "widgets/SystemColours.h"
 
 #include <QAccessible>
 #include <QHelpEvent>
@@ -26,9 +29,6 @@ namespace tressel {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int leastPixels = 20;
-constexpr int twipsToPixel = 15;
 
 MouseButton ButtonOf(const QMouseEvent &event)
 {
@@ -59,43 +59,24 @@ IsButtonWidget::IsButtonWidget(QWidget *parent)
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAttribute(Qt::WA_Hover);
-    setMinimumSize(leastPixels, leastPixels);
+    setMinimumSize(ToPixels(IsButton::leastSize), ToPixels(IsButton::leastSize));
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
-    UseOwnControl();
+    SetControl(nullptr);
 }
 
 IsButtonWidget::~IsButtonWidget() = default;
 
-void IsButtonWidget::UseOwnControl()
-{
-    ownForm = std::make_unique<Form>(u"own"_s);
-    ownControl = std::make_unique<IsButton>(*ownForm, u"isButton"_s);
-    control = ownControl.get();
-    control->AboutAsked.Handle([this] { ShowButtonAboutBox(*this); });
-    ownForm->SetChangeListener([this] {
-        QMetaObject::invokeMethod(
-            this,
-            [this] {
-                if (ownForm) {
-                    ownForm->TakeChanged();
-                    TakeOver();
-                }
-            },
-            Qt::QueuedConnection);
-    });
-}
-
 void IsButtonWidget::SetControl(IsButton *newControl)
 {
-    ownControl.reset();
-    ownForm.reset();
-    if (newControl) {
-        control = newControl;
-        control->AboutAsked.Handle([this] { ShowButtonAboutBox(*this); });
-    } else {
-        UseOwnControl();
-    }
-    control->TakeSize(width() * twipsToPixel, height() * twipsToPixel);
+    own = newControl ? nullptr : std::make_unique<OwnControl<IsButton>>(u"isButton"_s, *this);
+    control = newControl ? newControl : &own->Control();
+    control->AboutAsked.Handle([self = QPointer(this)] {
+        if (self)
+            ShowButtonAboutBox(*self);
+    });
+    control->TranslateFirstColours(
+        [this](ColourNumber colour) { return ToNumber(TranslateColour(colour, palette())); });
+    control->TakeSize(ToTwips(width()), ToTwips(height()));
     control->TakeFocus(hasFocus());
     if (isVisible())
         control->FaceShown();
@@ -106,6 +87,9 @@ void IsButtonWidget::TakeOver()
 {
     if (isEnabled() != control->IsEnabled())
         setEnabled(control->IsEnabled());
+    // No pointer comes to a disabled button: the tip that it had when the last one came is its own no more.
+    if (!control->IsEnabled())
+        tip.reset();
     TakeFont();
     TakeShape();
     TakeMnemonic();
@@ -125,7 +109,7 @@ void IsButtonWidget::TakeFont()
 
 void IsButtonWidget::TakeShape()
 {
-    const QRegion shape = ShapeOf(*control);
+    const QRegion shape = ShapeOf(*control, devicePixelRatioF());
     if (shape.isEmpty())
         clearMask();
     else if (shape != mask())
@@ -201,8 +185,9 @@ bool IsButtonWidget::event(QEvent *event)
 {
     switch (event->type()) {
     case QEvent::ToolTip:
-        if (tip)
-            tip->ShowAt(static_cast<QHelpEvent *>(event)->globalPos());
+        if (!tip || !control->IsEnabled())
+            tip = std::make_unique<ButtonToolTip>(*control, *this);
+        tip->ShowAt(static_cast<QHelpEvent *>(event)->globalPos());
         return true;
     case QEvent::Shortcut: {
         const auto *pressed = static_cast<QShortcutEvent *>(event);
@@ -213,6 +198,9 @@ bool IsButtonWidget::event(QEvent *event)
             Press();
         return true;
     }
+    case QEvent::ScreenChangeInternal:
+        TakeShape();
+        break;
     default:
         break;
     }
@@ -226,7 +214,7 @@ void IsButtonWidget::paintEvent(QPaintEvent *)
     around.font = font();
     around.style = style();
     around.widget = this;
-    around.marksFocus = keyboardFocus;
+    around.marksFocus = marksFocus;
     around.underlinesMnemonic = style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) != 0;
 
     QPainter painter(this);
@@ -239,7 +227,7 @@ void IsButtonWidget::paintEvent(QPaintEvent *)
 
 void IsButtonWidget::resizeEvent(QResizeEvent *)
 {
-    control->TakeSize(width() * twipsToPixel, height() * twipsToPixel);
+    control->TakeSize(ToTwips(width()), ToTwips(height()));
     TakeShape();
 }
 
@@ -347,6 +335,7 @@ void IsButtonWidget::keyPressEvent(QKeyEvent *event)
     }
     const QPointer<IsButtonWidget> self(this);
     spaceDown = true;
+    marksFocus = true;
     control->UserPressesSpace();
     repaint();
     control->UserTypesSpace();
@@ -367,14 +356,22 @@ void IsButtonWidget::keyReleaseEvent(QKeyEvent *event)
 
 void IsButtonWidget::focusInEvent(QFocusEvent *event)
 {
-    keyboardFocus = event->reason() != Qt::MouseFocusReason;
+    TakeFocusBy(event->reason());
     control->TakeFocus(true);
     update();
 }
 
+/// The focus is marked for people at the keyboard alone. A window that comes back gives it back as it was.
+void IsButtonWidget::TakeFocusBy(Qt::FocusReason reason)
+{
+    if (reason == Qt::MouseFocusReason)
+        marksFocus = false;
+    else if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+        marksFocus = window()->testAttribute(Qt::WA_KeyboardFocusChange);
+}
+
 void IsButtonWidget::focusOutEvent(QFocusEvent *)
 {
-    keyboardFocus = false;
     control->TakeFocus(false);
     // A space key held down is released elsewhere, as in a box that its press opened: the button would look
     // pressed for good.

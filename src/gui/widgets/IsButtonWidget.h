@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "controls/Form.h"
 #include "controls/IsButton.h"
+#include "widgets/OwnControl.h"
 
 #include <QFont>
 #include <QWidget>
@@ -61,7 +61,7 @@ public:
 
     /// The caption without its "&".
     QString PlainCaption() const;
-    /// Presses and releases the button, as its mnemonic and assistive technology do.
+    /// Presses and releases the button, as its mnemonic does.
     void Press();
     /// The tool tip as it was built when the pointer came; null before.
     const ButtonToolTip *Tip() const { return tip.get(); }
@@ -80,7 +80,7 @@ public:
     int IconAlign() const;
     void SetIconAlign(int place);
     int IconSize() const;
-    /// Fails with 6 beyond 16 bits.
+    /// Fails with 6 beyond 16 bits. A failure of a control on a form goes where those of its events go.
     void SetIconSize(int pixels);
     int CaptionAlign() const;
     void SetCaptionAlign(int place);
@@ -138,7 +138,7 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
-    void UseOwnControl();
+    void TakeFocusBy(Qt::FocusReason reason);
     void PointerCame();
     void PointerLeft();
     void TakeFont();
@@ -146,15 +146,14 @@ private:
     void TakeMnemonic();
     void TellAssistance();
 
-    std::unique_ptr<Form> ownForm;
-    std::unique_ptr<IsButton> ownControl;
-    IsButton *control = nullptr;
+    std::unique_ptr<OwnControl<IsButton>> own;
+    IsButton *control;
     std::unique_ptr<ButtonToolTip> tip;
     QString mnemonicOf;
     QString toldName;
     bool toldValue = false;
     int shortcut = 0;
-    bool keyboardFocus = false;
+    bool marksFocus = false;
     bool spaceDown = false;
     bool fontIsControls = false;
 };

@@ -29,7 +29,7 @@ int IsButtonWidget::IconSize() const
 
 void IsButtonWidget::SetIconSize(int pixels)
 {
-    control->SetIconSize(ToInt16(static_cast<double>(pixels)));
+    control->Owner().Dispatch([&] { control->SetIconSize(ToInt16(static_cast<double>(pixels))); });
 }
 
 bool IsButtonWidget::Enabled() const

@@ -32,7 +32,7 @@ public:
             return Bar()->Caption().isEmpty() ? QStringLiteral("Progress") : Bar()->Caption();
         return QAccessibleWidget::text(kind);
     }
-    QVariant currentValue() const override { return Bar()->Value(); }
+    QVariant currentValue() const override { return Bar()->ShownValue(); }
     void setCurrentValue(const QVariant &) override { }
     QVariant maximumValue() const override { return Bar()->Max(); }
     QVariant minimumValue() const override { return Bar()->Min(); }

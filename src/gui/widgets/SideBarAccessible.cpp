@@ -77,8 +77,15 @@ public:
             return;
         if (action == setFocusAction())
             bar->setFocus(Qt::OtherFocusReason);
+        // The call comes from another process, which would wait as long as a box of the handler stands.
         if (action == pressAction() || action == setFocusAction())
-            bar->SetSelectedIndex(number);
+            QMetaObject::invokeMethod(
+                bar,
+                [opened = bar, entry = number] {
+                    if (opened->View().Shown().contains(entry))
+                        opened->SetSelectedIndex(entry);
+                },
+                Qt::QueuedConnection);
     }
 
     QStringList keyBindingsForAction(const QString &) const override { return {}; }

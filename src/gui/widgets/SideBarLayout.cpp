@@ -13,6 +13,12 @@ namespace {
 /// A page of this height leaves any more to the rows.
 constexpr int comfortablePage = 320;
 
+/// What page and rows have between them.
+int Shared(int height, const SideBarHeights &heights)
+{
+    return height - 2 * SideBarLayout::border - heights.header - SideBarLayout::gripHeight;
+}
+
 } // namespace
 
 SideBarLayout::SideBarLayout(const QSize &size, const SideBarHeights &heights, const SideBarView &view)
@@ -76,12 +82,15 @@ void SideBarLayout::Mirror(int width)
         turn(rect);
 }
 
-int SideBarLayout::Room(int height, const SideBarHeights &heights, int shownCount, int pageMinimum)
+int SideBarLayout::Room(int height, const SideBarHeights &heights, int shownCount, int pageHeight)
 {
-    const int shared = height - 2 * border - heights.header - gripHeight;
-    const int forPage = std::max(pageMinimum, std::min(shared * 2 / 3, comfortablePage));
-    const int stripRows = std::max(shared - forPage, 0) / heights.row;
+    const int stripRows = std::max(Shared(height, heights) - pageHeight, 0) / heights.row;
     return stripRows >= shownCount ? shownCount : std::max(stripRows - 1, 0);
+}
+
+int SideBarLayout::EasyPage(int height, const SideBarHeights &heights, int wholePage)
+{
+    return std::max(wholePage, std::min(Shared(height, heights) * 2 / 3, comfortablePage));
 }
 
 int SideBarLayout::RowsForEdgeAt(int y) const

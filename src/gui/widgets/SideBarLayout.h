@@ -28,16 +28,19 @@ struct SideBarHeights {
 /// Where everything is in a side bar of a given size. From the top: header, page, grip, rows, and the
 /// bar of small icons if there is an entry that no row shows.
 ///
-/// The page has the first claim on the height: the rows get what is left when it has two thirds, or as
-/// much as is comfortable if that is less, and at least its own minimum. The bar is always there when it is
-/// needed, so that every entry can be reached in a side bar of any size.
+/// The page has the first claim on the height. The bar is always there when it is needed, so that every
+/// entry can be reached in a side bar of any size.
 class SideBarLayout {
 public:
     SideBarLayout() = default;
     SideBarLayout(const QSize &size, const SideBarHeights &heights, const SideBarView &view);
 
-    /// How many rows there is room for in a side bar with so many shown entries.
-    static int Room(int height, const SideBarHeights &heights, int shownCount, int pageMinimum);
+    /// How many rows there is room for beside a page of that height, in a side bar with so many shown
+    /// entries.
+    static int Room(int height, const SideBarHeights &heights, int shownCount, int pageHeight);
+    /// The height that a page has before the rows get any: two thirds, or as much as is comfortable if that
+    /// is less, and at least what it needs to be seen whole.
+    static int EasyPage(int height, const SideBarHeights &heights, int wholePage);
     /// How many rows the user means who drags the upper edge of the rows to `y`.
     int RowsForEdgeAt(int y) const;
 

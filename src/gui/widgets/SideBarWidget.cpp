@@ -3,9 +3,9 @@
 
 #include "widgets/SideBarWidget.h"
 
+#include "base/Twips.h"
 #include "controls/Frame.h"
 #include "controls/SideBar.h"
-#include "faces/Twips.h"
 #include "widgets/SideBarAccessible.h"
 #include "widgets/SystemColours.h"
 
@@ -14,10 +14,12 @@
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QShortcut>
 #include <QToolTip>
 #include <QWheelEvent>
 
@@ -27,6 +29,31 @@ namespace tressel {
 
 using Kind = SideBarPart::Kind;
 
+namespace {
+
+constexpr int keyCount = 9;
+
+/// What opens the entry of that number from everywhere in the window.
+QKeySequence KeyOf(int number)
+{
+    return QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + number));
+}
+
+/// The toolkit leaves the layouts of a hidden page as they were; this brings them up to date, the inner ones
+/// first.
+void ActivateLayouts(QWidget &page)
+{
+    const QList<QWidget *> inner = page.findChildren<QWidget *>();
+    for (auto widget = inner.crbegin(); widget != inner.crend(); ++widget) {
+        if (QLayout *layout = (*widget)->layout())
+            layout->activate();
+    }
+    if (page.layout())
+        page.layout()->activate();
+}
+
+} // namespace
+
 SideBarWidget::SideBarWidget(QWidget *parent)
     : QWidget(parent)
 {
@@ -35,6 +62,10 @@ SideBarWidget::SideBarWidget(QWidget *parent)
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+    for (int number = 1; number <= keyCount; ++number) {
+        connect(new QShortcut(KeyOf(number), this), &QShortcut::activated, this,
+                [this, number] { SetSelectedIndex(number); });
+    }
 }
 
 void SideBarWidget::SetControl(SideBar *sideBar)
@@ -78,8 +109,12 @@ void SideBarWidget::Arrange()
 {
     const SideBarHeights heights = look.Heights();
     // May run the form's layout, so that the control is read only afterwards.
-    pageMinimum = PageMinimum();
-    control->TakeRoom(SideBarLayout::Room(height(), heights, control->ShownCount(), pageMinimum));
+    pageHeights = HeightsOfPages();
+    const auto room = [&](int pageHeight) {
+        return SideBarLayout::Room(height(), heights, control->ShownCount(), pageHeight);
+    };
+    control->TakeRoom(room(pageHeights.least),
+                      room(SideBarLayout::EasyPage(height(), heights, pageHeights.whole)));
     const SideBarView before = std::exchange(view, ViewOf(*control));
     layout = SideBarLayout(size(), heights, view);
     ApplyPagePalette();
@@ -137,12 +172,17 @@ void SideBarWidget::TellAssistants(const SideBarView &before)
     }
 }
 
-int SideBarWidget::PageMinimum() const
+SideBarWidget::PageHeights SideBarWidget::HeightsOfPages() const
 {
-    int least = 0;
-    for (const HostedPage &page : pages)
-        least = std::max({least, page.widget->minimumSizeHint().height(), page.widget->minimumHeight()});
-    return least;
+    PageHeights heights;
+    for (const HostedPage &page : pages) {
+        if (!page.widget->isVisible())
+            ActivateLayouts(*page.widget);
+        const int least = std::max(page.widget->minimumSizeHint().height(), page.widget->minimumHeight());
+        heights.least = std::max(heights.least, least);
+        heights.whole = std::max({heights.whole, least, page.widget->sizeHint().height()});
+    }
+    return heights;
 }
 
 void SideBarWidget::SetSelectedIndex(int number)
@@ -201,7 +241,7 @@ bool SideBarWidget::eventFilter(QObject *watched, QEvent *event)
     // A widget isn't told that the mouse left it for a child.
     if (event->type() == QEvent::Enter)
         SetHover({});
-    else if (event->type() == QEvent::LayoutRequest && PageMinimum() != pageMinimum)
+    else if (event->type() == QEvent::LayoutRequest && HeightsOfPages() != pageHeights)
         Refresh();
     return QWidget::eventFilter(watched, event);
 }
@@ -426,12 +466,10 @@ bool SideBarWidget::ShowToolTip(const QPoint &point, const QPoint &globalPoint)
     const SideBarPart part = layout.At(point);
     if (part.kind != Kind::Entry)
         return false;
-    const QRect place = layout.Entry(part.number);
-    const QString caption = EntryCaption(part.number);
-    const bool isCut = QFontMetrics(look.TitleFont()).horizontalAdvance(caption) > place.width() - 50;
-    if (!isCut && !view.rest.contains(part.number))
-        return false;
-    QToolTip::showText(globalPoint, caption, this, place);
+    QString text = EntryCaption(part.number);
+    if (part.number <= keyCount)
+        text += QStringLiteral(" (%1)").arg(KeyOf(part.number).toString(QKeySequence::NativeText));
+    QToolTip::showText(globalPoint, text, this, layout.Entry(part.number));
     return true;
 }
 

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "faces/PageHost.h"
 #include "widgets/SideBarLayout.h"
 #include "widgets/SideBarLook.h"
 #include "widgets/SideBarPainter.h"
@@ -23,10 +24,11 @@ class SideBar;
 ///
 /// Keys, when it has the focus: the arrows, Home and End open other entries, letters the next entry
 /// that starts with them; Ctrl+Up and Ctrl+Down give more or fewer rows. Ctrl+Tab and Ctrl+Page Down,
-/// with Shift or Page Up backwards, also work from inside a page.
+/// with Shift or Page Up backwards, also work from inside a page, and Ctrl with the number of an entry from
+/// everywhere in the window.
 ///
 /// The properties are the control's, for programs that drive and read the window.
-class SideBarWidget : public QWidget {
+class SideBarWidget : public QWidget, public PageHost {
     Q_OBJECT
     Q_PROPERTY(QString Caption READ Caption NOTIFY Changed)
     Q_PROPERTY(QString text READ Caption NOTIFY Changed)
@@ -103,6 +105,13 @@ private:
         QString controlName;
     };
 
+    /// What the highest page takes: at the least, and to be seen whole.
+    struct PageHeights {
+        int least = 0;
+        int whole = 0;
+        bool operator==(const PageHeights &) const = default;
+    };
+
     void Act(const std::function<void(SideBar &)> &act);
     bool ActOnKey(const QKeyEvent &event);
     bool ActOnFocusedKey(const QKeyEvent &event);
@@ -114,7 +123,7 @@ private:
     void PressPart(const SideBarPart &part, const QPoint &point);
     void OpenMenu(const QPoint &globalPoint);
     bool ShowToolTip(const QPoint &point, const QPoint &globalPoint);
-    int PageMinimum() const;
+    PageHeights HeightsOfPages() const;
 
     SideBar *control = nullptr;
     IconProvider icons;
@@ -126,7 +135,7 @@ private:
     QColor pageGround;
     int gripOffset = 0;
     int wheelRest = 0;
-    int pageMinimum = 0; ///< as it was when the rows were counted last
+    PageHeights pageHeights; ///< as they were when the rows were counted last
     bool arranging = false;
 };
 

@@ -3,6 +3,7 @@
 
 #include "widgets/SystemColours.h"
 
+#include "machine/PlainColours.h"
 #include "widgets/looks/Canvas.h"
 
 #include <algorithm>
@@ -47,8 +48,6 @@ constexpr std::array<Place, 25> places{{
     {QPalette::Active, QPalette::ToolTipText},
 }};
 
-constexpr double leastContrast = 3;
-
 /// How bright a colour is to the eye, from 0 to 1: the relative luminance of the Web Content Accessibility
 /// Guidelines 2.1.
 double LuminanceOf(const QColor &colour)
@@ -60,20 +59,17 @@ double LuminanceOf(const QColor &colour)
         + 0.0722 * linear(colour.blueF());
 }
 
-/// The grey of disabled text. Some desktops have one that is hardly seen on their buttons; it is brought as
-/// much nearer to the text's own colour as reading needs.
-QColor ReadableGrey(const QPalette &palette)
+/// The first colour on the way to `end` that is told apart from all grounds; an invalid one if none is.
+QColor OnTheWay(const QColor &colour, const QColor &end, std::initializer_list<QColor> grounds, double least)
 {
-    const QColor grey = palette.color(QPalette::Disabled, QPalette::ButtonText);
-    const QColor text = palette.color(QPalette::Active, QPalette::ButtonText);
-    const QColor face = palette.color(QPalette::Active, QPalette::Button);
-    constexpr int steps = 16;
-    for (int step = 0; step < steps; ++step) {
-        const QColor mixed = step == 0 ? grey : MixColor(grey, text, double(step) / steps);
-        if (ContrastOf(mixed, face) >= leastContrast)
+    constexpr int steps = 32;
+    for (int step = 0; step <= steps; ++step) {
+        const QColor mixed = MixColor(colour, end, double(step) / steps);
+        if (std::all_of(grounds.begin(), grounds.end(),
+                        [&](const QColor &ground) { return ContrastOf(mixed, ground) >= least; }))
             return mixed;
     }
-    return grey;
+    return {};
 }
 
 } // namespace
@@ -84,13 +80,24 @@ double ContrastOf(const QColor &a, const QColor &b)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
+QColor WithContrast(const QColor &colour, std::initializer_list<QColor> grounds, double least)
+{
+    const QColor darker = OnTheWay(colour, Qt::black, grounds, least);
+    const QColor found = darker.isValid() ? darker : OnTheWay(colour, Qt::white, grounds, least);
+    return found.isValid() ? found : colour;
+}
+
+QColor LighterBy(const QColor &colour, const QColor &ground, double least)
+{
+    const QColor found = OnTheWay(colour, Qt::white, {ground}, least);
+    return found.isValid() ? found : colour;
+}
+
 QColor ColourOf(SystemColour colour, const QPalette &palette)
 {
     const auto number = static_cast<std::size_t>(colour);
     if (number >= places.size())
         return {};
-    if (colour == SystemColour::GrayText)
-        return ReadableGrey(palette);
     return palette.color(places[number].group, places[number].role);
 }
 
@@ -100,8 +107,7 @@ QColor TranslateColour(ColourNumber number, const QPalette &palette)
         return ColourOf(static_cast<SystemColour>(number & ~systemColourMark), palette);
     if (number > 0xFFFFFF)
         return {};
-    return QColor(static_cast<int>(number & 0xFF), static_cast<int>(number >> 8 & 0xFF),
-                  static_cast<int>(number >> 16 & 0xFF));
+    return ToColour(number);
 }
 
 } // namespace tressel

@@ -3,17 +3,29 @@
 
 #include "windows/MainWindow.h"
 
-#include "faces/Twips.h"
+#include "base/Twips.h"
+#include "faces/PlainTips.h"
 #include "forms/MainForm.h"
 #include "widgets/IsButtonWidget.h"
 #include "widgets/ProgramIcons.h"
 #include "widgets/SideBarWidget.h"
-#include "windows/Pages.h"
+#include "windows/ElidedLabel.h"
+#include "windows/HintedViews.h"
 #include "windows/Parts.h"
 #include "windows/SplitBar.h"
 #include "windows/WorkPanes.h"
+#include "windows/pages/BrowseView.h"
+#include "windows/pages/DatabaseView.h"
+#include "windows/pages/EmptyFoldersView.h"
+#include "windows/pages/NumberedView.h"
+#include "windows/pages/RenameView.h"
+#include "windows/pages/SplitterView.h"
+#include "windows/pages/TextView.h"
 
-#include <QTreeView>
+#include <QHelpEvent>
+#include <QShortcut>
+
+#include <array>
 
 namespace tressel {
 
@@ -23,6 +35,8 @@ namespace {
 
 constexpr int toolButtonWidth = 64;
 constexpr int toolButtonHeight = 60;
+constexpr std::array createKeys{QKeyCombination(Qt::ControlModifier, Qt::Key_Return),
+                                QKeyCombination(Qt::ControlModifier, Qt::Key_Enter)};
 
 /// The icons of the side bar's entries, by their image numbers from 1.
 QIcon IconOfEntry(int image)
@@ -38,6 +52,20 @@ IsButtonWidget *ToolButton(const QString &name)
     auto *button = Part<IsButtonWidget>(name);
     button->setMinimumSize(toolButtonWidth, toolButtonHeight);
     return button;
+}
+
+/// The ground of a check box in a band of that palette. On a dark desktop the style's outline can't be told
+/// from the band, nor the box's own ground.
+QColor BoxGround(const QPalette &palette)
+{
+    constexpr int middle = 128;
+    constexpr int share = 35; // in a hundred
+    const QColor band = palette.color(QPalette::Window);
+    if (band.lightness() >= middle)
+        return palette.color(QPalette::Base);
+    const QColor text = palette.color(QPalette::WindowText);
+    const auto mix = [](int from, int to) { return from + (to - from) * share / 100; };
+    return {mix(band.red(), text.red()), mix(band.green(), text.green()), mix(band.blue(), text.blue())};
 }
 
 QFrame *ToolSeparator(const QString &name)
@@ -62,13 +90,47 @@ MainWindow::MainWindow(const MainForm &form)
     bands->addWidget(MakeStatus());
     setLayout(bands);
     AddFaceless();
+    MakeBoxesVisible();
+    path->setFocus();
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        MakeBoxesVisible();
+    QWidget::changeEvent(event);
+}
+
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    // A tip that the button has of its own goes before.
+    if (watched != create || event->type() != QEvent::ToolTip || !create->ToolTip().isEmpty())
+        return QWidget::eventFilter(watched, event);
+    const QString key = QKeySequence(createKeys.front()).toString(QKeySequence::NativeText);
+    ShowPlainTip(static_cast<QHelpEvent *>(event)->globalPos(),
+                 u"Make the folders of the list (%1)"_s.arg(key), *create);
+    return true;
+}
+
+void MainWindow::MakeBoxesVisible()
+{
+    const QColor ground = BoxGround(palette());
+    for (QCheckBox *box : {extension, buttonBar}) {
+        QPalette changed;
+        changed.setColor(QPalette::Base, ground);
+        box->setPalette(changed);
+    }
 }
 
 QWidget *MainWindow::MakeToolbar()
 {
     auto *row = Row(gapSmall);
     row->setContentsMargins(gap, gap, gap, gapSmall);
-    row->addWidget(ToolButton(u"btnGBToolbarCreate"_s));
+    create = ToolButton(u"btnGBToolbarCreate"_s);
+    create->installEventFilter(this);
+    for (const QKeyCombination &key : createKeys)
+        connect(new QShortcut(key, this), &QShortcut::activated, create, &IsButtonWidget::Press);
+    row->addWidget(create);
     row->addWidget(ToolButton(u"btnGBToolbarLoadList"_s));
     row->addWidget(ToolButton(u"btnGBToolbarBrowse"_s));
     row->addWidget(ToolSeparator(u"FrmeSep(0)"_s));
@@ -85,14 +147,16 @@ QWidget *MainWindow::MakeToolbar()
 
 QLayout *MainWindow::MakePathRow()
 {
-    auto *path = Field(u"txtStrtPath"_s);
+    path = Field(u"txtStrtPath"_s);
+    extension = Part<QCheckBox>(u"chkExtension"_s);
+    buttonBar = Part<QCheckBox>(u"chkButtonBar"_s);
     auto *row = Row();
     row->setContentsMargins(gap, gapSmall, gap, gap);
     row->addWidget(LabelFor(u"lblTitle"_s, path));
     row->addWidget(path, 1);
     row->addSpacing(gapSmall);
-    row->addWidget(Part<QCheckBox>(u"chkExtension"_s));
-    row->addWidget(Part<QCheckBox>(u"chkButtonBar"_s));
+    row->addWidget(extension);
+    row->addWidget(buttonBar);
     return row;
 }
 
@@ -113,22 +177,25 @@ QWidget *MainWindow::MakeSideBar()
 void MainWindow::AddPages(SideBarWidget &bar)
 {
     const QList<QWidget *> pages{
-        MakeBrowsePage(),   MakeRenamePage(),       MakeNumberedPage(), Part<QWidget>(u"FrameXPMenu(3)"_s),
-        MakeDatabasePage(), MakeEmptyFoldersPage(), MakeTextPage(),     MakeSplitterPage()};
+        MakeBrowseView(),   MakeRenameView(),       MakeNumberedView(), Part<QWidget>(u"FrameXPMenu(3)"_s),
+        MakeDatabaseView(), MakeEmptyFoldersView(), MakeTextView(),     MakeSplitterView()};
     for (QWidget *page : pages)
         bar.AddPage(page, page->objectName());
 }
 
 QWidget *MainWindow::MakeNames()
 {
-    auto *tree = Part<QTreeView>(u"TVList"_s);
+    auto *tree = Part<HintedTree>(u"TVList"_s);
+    tree->SetWords(u"The folders that Create makes are shown here."_s);
     tree->setAccessibleName(u"Tree of the folders"_s);
     tree->setMinimumSize(80, 72);
 
     auto *names = Column();
     names->setContentsMargins(0, 0, gap, 0);
     names->addWidget(tree, 3);
-    names->addWidget(List(u"LstItem"_s, u"Names of the folders"_s), 2);
+    names->addWidget(List(u"LstItem"_s, u"Names of the folders"_s,
+                          u"Load a text file, list a folder, or double-click files to get names."_s),
+                     2);
     auto *pane = new QWidget;
     pane->setLayout(names);
     return pane;
@@ -138,9 +205,7 @@ QWidget *MainWindow::MakeStatus()
 {
     constexpr int leastHeight = 21;
     constexpr int noticeDistance = 20;
-    auto *line = Part<QLabel>(u"lblStatusLine"_s);
-    // A long text must not make the window wide.
-    line->setMinimumWidth(1);
+    auto *line = Part<ElidedLabel>(u"lblStatusLine"_s);
 
     auto *notice = Part<QWidget>(u"PicUpdate"_s);
     auto *noticeRow = Row(0);

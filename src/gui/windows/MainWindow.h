@@ -5,9 +5,13 @@
 
 #include <QWidget>
 
+class QCheckBox;
+class QLineEdit;
+
 namespace tressel {
 
 class MainForm;
+class IsButtonWidget;
 class SideBarWidget;
 
 /// The main window: toolbar, path row, side bar with the pages, tree and list, status line. Its widgets
@@ -17,6 +21,10 @@ public:
     /// The form must outlive the window.
     explicit MainWindow(const MainForm &form);
 
+protected:
+    void changeEvent(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     QWidget *MakeToolbar();
     QLayout *MakePathRow();
@@ -25,6 +33,12 @@ private:
     QWidget *MakeStatus();
     void AddFaceless();
     void AddPages(SideBarWidget &bar);
+    void MakeBoxesVisible();
+
+    IsButtonWidget *create = nullptr;
+    QLineEdit *path = nullptr;
+    QCheckBox *extension = nullptr;
+    QCheckBox *buttonBar = nullptr;
 };
 
 } // namespace tressel

@@ -4,8 +4,9 @@
 #include "windows/Parts.h"
 
 #include "widgets/IsButtonWidget.h"
+#include "windows/HintedViews.h"
+#include "windows/PageArea.h"
 
-#include <QScrollArea>
 #include <QStyledItemDelegate>
 
 namespace tressel {
@@ -16,7 +17,11 @@ constexpr QSize smallIcon(16, 16);
 constexpr int pageButtonHeight = 28;
 constexpr int pageButtonWidth = 76;
 constexpr int dotsButtonWidth = 32;
-constexpr int leastPageHeight = 224;
+// Narrow, for the longest captions just fit into the least page beside its scroll bar.
+constexpr int pageSide = 6;
+constexpr int groupSide = 3;
+constexpr int numberWidth = 104;
+constexpr int leastListHeight = 64;
 
 /// Rows of a list with some air between them.
 class RoomyRows : public QStyledItemDelegate {
@@ -28,13 +33,6 @@ public:
         return QStyledItemDelegate::sizeHint(option, index)
             .expandedTo(QSize(0, option.fontMetrics.height() + gapSmall));
     }
-};
-
-/// A list that asks for no more than its least height, so that a page grows beyond its room only where its
-/// fixed parts do.
-class ModestList : public QListView {
-public:
-    QSize sizeHint() const override { return minimumSize(); }
 };
 
 } // namespace
@@ -74,11 +72,32 @@ QComboBox *Combo(const QString &name, const QString &spoken)
     return combo;
 }
 
-QListView *List(const QString &name, const QString &spoken, int leastHeight)
+QLineEdit *NumberField(const QString &name)
 {
-    auto *list = Part<ModestList>(name);
+    auto *field = Field(name);
+    field->setMaximumWidth(numberWidth);
+    return field;
+}
+
+QComboBox *NumberCombo(const QString &name)
+{
+    auto *combo = Combo(name);
+    combo->setMaximumWidth(numberWidth);
+    return combo;
+}
+
+QWidget *Explained(QWidget *widget, const QString &toolTip)
+{
+    widget->setToolTip(toolTip);
+    return widget;
+}
+
+QListView *List(const QString &name, const QString &spoken, const QString &wordsWhenEmpty)
+{
+    auto *list = Part<HintedList>(name);
+    list->SetWords(wordsWhenEmpty);
     list->setAccessibleName(spoken);
-    list->setMinimumSize(80, leastHeight);
+    list->setMinimumSize(80, leastListHeight);
     list->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     list->setTextElideMode(Qt::ElideMiddle);
     list->setIconSize(smallIcon);
@@ -108,6 +127,15 @@ IsButtonWidget *PageButton(const QString &name)
     return button;
 }
 
+QLayout *ButtonRow(const QStringList &names)
+{
+    auto *row = Row();
+    row->addStretch();
+    for (const QString &name : names)
+        row->addWidget(PageButton(name));
+    return row;
+}
+
 IsButtonWidget *DotsButton(const QString &name, const QString &spoken)
 {
     auto *button = Part<IsButtonWidget>(name);
@@ -124,10 +152,10 @@ QProgressBar *Progress(const QString &name, const QString &spoken)
     return bar;
 }
 
-QGroupBox *Group(const QString &name, QLayout *content, int sides)
+QGroupBox *Group(const QString &name, QLayout *content)
 {
     auto *group = Part<QGroupBox>(name);
-    content->setContentsMargins(sides, gapSmall, sides, gapSmall);
+    content->setContentsMargins(groupSide, gapSmall, groupSide, gapSmall);
     group->setLayout(content);
     return group;
 }
@@ -140,21 +168,18 @@ QFrame *Line(const QString &name)
     return line;
 }
 
-QWidget *Page(const QString &name, QLayout *content)
+QWidget *Page(const QString &name, const PageParts &parts)
 {
     auto *page = Part<QWidget>(name);
-    auto *area = new QScrollArea;
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setFocusPolicy(Qt::NoFocus);
-    auto *paper = new QWidget;
-    content->setContentsMargins(gap, gapWide, gap, gapWide);
-    paper->setLayout(content);
-    area->setWidget(paper);
     auto *whole = Column(0);
-    whole->addWidget(area);
+    parts.content->setContentsMargins(pageSide, gapWide, pageSide, gap);
+    whole->addWidget(new PageArea(parts.content), 1);
+    if (parts.foot) {
+        whole->addWidget(Line());
+        parts.foot->setContentsMargins(pageSide, gap, pageSide, gap);
+        whole->addLayout(parts.foot);
+    }
     page->setLayout(whole);
-    page->setMinimumHeight(leastPageHeight);
     return page;
 }
 

@@ -39,23 +39,36 @@ QVBoxLayout *Column(int spacing = gap);
 /// assistive technology, needed where no label stands with the field.
 QLineEdit *Field(const QString &name, const QString &spoken = {});
 QComboBox *Combo(const QString &name, const QString &spoken = {});
-/// A list that takes what room there is, but no less than a few rows.
-QListView *List(const QString &name, const QString &spoken, int leastHeight = 72);
+/// The same for a number, no wider than a number needs.
+QLineEdit *NumberField(const QString &name);
+QComboBox *NumberCombo(const QString &name);
+/// Gives a widget the tool tip that it has where its control has none.
+QWidget *Explained(QWidget *widget, const QString &toolTip);
+/// A list that takes what room there is, but no less than a few rows. While it is empty it shows those
+/// words.
+QListView *List(const QString &name, const QString &spoken, const QString &wordsWhenEmpty = {});
 /// A label; it names the field for assistive technology.
 QLabel *LabelFor(const QString &name, QWidget *field = nullptr);
 /// A label that breaks its text into lines.
 QLabel *WrappedLabel(const QString &name);
 /// A push button of a page.
 IsButtonWidget *PageButton(const QString &name);
+/// Push buttons side by side at the right.
+QLayout *ButtonRow(const QStringList &names);
 /// A small one beside a field, for "...".
 IsButtonWidget *DotsButton(const QString &name, const QString &spoken);
 QProgressBar *Progress(const QString &name, const QString &spoken);
-/// A titled frame around a layout, with that distance at its sides.
-QGroupBox *Group(const QString &name, QLayout *content, int sides = gapSmall);
+/// A titled frame around a layout.
+QGroupBox *Group(const QString &name, QLayout *content);
 /// A thin line across; without a name it is mere ornament.
 QFrame *Line(const QString &name = {});
 
-/// A page: what doesn't fit into its height can be scrolled to.
-QWidget *Page(const QString &name, QLayout *content);
+/// What a page, or one tool of a page, shows.
+struct PageParts {
+    QLayout *content; ///< what doesn't fit into the page's height can be scrolled to
+    QLayout *foot = nullptr; ///< run buttons and progress, always in view below the content; may be null
+};
+
+QWidget *Page(const QString &name, const PageParts &parts);
 
 } // namespace tressel

@@ -3,8 +3,8 @@
 
 #include "windows/SplitBar.h"
 
+#include "base/Twips.h"
 #include "faces/Keys.h"
-#include "faces/Twips.h"
 #include "windows/WorkPanes.h"
 
 #include <QMouseEvent>
@@ -108,15 +108,29 @@ SplitGripFace::SplitGripFace(PictureBox &control, SplitGrip &widget, const FaceL
 
 bool SplitGripFace::eventFilter(QObject *watched, QEvent *event)
 {
+    switch (event->type()) {
+    case QEvent::MouseMove:
+        return TakeMove(*static_cast<QMouseEvent *>(event));
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+        // What the grip has seen goes no further: the bar below would act on it once more.
+        PictureFace::eventFilter(watched, event);
+        return true;
+    default:
+        return PictureFace::eventFilter(watched, event);
+    }
+}
+
+bool SplitGripFace::TakeMove(const QMouseEvent &move)
+{
     const auto *bar = static_cast<const SplitBar *>(Widget().parentWidget());
     const Control *strip = box.Owner().Find(bar->objectName());
-    if (event->type() != QEvent::MouseMove || !bar->Panes() || !strip)
-        return PictureFace::eventFilter(watched, event);
-    const auto *move = static_cast<QMouseEvent *>(event);
-    const int x = ToTwips(move->position().toPoint().x()) - (strip->Left() - bar->Panes()->ShownStripLeft());
-    const int buttons = move->buttons() & Qt::LeftButton ? PictureBox::leftButton : 0;
-    Hand([&] { box.UserMovesMouse(buttons, x); });
-    return false;
+    if (bar->Panes() && strip) {
+        const int ahead = strip->Left() - bar->Panes()->ShownStripLeft();
+        const int buttons = move.buttons() & Qt::LeftButton ? PictureBox::leftButton : 0;
+        Hand([&] { box.UserMovesMouse(buttons, ToTwips(move.position().toPoint().x()) - ahead); });
+    }
+    return true;
 }
 
 } // namespace tressel

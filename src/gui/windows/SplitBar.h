@@ -7,6 +7,8 @@
 
 #include <QWidget>
 
+class QMouseEvent;
+
 namespace tressel {
 
 class WorkPanes;
@@ -62,6 +64,8 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    bool TakeMove(const QMouseEvent &move);
+
     PictureBox &box;
 };
 

@@ -3,7 +3,7 @@
 
 #include "windows/WorkPanes.h"
 
-#include "faces/Twips.h"
+#include "base/Twips.h"
 #include "windows/SplitBar.h"
 
 namespace tressel {
@@ -17,8 +17,8 @@ WorkPanes::WorkPanes(const PictureBox &stripControl, const SideBar &barControl, 
     , right(*rightPane)
 {
     left.setParent(this);
-    right.setParent(this);
     split.setParent(this);
+    right.setParent(this);
 }
 
 void WorkPanes::TakeOver()
@@ -43,7 +43,8 @@ void WorkPanes::Place()
     const int paneWidth = std::clamp(ToPixels(bar.Width()), 0, std::max(width() - splitWidth, 0));
     left.setGeometry(0, 0, paneWidth, height());
     right.setGeometry(paneWidth + splitWidth, 0, width() - paneWidth - splitWidth, height());
-    split.setGeometry(ToPixels(shownStripLeft), 0, splitWidth, height());
+    const int splitShown = std::min(ToPixels(strip.Width()), splitWidth);
+    split.setGeometry(ToPixels(shownStripLeft), 0, splitShown, height());
     split.raise();
 }
 

@@ -25,7 +25,8 @@ public:
     /// Where the split bar is shown, in twips from the left edge.
     int ShownStripLeft() const { return shownStripLeft; }
 
-    static constexpr int splitWidth = 8; ///< pixels
+    /// In pixels, from pane to pane. A bar that is wider lies below the right one.
+    static constexpr int splitWidth = 8;
 
     QSize minimumSizeHint() const override;
 

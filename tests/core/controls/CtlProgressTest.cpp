@@ -212,6 +212,22 @@ TEST(CtlProgressStored, DesignComesBackWithoutTheValue)
     EXPECT_EQ(readBack.Value(), 0);
 }
 
+TEST(CtlProgressStored, GroundIsTheContainersUnlessOneIsStored)
+{
+    Form form{u"frmTest"_s};
+    CtlProgress bar{form, u"a"_s};
+    bar.TakeContainerColour(0xF5F5F5);
+    PropertyBag bag;
+    bar.WriteProperties(bag);
+    EXPECT_FALSE(bag.Holds(u"BackColor"_s));
+    bar.ReadProperties(bag);
+    EXPECT_EQ(bar.BackColor(), 0xF5F5F5U);
+    bag.Write(u"BackColor"_s, ColourNumber{7}, {});
+    bar.ReadProperties(bag);
+    bar.TakeContainerColour(0xF5F5F5);
+    EXPECT_EQ(bar.BackColor(), 7U);
+}
+
 TEST(CtlProgressStored, CaptionStyleHasTwoDefaults)
 {
     Form form{u"frmTest"_s};

@@ -380,6 +380,23 @@ TEST(IsButtonNew, HasTheToldFirstValues)
     EXPECT_EQ(button.ShownState(), LookState::Normal);
 }
 
+TEST(IsButtonNew, HasItsFourColoursTranslatedOnce)
+{
+    Form form{u"frmTest"_s};
+    IsButton button{form, u"btnNew"_s, IsButtonProperties{}};
+    button.SetFontColor(0x80000012U);
+    const auto translate = [](ColourNumber colour) { return colour & 0xFFU; };
+    button.TranslateFirstColours(translate);
+    EXPECT_EQ(button.BackColor(), 0x0FU);
+    EXPECT_EQ(button.HighlightColor(), 0x0DU);
+    EXPECT_EQ(button.FontColor(), 0x80000012U) << "it was written";
+    EXPECT_EQ(button.FontHighlightColor(), 0x12U);
+    EXPECT_EQ(button.ToolTipBackColor(), 0x80000017U);
+    button.SetBackColor(0x8000000FU);
+    button.TranslateFirstColours(translate);
+    EXPECT_EQ(button.BackColor(), 0x8000000FU);
+}
+
 TEST(IsButtonNew, OnAFormHasTheDesignOfTheForms)
 {
     Form form{u"frmTest"_s};

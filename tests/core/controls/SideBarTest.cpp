@@ -355,16 +355,16 @@ TEST_F(SideBarTest, KeysScrollToTheOpenEntryAndClicksDoNot)
 
 TEST_F(SideBarTest, TheRoomOfTheFaceLimitsTheRows)
 {
-    bar.TakeRoom(3);
+    bar.TakeRoom(3, 3);
     EXPECT_EQ(bar.Rows(), 3);
     EXPECT_EQ(stripResizes, 1);
-    bar.TakeRoom(3);
+    bar.TakeRoom(3, 3);
     EXPECT_EQ(stripResizes, 1);
     bar.SetVisibleItems(5);
     EXPECT_EQ(bar.Rows(), 3);
     EXPECT_EQ(bar.VisibleItems(), 5);
     EXPECT_EQ(stripResizes, 1);
-    bar.TakeRoom(7);
+    bar.TakeRoom(7, 7);
     EXPECT_EQ(bar.Rows(), 5);
     EXPECT_EQ(stripResizes, 2);
 }
@@ -373,16 +373,32 @@ TEST_F(SideBarTest, TheGripSetsTheRowsAndItsUpperEndMeansAll)
 {
     bar.SetVisibleItems(11);
     bar.UserSetsVisibleItems(7);
-    EXPECT_EQ(bar.VisibleItems(), 11);
+    EXPECT_EQ(bar.VisibleItems(), 7);
     bar.UserSetsVisibleItems(2);
     EXPECT_EQ(bar.VisibleItems(), 2);
     EXPECT_EQ(stripResizes, 1);
     bar.UserSetsVisibleItems(-3);
     EXPECT_EQ(bar.VisibleItems(), 0);
-    bar.TakeRoom(4);
+    bar.TakeRoom(4, 4);
     bar.UserSetsVisibleItems(4);
     EXPECT_EQ(bar.VisibleItems(), 7);
     EXPECT_EQ(bar.Rows(), 4);
+}
+
+TEST_F(SideBarTest, RowsThatNobodyAskedForLeaveThePagesWhole)
+{
+    bar.SetVisibleItems(11);
+    bar.TakeRoom(5, 2);
+    EXPECT_EQ(bar.Rows(), 2);
+    bar.UserSetsVisibleItems(4);
+    EXPECT_EQ(bar.Rows(), 4);
+    bar.UserSetsVisibleItems(5);
+    EXPECT_EQ(bar.VisibleItems(), 7);
+    EXPECT_EQ(bar.Rows(), 5);
+    bar.TakeRoom(6, 0);
+    EXPECT_EQ(bar.Rows(), 6);
+    bar.SetVisibleItems(11);
+    EXPECT_EQ(bar.Rows(), 0);
 }
 
 TEST_F(SideBarTest, LayoutEventsWaitForRedrawAndComeOnce)

@@ -65,14 +65,14 @@ const Row rows[] = {
     {Is<PictureBox>, u"Picture3", u""},
     {Is<PictureBox>, u"Picture4", u"", u"", State::Hidden},
     {Is<TextBox>, u"txtstrSQL", u"SELECT * FROM Products", u"", State::Hidden},
-    {Is<Frame>, u"FrameXPMenu(0)", u""},
-    {Is<Frame>, u"FrameXPMenu(1)", u""},
-    {Is<Frame>, u"FrameXPMenu(2)", u""},
+    {Is<Frame>, u"FrameXPMenu(0)", u"", u"", State::Hidden},
+    {Is<Frame>, u"FrameXPMenu(1)", u"", u"", State::Hidden},
+    {Is<Frame>, u"FrameXPMenu(2)", u"", u"", State::Hidden},
     {Is<Frame>, u"FrameXPMenu(3)", u"", u"", State::Hidden},
-    {Is<Frame>, u"FrameXPMenu(4)", u""},
-    {Is<Frame>, u"FrameXPMenu(5)", u""},
-    {Is<Frame>, u"FrameXPMenu(6)", u""},
-    {Is<Frame>, u"FrameXPMenu(7)", u""},
+    {Is<Frame>, u"FrameXPMenu(4)", u"", u"", State::Hidden},
+    {Is<Frame>, u"FrameXPMenu(5)", u"", u"", State::Hidden},
+    {Is<Frame>, u"FrameXPMenu(6)", u"", u"", State::Hidden},
+    {Is<Frame>, u"FrameXPMenu(7)", u"", u"", State::Hidden},
     {Is<DriveList>, u"DrvList", u"", u" List of drivelist "},
     {Is<FolderList>, u"DirList", u"", u" List of dirlist "},
     {Is<FileList>, u"FileList", u"", u" List of filelist "},
@@ -138,8 +138,8 @@ const Row rows[] = {
      u" Type in your path to mdb database file or open database with click on \"Database\" button "},
     {Is<CheckListBox>, u"ListBox(0)", u"", u" Pick Table from list "},
     {Is<CheckListBox>, u"ListBox(1)", u"", u" Pick Fields from list "},
-    {Is<IsButton>, u"btnGBOpenDatabase", u"Database", u"", State::Resting},
-    {Is<IsButton>, u"btnGBLoadList", u"Load List", u"", State::Resting},
+    {Is<IsButton>, u"btnGBOpenDatabase", u"Database"},
+    {Is<IsButton>, u"btnGBLoadList", u"Load List"},
     {Is<Label>, u"lblDatabaseFile", u"Database File"},
     {Is<Label>, u"lblTable", u"No Fields"},
     {Is<Label>, u"lblstrSQL", u"No Tables"},
@@ -200,9 +200,9 @@ const Row rows[] = {
     {Is<CheckBox>, u"chkCopyToFloppy", u"Copy to Floppies when finished Splitting"},
     {Is<CheckBox>, u"chkOpenExplorer", u"Open Explorer Window to Split Directory"},
     {Is<CheckBox>, u"chkDeleteParts", u"Delete Split Parts when finished Joining"},
-    {Is<IsButton>, u"btnGBSplitFile", u"Split File", u"", State::Resting},
-    {Is<IsButton>, u"btnGBJoinFile", u"Join File", u"", State::Resting},
-    {Is<IsButton>, u"btnBrowse", u"...", u"", State::Resting},
+    {Is<IsButton>, u"btnGBSplitFile", u"Split File"},
+    {Is<IsButton>, u"btnGBJoinFile", u"Join File"},
+    {Is<IsButton>, u"btnBrowse", u"..."},
 };
 // clang-format on
 
@@ -269,6 +269,8 @@ TEST_F(MainFormTest, TheUpdateNoticeIsYellowOnRed)
 {
     EXPECT_EQ(form.PicUpdate.BackColor(), 0x0000FFU);
     EXPECT_EQ(form.lblUpdate.ForeColor(), 0x00FFFFU);
+    EXPECT_TRUE(form.lblUpdate.IsBold());
+    EXPECT_TRUE(form.PicUpdate.HasHandPointer());
 }
 
 TEST_F(MainFormTest, TheTimerFiresTenTimesASecond)
@@ -351,10 +353,24 @@ TEST_F(MainFormTest, AToolMayAnswerTheTimerToo)
     form.Show();
     int ticks = 0;
     form.erase.Timer1.Tick.Handle([&] { ++ticks; });
-    ASSERT_TRUE(form.IsLayoutPending());
-    form.erase.Timer1.Elapse();
-    EXPECT_EQ(ticks, 1);
-    EXPECT_FALSE(form.IsLayoutPending());
+    form.FormResize();
+    for (const int left : {5100, 100}) {
+        form.PicStrip.SetLeft(100);
+        form.erase.Timer1.Elapse();
+        EXPECT_EQ(form.PicStrip.Left(), left);
+    }
+    EXPECT_EQ(ticks, 2);
+}
+
+TEST_F(MainFormTest, AllButtonsCarryTheirIconsInOneWay)
+{
+    for (const IsButton *button : form.Buttons()) {
+        EXPECT_EQ(button->IconSize(), 32) << button->Name().toStdString();
+        EXPECT_EQ(button->IconAlign(), IconPlace::Top) << button->Name().toStdString();
+        const CaptionPlace place = button->Icon().IsNone() ? CaptionPlace::Centre : CaptionPlace::Bottom;
+        EXPECT_EQ(button->CaptionAlign(), place) << button->Name().toStdString();
+    }
+    EXPECT_FALSE(form.emptyFolders.btnGBToolbarSearch.Icon().IsNone());
 }
 
 } // namespace

@@ -142,7 +142,7 @@ TEST(FirstStart, BringsTheTipsThenTheWindowInTheProgramFolder)
     EXPECT_EQ(fresh.frmMain().area.txtStrtPath.Text(), u"C:\\Tressel"_s);
     EXPECT_EQ(fresh.frmMain().browse.DirList.Path(), u"C:\\Tressel"_s);
     EXPECT_EQ(fresh.frmMain().textLists.OpenTXTPath, u"C:\\Tressel"_s);
-    EXPECT_EQ(fresh.frmMain().OpenDBPath, u"C:\\Tressel"_s);
+    EXPECT_EQ(fresh.frmMain().database.OpenDBPath, u"C:\\Tressel"_s);
     EXPECT_EQ(fresh.frmMain().area.LstItem.ListCount(), 0);
 }
 
@@ -157,6 +157,17 @@ TEST_F(MainFormLoad, PlaceAtZeroIsTakenForNeverStored)
         EXPECT_EQ(program.Form().Left(), left);
         EXPECT_EQ(program.Form().Top(), top);
     }
+}
+
+TEST_F(MainFormLoad, TheCentreIsThatOfTheAvailablePartOfItsScreen)
+{
+    StartedProgram program;
+    // The second of two screens, with a panel at its upper edge.
+    program.machine.screen.SetOrigin(1920 * 15, 30 * 15);
+    program.machine.screen.SetSize(1280 * 15, 994 * 15);
+    program.Start();
+    EXPECT_EQ(program.Form().Left(), 1920 * 15 + (1280 * 15 - 10830) / 2);
+    EXPECT_EQ(program.Form().Top(), 30 * 15 + (994 * 15 - 7860) / 2);
 }
 
 TEST_F(MainFormLoad, SecondStoresPlaceIsOverruled)
@@ -303,18 +314,6 @@ TEST_F(MainFormLoad, EntryOfButtonStyleGivesAllButtonsTheirLook)
         for (const IsButton *button : program.Form().Buttons())
             EXPECT_EQ(static_cast<int>(button->Style()), styles.at(entry)) << button->Name().toStdString();
     }
-}
-
-TEST_F(MainFormLoad, SecondInstanceSharesTheStoreAndTheLastToCloseWins)
-{
-    Start();
-    Application second(machine.machine);
-    second.Start();
-    Area().txtStrtPath.SetText(u"C:\\First"_s);
-    second.frmMain().area.txtStrtPath.SetText(u"C:\\Second"_s);
-    EXPECT_THROW(second.frmMain().Unload(), ProcessEnded);
-    Leave();
-    EXPECT_EQ(application.settings.ReadText(keys::FilePath), u"C:\\First"_s);
 }
 
 TEST_F(MainFormLoad, ListOfTheLastSessionComesBack)

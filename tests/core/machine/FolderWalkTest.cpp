@@ -15,7 +15,7 @@ namespace {
 
 TEST(FolderWalk, GoesDeepBeforeItGoesOn)
 {
-    const MemoryMachine machine;
+    MemoryMachine machine;
     FolderWalk walk(machine.files, u"D:\\"_s, {u"a"_s, u"b"_s});
     EXPECT_EQ(walk.Next(), u"D:\\a"_s);
     walk.Enter({u"1"_s, u"2"_s});
@@ -30,7 +30,7 @@ TEST(FolderWalk, GoesDeepBeforeItGoesOn)
 
 TEST(FolderWalk, EndsAtOnceWithoutFolders)
 {
-    const MemoryMachine machine;
+    MemoryMachine machine;
     FolderWalk walk(machine.files, u"D:\\W"_s, {});
     EXPECT_EQ(walk.Next(), std::nullopt);
 }

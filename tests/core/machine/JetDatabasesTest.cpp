@@ -4,6 +4,7 @@
 #include "machine/posix/JetDatabases.h"
 
 #include "jet/Wire.h"
+#include "support/AllObjects.h"
 #include "support/AsNobody.h"
 #include "support/Failures.h"
 #include "support/MemoryEvents.h"
@@ -49,7 +50,7 @@ protected:
     QString FailureText(Databases &asked, const QString &name)
     {
         try {
-            asked.Objects(At(name), DatabaseRoad::Newer);
+            AllObjects(asked, At(name));
         } catch (const Failure &failure) {
             return QString::number(failure.Number()) + u' ' + failure.description;
         }
@@ -94,8 +95,7 @@ TEST_F(JetDatabasesTest, FailsInWordsForWhatIsNoDatabase)
         EXPECT_EQ(FailureText(databases, u"other"_s),
                   u"3343 Unrecognized database format '%1'."_s.arg(At(u"other"_s)));
     }
-    EXPECT_EQ(NumberThrownBy([&] { databases.Objects({}, DatabaseRoad::Newer); }),
-              databaseFailures::NoSuchFolder);
+    EXPECT_EQ(NumberThrownBy([&] { AllObjects(databases, {}); }), databaseFailures::NoSuchFolder);
 }
 
 TEST_F(JetDatabasesTest, FailsInWordsWhereAccessIsRefused)
@@ -120,28 +120,31 @@ TEST_F(JetDatabasesTest, TakesAProgramThatSaysNothingWholeForADamagedFile)
 
 TEST_F(JetDatabasesTest, BelievesNothingThatCannotBeAnAnswer)
 {
+    const std::string opened = jet::Packer(jet::FrameKind::Opened).Frame();
+    const std::string begin = hello + opened;
     const std::string object = jet::Packer(jet::FrameKind::Object).Number8(1).Text(u"Table").Frame();
     const auto end = [](std::uint64_t count) {
         return jet::Packer(jet::FrameKind::End).Number64(count).Frame();
     };
-    EXPECT_EQ(Asking(Script(Octal(hello + object + end(1)))), QString());
+    EXPECT_EQ(Asking(Script(Octal(begin + object + end(1)))), QString());
+    EXPECT_EQ(Asking(Script(Octal(hello + object + end(1)))), Damaged());
     EXPECT_EQ(Asking(Script(Octal(object + end(1)))), Damaged());
-    EXPECT_EQ(Asking(Script(Octal(hello + object))), Damaged());
-    EXPECT_EQ(Asking(Script(Octal(hello + object + end(2)))), Damaged());
-    EXPECT_EQ(Asking(Script(Octal(hello + object + object.substr(0, object.size() - 1)))), Damaged());
+    EXPECT_EQ(Asking(Script(Octal(begin + object))), Damaged());
+    EXPECT_EQ(Asking(Script(Octal(begin + object + end(2)))), Damaged());
+    EXPECT_EQ(Asking(Script(Octal(begin + object + object.substr(0, object.size() - 1)))), Damaged());
     // A kind of object, of frame or of failure that there isn't, a text that is longer than its frame.
     EXPECT_EQ(Asking(Script(
-                  Octal(hello + jet::Packer(jet::FrameKind::Object).Number8(9).Text(u"T").Frame() + end(1)))),
+                  Octal(begin + jet::Packer(jet::FrameKind::Object).Number8(9).Text(u"T").Frame() + end(1)))),
               Damaged());
-    EXPECT_EQ(Asking(Script(Octal(hello + jet::Packer(jet::FrameKind::Value).Number8(1).Frame() + end(1)))),
+    EXPECT_EQ(Asking(Script(Octal(begin + jet::Packer(jet::FrameKind::Value).Number8(1).Frame() + end(1)))),
               Damaged());
-    EXPECT_EQ(Asking(Script(Octal(hello + jet::Packer(jet::FrameKind::Failed).Number8(99).Frame()))),
+    EXPECT_EQ(Asking(Script(Octal(begin + jet::Packer(jet::FrameKind::Failed).Number8(99).Frame()))),
               Damaged());
     EXPECT_EQ(Asking(Script(Octal(
-                  hello + jet::Packer(jet::FrameKind::Object).Number8(1).Number32(4000).Frame() + end(1)))),
+                  begin + jet::Packer(jet::FrameKind::Object).Number8(1).Number32(4000).Frame() + end(1)))),
               Damaged());
     // A frame of four gigabytes.
-    EXPECT_EQ(Asking(Script(Octal(hello + std::string("\377\377\377\377\005", 5)) + "; cat /dev/zero")),
+    EXPECT_EQ(Asking(Script(Octal(begin + std::string("\377\377\377\377\005", 5)) + "; cat /dev/zero")),
               Damaged());
 }
 

@@ -5,6 +5,7 @@
 // TRESSEL_SAMPLE_DATABASES names their folder.
 
 #include "machine/posix/JetDatabases.h"
+#include "support/AllObjects.h"
 #include "support/Failures.h"
 #include "support/MemoryEvents.h"
 #include "support/Text.h"
@@ -30,7 +31,7 @@ protected:
     QStringList Counts(const QString &file)
     {
         QStringList counts;
-        for (const DatabaseObject &object : databases.Objects(At(file), DatabaseRoad::Newer)) {
+        for (const DatabaseObject &object : AllObjects(databases, At(file), DatabaseRoad::Newer)) {
             if (object.kind == DatabaseObjectKind::Table)
                 counts += object.name + u' ' + QString::number(Rows(file, object.name));
         }
@@ -49,11 +50,7 @@ protected:
     }
     QList<DatabaseValue> Values(const QString &file, const QString &table, const QString &field)
     {
-        QList<DatabaseValue> values;
-        const auto reader = databases.Read(At(file), table, field);
-        while (const auto value = reader->Next())
-            values += *value;
-        return values;
+        return AllValues(databases, At(file), table, field);
     }
     QStringList Texts(const QString &file, const QString &table, const QString &field)
     {
@@ -67,7 +64,7 @@ protected:
     QString Refusal(const QString &file)
     {
         try {
-            databases.Objects(At(file), DatabaseRoad::Newer);
+            AllObjects(databases, At(file), DatabaseRoad::Newer);
         } catch (const Failure &failure) {
             return u"%1 %2"_s.arg(failure.Number()).arg(failure.description);
         }
@@ -104,7 +101,7 @@ TEST_F(JetSamples, HaveTheirTablesAndRows)
 
 TEST_F(JetSamples, HaveTheirViewsBehindTheTables)
 {
-    const QList<DatabaseObject> objects = databases.Objects(At(u"nwind.mdb"_s), DatabaseRoad::Newer);
+    const QList<DatabaseObject> objects = AllObjects(databases, At(u"nwind.mdb"_s), DatabaseRoad::Newer);
     QStringList views;
     for (const DatabaseObject &object : objects) {
         if (object.kind == DatabaseObjectKind::View)
@@ -170,8 +167,8 @@ TEST_F(JetSamples, AreRefusedInWordsIfTheyAreProtected)
 
 TEST_F(JetSamples, OfTheOldestFormatAreTheOnlyOnesForTheOlderRoad)
 {
-    EXPECT_EQ(databases.Objects(At(u"testV1997.mdb"_s), DatabaseRoad::Older).size(), 10);
-    EXPECT_EQ(NumberThrownBy([&] { databases.Objects(At(u"empty2003.mdb"_s), DatabaseRoad::Older); }),
+    EXPECT_EQ(AllObjects(databases, At(u"testV1997.mdb"_s), DatabaseRoad::Older).size(), 10);
+    EXPECT_EQ(NumberThrownBy([&] { AllObjects(databases, At(u"empty2003.mdb"_s), DatabaseRoad::Older); }),
               databaseFailures::UnknownFormat);
 }
 

@@ -45,6 +45,33 @@ TEST_F(MoveFileTest, CopiesToAnotherVolumeAndRemoves)
     EXPECT_FALSE(machine.files.Exists(from));
 }
 
+TEST_F(MoveFileTest, ACopyKeepsTimeAndRightsAndIsDownBeforeTheFileGoes)
+{
+    const QDateTime then(QDate(1999, 12, 31), QTime(23, 59));
+    machine.files.SetModified(from, then);
+    machine.files.SetReadOnly(from, true);
+    machine.files.SetReadOnly(from, false);
+    machine.files.SetHidden(from);
+    machine.journal.Clear();
+    EXPECT_EQ(MoveFails(u"D:\\to"_s), std::nullopt);
+    const auto status = machine.files.Status(u"D:\\to"_s, Links::Keep);
+    EXPECT_EQ(status->modified, then);
+    EXPECT_TRUE(status->hidden);
+    const QStringList lines = machine.journal.Lines();
+    EXPECT_GE(lines.indexOf(u"FlushFile D:\\to"_s), 0);
+    EXPECT_LT(lines.indexOf(u"FlushFile D:\\to"_s), lines.indexOf(u"RemoveFile C:\\from"_s));
+}
+
+TEST_F(MoveFileTest, ALinkStaysALink)
+{
+    machine.files.PutLink(u"C:\\link"_s, from);
+    MoveFile(machine.files, u"C:\\link"_s, u"D:\\link"_s);
+    EXPECT_EQ(machine.files.Status(u"D:\\link"_s, Links::Keep)->kind, EntryKind::Link);
+    EXPECT_EQ(machine.files.LinkTarget(u"D:\\link"_s), from);
+    EXPECT_FALSE(machine.files.Exists(u"C:\\link"_s));
+    EXPECT_TRUE(machine.files.Exists(from));
+}
+
 TEST_F(MoveFileTest, NeverOverwrites)
 {
     for (const QString &to : {u"C:\\to"_s, u"D:\\to"_s}) {

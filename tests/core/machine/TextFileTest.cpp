@@ -3,6 +3,7 @@
 
 #include "machine/TextFile.h"
 
+#include "machine/posix/PosixFileSystem.h"
 #include "support/Failures.h"
 #include "support/MemoryMachine.h"
 #include "support/Text.h"
@@ -207,6 +208,50 @@ TEST(LineWriter, WritesThousandsOfLinesInFewPieces)
     writer.Close();
     EXPECT_LT(machine.journal.Count(u"WriteBytes"_s), 10);
     EXPECT_EQ(LinesOf(machine.files.Bytes(listPath)).size(), 30'000);
+}
+
+TEST(TextFile, AMarkOfUtf16MeansUtf16)
+{
+    EXPECT_EQ(DecodeText(QByteArray("\xFF\xFE"
+                                    "a\0\xE6\0\r\0\n\0",
+                                    10)),
+              u"a\u00E6\r\n"_s);
+    EXPECT_EQ(DecodeText(QByteArray("\xFE\xFF"
+                                    "\0a\0\xE6",
+                                    6)),
+              u"a\u00E6"_s);
+    EXPECT_EQ(DecodeText("\xFF\xFE"), QString());
+    MemoryMachine machine;
+    machine.files.PutFile(u"C:\\list.txt"_s, QByteArray("\xFF\xFEx\0\n\0y\0", 8));
+    LineReader reader(machine.files, u"C:\\list.txt"_s);
+    EXPECT_EQ(reader.Next(), u"x"_s);
+    EXPECT_EQ(reader.Next(), u"y"_s);
+    EXPECT_EQ(reader.Next(), std::nullopt);
+}
+
+TEST(TextFile, WhatIsReadWholeHasALimit)
+{
+    MemoryMachine machine;
+    constexpr qint64 oneMiB = 1 << 20;
+    machine.files.PutFile(u"C:\\just"_s, QByteArray(oneMiB, 'x'));
+    machine.files.PutFile(u"C:\\over"_s, QByteArray(oneMiB + 1, 'x'));
+    EXPECT_EQ(ReadWhole(machine.files, u"C:\\just"_s, oneMiB, OpenFor::Reading).size(), oneMiB);
+    try {
+        LineReader(machine.files, u"C:\\over"_s, NameBytes::Escaped, oneMiB);
+        ADD_FAILURE() << "it was read";
+    } catch (const Failure &failure) {
+        EXPECT_EQ(failure.number, FailureNumber::OutOfMemory);
+        EXPECT_EQ(failure.description, u"The file is larger than 1 MiB"_s);
+    }
+}
+
+TEST(TextFile, WhatHasNoEndEndsAtTheLimit)
+{
+    PosixFileSystem files;
+    EXPECT_EQ(NumberThrownBy([&] { ReadWhole(files, u"/dev/zero"_s, 1 << 20, OpenFor::Streaming); }),
+              FailureNumber::OutOfMemory);
+    EXPECT_EQ(NumberThrownBy([&] { ReadWhole(files, u"/dev/zero"_s, 1 << 20, OpenFor::Reading); }),
+              FailureNumber::PathFileAccessError);
 }
 
 } // namespace

@@ -12,6 +12,7 @@
 
 #include <QComboBox>
 #include <QDialog>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -101,26 +102,40 @@ private Q_SLOTS:
         QCOMPARE(bound.face->Faces().WidgetsWithoutControl(), QStringList({u"txtPath"_s, u"lblPaht"_s}));
     }
 
-    void TabOrderIsThatOfTheForm()
+    void TabOrderIsThatInWhichTheWindowIsRead()
     {
         Form form(u"f"_s);
-        TextBox first(form, u"txtFirst"_s);
-        ComboBox second(form, u"cboSecond"_s);
         TextBox third(form, u"txtThird"_s);
+        ComboBox second(form, u"cboSecond"_s);
+        TextBox fourth(form, u"txtFourth"_s);
+        TextBox first(form, u"txtFirst"_s);
         Bound bound(form);
-        bound.Add<QLineEdit>(u"txtThird"_s);
-        bound.Add<QComboBox>(u"cboSecond"_s);
+        auto &last = bound.Add<QLineEdit>(u"txtFourth"_s);
+        auto &group = bound.Add<QGroupBox>(QString());
+        auto *grid = new QGridLayout(&group);
+        auto *below = new QLineEdit;
+        below->setObjectName(u"txtThird"_s);
+        auto *box = new QComboBox;
+        box->setObjectName(u"cboSecond"_s);
+        grid->addWidget(box, 0, 0);
+        grid->addWidget(below, 1, 0);
         auto &start = bound.Add<QLineEdit>(u"txtFirst"_s);
+        auto *column = new QVBoxLayout(&bound.window);
+        auto *row = new QHBoxLayout;
+        row->addWidget(&start);
+        row->addWidget(&group);
+        column->addLayout(row);
+        column->addWidget(&last);
         bound.Bind();
         start.setFocus();
         QStringList order;
-        for (int step = 0; step < 3; ++step) {
+        for (int step = 0; step < 4; ++step) {
             QWidget *focused = bound.window.focusWidget();
             order += focused->objectName().isEmpty() ? focused->parentWidget()->objectName()
                                                      : focused->objectName();
             QTest::keyClick(focused, Qt::Key_Tab);
         }
-        QCOMPARE(order, QStringList({u"txtFirst"_s, u"cboSecond"_s, u"txtThird"_s}));
+        QCOMPARE(order, QStringList({u"txtFirst"_s, u"cboSecond"_s, u"txtThird"_s, u"txtFourth"_s}));
     }
 
     void ATimerNeedsNoWidgetAndTicks()

@@ -213,12 +213,26 @@ private Q_SLOTS:
         Bound bound(form);
         auto &view = bound.Add<QTreeView>(u"TVList"_s);
         bound.Bind();
-        QVERIFY(tree.IsExpanded(0));
-        view.collapse(view.model()->index(0, 0));
+        QVERIFY(view.isExpanded(view.model()->index(0, 0)));
+        view.setFocus();
+        view.setCurrentIndex(view.model()->index(0, 0));
+        QTest::keyClick(&view, Qt::Key_Left);
+        QVERIFY(!view.isExpanded(view.model()->index(0, 0)));
         QVERIFY(!tree.IsExpanded(0));
+        // Another tree under the same name, so that the view starts anew.
+        tree.AddRoot(QString(), u"second root"_s, 4);
         tree.AddChild(u"main"_s, u"b"_s, 5);
         bound.updates.Flush();
+        QCOMPARE(view.model()->rowCount(), 2);
+        QCOMPARE(view.model()->rowCount(view.model()->index(0, 0)), 2);
         QVERIFY(!view.isExpanded(view.model()->index(0, 0)));
+        // And what the user opens stays open.
+        QTest::keyClick(&view, Qt::Key_Right);
+        QVERIFY(tree.IsExpanded(0));
+        tree.AddChild(u"main"_s, u"c"_s, 5);
+        tree.AddRoot(QString(), u"third root"_s, 4);
+        bound.updates.Flush();
+        QVERIFY(view.isExpanded(view.model()->index(0, 0)));
 
         // Built anew: the old state goes with the old nodes.
         tree.Clear();

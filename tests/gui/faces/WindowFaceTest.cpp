@@ -119,6 +119,25 @@ private Q_SLOTS:
         QTRY_COMPARE(form.State(), WindowState::Minimised);
     }
 
+    void FullScreenCountsAsMaximisedAndKeepsThePlace()
+    {
+        Form form(u"f"_s);
+        form.SetSize(9000, 6000);
+        form.Move(1500, 1500);
+        Bound bound(form);
+        bound.Bind();
+        const QRect before = bound.window.geometry();
+        bound.window.showFullScreen();
+        QTRY_COMPARE(form.State(), WindowState::Maximised);
+        form.SetCaption(u"changed"_s);
+        bound.updates.Flush();
+        QVERIFY(bound.window.isFullScreen());
+        QVERIFY(!bound.window.isMaximized());
+        bound.window.showNormal();
+        QTRY_COMPARE(form.State(), WindowState::Normal);
+        QTRY_COMPARE(bound.window.geometry(), before);
+    }
+
     void ClosingUnloadsTheForm()
     {
         Form form(u"frmTip"_s);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
-#include "faces/Twips.h"
+#include "base/Twips.h"
 #include "gui/GuiTest.h"
 #include "machine/CanberraSound.h"
 #include "machine/QtClipboard.h"
@@ -22,14 +22,16 @@ class DesktopTest : public QObject {
 private Q_SLOTS:
     void ScreenIsMeasuredInTwips()
     {
-        const QSize size = QGuiApplication::primaryScreen()->size();
+        const QRect size = QGuiApplication::primaryScreen()->availableGeometry();
         QtScreen screen;
+        QCOMPARE(screen.Left(), size.left() * 15);
+        QCOMPARE(screen.Top(), size.top() * 15);
         QCOMPARE(screen.Width(), size.width() * 15);
         QCOMPARE(screen.Height(), size.height() * 15);
         {
             QWidget window;
             screen.SetMainWindow(&window);
-            QCOMPARE(screen.Width(), window.screen()->size().width() * 15);
+            QCOMPARE(screen.Width(), window.screen()->availableGeometry().width() * 15);
         }
         QCOMPARE(screen.Width(), size.width() * 15);
     }

@@ -140,12 +140,10 @@ private Q_SLOTS:
         request.filter = u"All Files (*.*)|*.*|TXT Files (*.txt)|*.txt|DOC Files (*.doc)|*.doc|"_s;
         request.filterIndex = 4;
         request.defaultExtension = u".txt"_s;
-        request.mustExist = true;
         WhenUp<QFileDialog>([&](QFileDialog &dialog) {
             QCOMPARE(dialog.windowTitle(), u"Open file"_s);
             QCOMPARE(dialog.directory().path(), folder.path());
             QCOMPARE(dialog.selectedNameFilter(), u"TXT Files (*.txt)"_s);
-            QCOMPARE(dialog.defaultSuffix(), u"txt"_s);
             dialog.findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(u"a"_s);
             Accept(dialog);
         });
@@ -153,6 +151,49 @@ private Q_SLOTS:
         QVERIFY(answer);
         QCOMPARE(answer->paths, QStringList({file.fileName()}));
         QCOMPARE(answer->folder, folder.path());
+    }
+
+    void AFileThatIsThereIsOpenedUnderItsOwnName()
+    {
+        QTemporaryDir folder;
+        for (const QString &name : {u"names"_s, u"names.txt"_s, u"other.txt"_s}) {
+            QFile file(folder.filePath(name));
+            QVERIFY(file.open(QFile::WriteOnly));
+        }
+        FileDialogRequest request;
+        request.folder = folder.path();
+        request.defaultExtension = u".txt"_s;
+        const auto opened = [&](const QString &typed) {
+            WhenUp<QFileDialog>([&](QFileDialog &dialog) {
+                dialog.findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(typed);
+                Accept(dialog);
+            });
+            const auto answer = dialogs.OpenFile(request);
+            return answer ? answer->paths : QStringList();
+        };
+        QCOMPARE(opened(folder.filePath(u"names"_s)), QStringList(folder.filePath(u"names"_s)));
+        QCOMPARE(opened(u"names"_s), QStringList(folder.filePath(u"names"_s)));
+        QCOMPARE(opened(folder.filePath(u"other"_s)), QStringList(folder.filePath(u"other.txt"_s)));
+    }
+
+    void AFileThatIsNotThereIsNotOpened()
+    {
+        QTemporaryDir folder;
+        FileDialogRequest request;
+        request.folder = folder.path();
+        request.defaultExtension = u".txt"_s;
+        int told = 0;
+        WhenUp<QFileDialog>([&](QFileDialog &dialog) {
+            dialog.findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(folder.filePath(u"gone"_s));
+            Accept(dialog);
+            WhenUp<QMessageBox>([&](QMessageBox &box) {
+                ++told;
+                box.accept();
+                WhenUp<QFileDialog>([](QFileDialog &still) { still.reject(); });
+            });
+        });
+        QVERIFY(!dialogs.OpenFile(request));
+        QCOMPARE(told, 1);
     }
 
     void CancelledFileDialogsAnswerNothing()

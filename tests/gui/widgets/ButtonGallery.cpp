@@ -3,6 +3,7 @@
 
 #include "controls/CtlProgress.h"
 #include "controls/IsButton.h"
+#include "gui/widgets/ButtonSample.h"
 #include "widgets/ButtonPainter.h"
 #include "widgets/CtlProgressWidget.h"
 
@@ -16,11 +17,11 @@
 #include <vector>
 
 using namespace tressel;
+using namespace tressel::test;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int twips = 15;
 constexpr int cellWidth = 118;
 constexpr int cellHeight = 84;
 constexpr int nameWidth = 80;
@@ -59,6 +60,16 @@ const std::vector<Column> &Columns()
         {u"pressed"_s, [](IsButton &button) { button.UserPressesMouse(MouseButton::Left); }},
         {u"disabled"_s, [](IsButton &button) { button.SetEnabled(false); }},
         {u"focus"_s, [](IsButton &button) { button.TakeFocus(true); }},
+        {u"hover focus"_s,
+         [](IsButton &button) {
+             button.UserMovesMouse();
+             button.TakeFocus(true);
+         }},
+        {u"pressed focus"_s,
+         [](IsButton &button) {
+             button.UserPressesMouse(MouseButton::Left);
+             button.TakeFocus(true);
+         }},
         {u"custom"_s, UseCustomColours},
         {u"custom hover"_s,
          [](IsButton &button) {
@@ -106,18 +117,6 @@ const std::vector<Column> &Columns()
          }},
     };
     return columns;
-}
-
-QPalette DarkPalette()
-{
-    QPalette dark(QColor(0x35, 0x35, 0x35), QColor(0x31, 0x31, 0x31));
-    dark.setColor(QPalette::WindowText, Qt::white);
-    dark.setColor(QPalette::ButtonText, Qt::white);
-    dark.setColor(QPalette::Text, Qt::white);
-    dark.setColor(QPalette::Base, QColor(0x23, 0x23, 0x23));
-    dark.setColor(QPalette::Highlight, QColor(0x2A, 0x82, 0xDA));
-    dark.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0x80, 0x80, 0x80));
-    return dark;
 }
 
 /// One button of the sheet: its row's look, its column's state.

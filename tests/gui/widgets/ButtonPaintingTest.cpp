@@ -28,6 +28,12 @@ QByteArray RedSquare()
            "fill=\"#ff0000\"/></svg>";
 }
 
+QByteArray FaintSquare()
+{
+    return "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 8 8\"><rect width=\"8\" height=\"8\" "
+           "fill=\"#ff0000\" fill-opacity=\"0.3\"/></svg>";
+}
+
 QRect RedBox(const QImage &image)
 {
     QRect box;
@@ -56,7 +62,8 @@ private Q_SLOTS:
     void CaptionStandsInItsFivePlaces();
     void CaptionHasItsColours();
     void TextOfLightFacesIsTheDesktopsWhereThatIsDark();
-    void DisabledCaptionIsReadable();
+    void DisabledCaptionHasTheDesktopsOwnGrey();
+    void ContrastIsKeptWhereThereIsRoom();
     void LongCaptionIsElided();
     void RightToLeftCaptionIsDrawn();
     void TinyFacesAreDrawn();
@@ -164,6 +171,10 @@ void ButtonPaintingTest::HighlightCastsAShadow()
     QCOMPARE(hovered.pixelColor(normal.center().x(), normal.bottom()), QColor(0x80, 0x80, 0x80));
     QCOMPARE(hovered.pixelColor(normal.bottomRight()), QColor(0x80, 0x80, 0x80));
     QCOMPARE(hovered.pixelColor(normal.topLeft() - QPoint(2, 2)), hovered.pixelColor(1, 1));
+
+    // A pixel that the icon hardly touches differs from the face as well.
+    sample.button.SetIcon(Picture(FaintSquare()));
+    QCOMPARE(sample.Draw().pixelColor(normal.bottomRight()), QColor(0x80, 0x80, 0x80));
 }
 
 void ButtonPaintingTest::CaptionStandsInItsFivePlaces()
@@ -226,36 +237,37 @@ void ButtonPaintingTest::TextOfLightFacesIsTheDesktopsWhereThatIsDark()
     }
 }
 
-void ButtonPaintingTest::DisabledCaptionIsReadable()
+void ButtonPaintingTest::DisabledCaptionHasTheDesktopsOwnGrey()
 {
-    const QList<std::pair<QRgb, QRgb>> faint{
-        {0xEFEFEF, 0xBEBEBE}, {0x353535, 0x484848}, {0xFFFFFF, 0xFFFFFF}};
-    for (const auto &[face, grey] : faint) {
-        QPalette palette = TestPalette();
-        palette.setColor(QPalette::Button, QColor(face));
-        palette.setColor(QPalette::ButtonText, qGray(face) > 127 ? Qt::black : Qt::white);
-        palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(grey));
-        const QColor readable = ColourOf(SystemColour::GrayText, palette);
-        QVERIFY(ContrastOf(readable, QColor(face)) >= 3);
-        QVERIFY(ContrastOf(readable, QColor(face)) < 5);
-        for (int style = 0; style <= 11; ++style) {
-            Sample sample(style);
-            sample.around.palette = palette;
-            sample.button.SetCaption(u"\u2588\u2588"_s);
-            sample.Show(LookState::Disabled);
-            Sample empty(style);
-            empty.around.palette = palette;
-            empty.Show(LookState::Disabled);
-            const QColor ground = style == 11 ? QColor(face) : empty.At(w / 2, h / 2);
-            QVERIFY2(ContrastOf(sample.At(w / 2, h / 2), ground) > 2.2, qPrintable(QString::number(style)));
+    for (const QRgb grey : {0x384048U, 0xBEBEBEU, 0x808080U}) {
+        for (const QColor &text : {QColor(Qt::black), QColor(Qt::white)}) {
+            for (int style = 0; style <= 11; ++style) {
+                Sample sample(style);
+                sample.around.palette.setColor(QPalette::ButtonText, text);
+                sample.around.palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(grey));
+                sample.button.SetCaption(u"\u2588\u2588"_s);
+                sample.Show(LookState::Disabled);
+                QCOMPARE(sample.At(w / 2, h / 2), QColor(grey));
+            }
         }
     }
-    // A text that is no more readable itself is no help.
-    QPalette flat = TestPalette();
-    flat.setColor(QPalette::All, QPalette::Button, Qt::gray);
-    flat.setColor(QPalette::All, QPalette::ButtonText, Qt::gray);
-    QCOMPARE(ColourOf(SystemColour::GrayText, flat), QColor(Qt::gray));
+}
+
+void ButtonPaintingTest::ContrastIsKeptWhereThereIsRoom()
+{
     QCOMPARE(ContrastOf(Qt::black, Qt::white), 21.0);
+    const QColor pale(0xEF, 0xEF, 0xEF);
+    const QColor dark(0x31, 0x31, 0x31);
+    QCOMPARE(WithContrast(QColor(0x80, 0x80, 0x80), {pale}), QColor(0x80, 0x80, 0x80));
+    const QColor darker = WithContrast(QColor(0xC0, 0xC0, 0xC0), {pale});
+    QVERIFY(darker.lightness() < 0xC0 && ContrastOf(darker, pale) >= 2 && ContrastOf(darker, pale) < 2.3);
+    // Not even black is dark enough here.
+    const QColor lighter = WithContrast(QColor(0x20, 0x20, 0x20), {dark});
+    QVERIFY(lighter.lightness() > 0x31 && ContrastOf(lighter, dark) >= 2);
+    const QColor both = WithContrast(QColor(0x20, 0x20, 0x20), {dark, QColor(0x50, 0x50, 0x50)});
+    QVERIFY(ContrastOf(both, QColor(0x50, 0x50, 0x50)) >= 2);
+    QVERIFY(ContrastOf(LighterBy(dark, dark, 3), dark) >= 3);
+    QCOMPARE(LighterBy(QColor(Qt::white), pale, 3), QColor(Qt::white));
 }
 
 void ButtonPaintingTest::LongCaptionIsElided()

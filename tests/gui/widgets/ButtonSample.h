@@ -10,6 +10,8 @@
 #include <QApplication>
 #include <QImage>
 
+#include <cstdlib>
+
 namespace tressel::test {
 
 using namespace Qt::StringLiterals;
@@ -37,6 +39,19 @@ inline QPalette TestPalette()
 inline QColor System(SystemColour colour)
 {
     return ColourOf(colour, TestPalette());
+}
+
+/// The palette of a dark desktop.
+inline QPalette DarkPalette()
+{
+    QPalette dark(QColor(0x31, 0x31, 0x31), QColor(0x35, 0x35, 0x35));
+    dark.setColor(QPalette::WindowText, Qt::white);
+    dark.setColor(QPalette::ButtonText, Qt::white);
+    dark.setColor(QPalette::Text, Qt::white);
+    dark.setColor(QPalette::Base, QColor(0x23, 0x23, 0x23));
+    dark.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0x80, 0x80, 0x80));
+    dark.setColor(QPalette::Highlight, QColor(0x2A, 0x82, 0xDA));
+    return dark;
 }
 
 /// A button without a caption, and its picture.
@@ -76,6 +91,23 @@ struct Sample {
     IsButton button{form, u"btnTest"_s};
     ButtonSurroundings around;
 };
+
+/// The share of the pixels in which two pictures differ so that a person sees it.
+inline double SeenDifference(const QImage &a, const QImage &b)
+{
+    constexpr int seen = 8;
+    int differing = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QColor one = a.pixelColor(x, y);
+            const QColor other = b.pixelColor(x, y);
+            if (std::abs(one.red() - other.red()) >= seen || std::abs(one.green() - other.green()) >= seen
+                || std::abs(one.blue() - other.blue()) >= seen)
+                ++differing;
+        }
+    }
+    return double(differing) / (a.width() * a.height());
+}
 
 /// The box of all pixels in which two pictures differ.
 inline QRect Difference(const QImage &a, const QImage &b)

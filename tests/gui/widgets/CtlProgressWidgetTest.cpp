@@ -4,10 +4,13 @@
 #include "widgets/CtlProgressWidget.h"
 
 #include "gui/GuiTest.h"
+#include "machine/PlainColours.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QTest>
+
+#include <cstdlib>
 
 using namespace tressel;
 using namespace Qt::StringLiterals;
@@ -41,12 +44,16 @@ class CtlProgressWidgetTest : public QObject {
 private Q_SLOTS:
     void BarReachesItsShareOfTheWidth();
     void TextIsInvertedWhereTheBarPasses();
+    void TextHasNoFringes();
     void FillColourIsTrueOnAnyBackground();
     void StyleThreeWithACaptionShowsNoText();
     void ResizingAndRefreshingKeepWhatIsDrawn();
     void EveryPropertyIsTheControls();
     void EqualBoundsFailToTheCaller();
+    void ARefusedPropertyEndsInTheFatalBoxOfTheForm();
+    void GroundIsTheContainersUntilItIsWritten();
     void AccessTellsValueAndBounds();
+    void AccessTellsNothingOfAnIdleBar();
     void FrameIsDrawn();
     void FrameIsSharpAtEachScale();
 
@@ -87,6 +94,33 @@ void CtlProgressWidgetTest::TextIsInvertedWhereTheBarPasses()
     QVERIFY(Holds(drawn, right, Qt::black));
     QVERIFY(Holds(drawn, right, Qt::white));
     QVERIFY(!Holds(drawn, right, QColor(255, 255, 0)));
+}
+
+void CtlProgressWidgetTest::TextHasNoFringes()
+{
+    // Between a letter and its ground lie only mixtures of the two.
+    const QColor ground(0x31, 0x31, 0x31);
+    const QColor fill(0, 0, 255);
+    const QColor turned = QColor::fromRgb(0xFFFFFF ^ 0x0000FF ^ 0x313131);
+    CtlProgress bar(form, u"bar"_s);
+    bar.SetForeColor(0xFFFFFF);
+    bar.SetCaptionStyle(CaptionStyle::Caption);
+    bar.SetCaption(u"Oo8S%"_s);
+    bar.SetValue(100);
+    for (const qreal scale : {1.0, 1.5, 2.0}) {
+        const QImage drawn = Drawn(bar, scale, ground);
+        bool hasText = false;
+        for (int y = 0; y < drawn.height(); ++y) {
+            for (int x = 0; x < drawn.width(); ++x) {
+                const QColor seen = drawn.pixelColor(x, y);
+                const double part = double(seen.red()) / turned.red();
+                hasText = hasText || part > 0.9;
+                QVERIFY(std::abs(seen.green() - part * turned.green()) <= 3);
+                QVERIFY(std::abs(seen.blue() - (fill.blue() + part * (turned.blue() - fill.blue()))) <= 3);
+            }
+        }
+        QVERIFY(hasText);
+    }
 }
 
 void CtlProgressWidgetTest::FillColourIsTrueOnAnyBackground()
@@ -162,6 +196,42 @@ void CtlProgressWidgetTest::EqualBoundsFailToTheCaller()
     QCOMPARE(widget.Value(), 3);
 }
 
+void CtlProgressWidgetTest::ARefusedPropertyEndsInTheFatalBoxOfTheForm()
+{
+    QList<int> failures;
+    form.SetFatalHandler([&](const Failure &failure) { failures.append(failure.Number()); });
+    CtlProgress bar(form, u"bar"_s);
+    CtlProgressWidget widget;
+    widget.SetControl(&bar);
+    widget.setProperty("Max", 0);
+    widget.setProperty("Value", 5);
+    widget.setProperty("Appearance", 40000);
+    widget.setProperty("BorderStyle", 40000);
+    widget.setProperty("CaptionStyle", -40000);
+    QCOMPARE(failures, QList<int>({11, 6, 6, 6}));
+    QCOMPARE(widget.Value(), 5);
+    form.SetFatalHandler({});
+}
+
+void CtlProgressWidgetTest::GroundIsTheContainersUntilItIsWritten()
+{
+    QWidget page;
+    CtlProgress bar(form, u"bar"_s);
+    auto *widget = new CtlProgressWidget(&page);
+    widget->SetControl(&bar);
+    QCOMPARE(bar.BackColor(), ToNumber(page.palette().color(QPalette::Window)));
+    QPalette palette = page.palette();
+    palette.setColor(QPalette::Window, QColor(0xF5, 0xF4, 0xF3));
+    page.setPalette(palette);
+    QCOMPARE(bar.BackColor(), 0xF3F4F5U);
+    widget->resize(60, 20);
+    QCOMPARE(widget->grab().toImage().pixelColor(30, 10), QColor(0xF5, 0xF4, 0xF3));
+    bar.SetBackColor(0x102030);
+    palette.setColor(QPalette::Window, Qt::red);
+    page.setPalette(palette);
+    QCOMPARE(bar.BackColor(), 0x102030U);
+}
+
 void CtlProgressWidgetTest::AccessTellsValueAndBounds()
 {
     CtlProgressWidget widget;
@@ -174,6 +244,20 @@ void CtlProgressWidgetTest::AccessTellsValueAndBounds()
     QCOMPARE(access->text(QAccessible::Value), u"20%"_s);
     QCOMPARE(access->valueInterface()->currentValue().toInt(), 10);
     QCOMPARE(access->valueInterface()->maximumValue().toInt(), 50);
+    for (const auto &[written, told] : {std::pair(150, 50), std::pair(-3, 0), std::pair(20, 20)}) {
+        widget.SetValue(written);
+        QCOMPARE(widget.Value(), written);
+        QCOMPARE(access->valueInterface()->currentValue().toInt(), told);
+    }
+}
+
+void CtlProgressWidgetTest::AccessTellsNothingOfAnIdleBar()
+{
+    CtlProgressWidget widget;
+    widget.SetMin(10);
+    QAccessibleInterface *access = QAccessible::queryAccessibleInterface(&widget);
+    QCOMPARE(access->text(QAccessible::Value), QString());
+    QCOMPARE(access->valueInterface()->currentValue().toInt(), 10);
 }
 
 void CtlProgressWidgetTest::FrameIsDrawn()

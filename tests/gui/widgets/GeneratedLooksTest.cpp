@@ -131,9 +131,6 @@ void GeneratedLooksTest::BlueRoundedHasEachFixedColourAtItsPlace()
                         {w - 2, y, slope(0xFDD889, 0xF8B330, y - 1, h - 4)},
                         {x, 3, slope(0xFCFCFB, 0xF0F0EA, 4, h)}}),
              0);
-    Sample disabled(5);
-    disabled.Show(LookState::Disabled);
-    QCOMPARE(Differing(disabled.Draw(), {{x, 0, 0xD6D0C5}, {x, 1, 0xF5F4F2}, {x, y, 0xF5F4F2}}), 0);
 }
 
 void GeneratedLooksTest::BlueRoundedDerivesItsOwnColours()
@@ -208,7 +205,7 @@ void GeneratedLooksTest::PlastikHasEachStepAtItsPlace()
         int bottomLine;
     };
     const QList<Row> rows{{LookState::Normal, -96, 15, -15, 21, 8, -16, -21},
-                          {LookState::Hover, -96, 21, -9, 21, 15, -5, -16},
+                          {LookState::Hover, -96, 21, 5, 21, 15, 8, -9},
                           {LookState::Pressed, -96, -21, -5, -37, -32, -15, 5},
                           {LookState::Disabled, -37, 15, -15, 21, 8, -16, -21}};
     for (const Row &row : rows) {

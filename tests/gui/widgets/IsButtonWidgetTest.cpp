@@ -4,7 +4,8 @@
 #include "widgets/IsButtonWidget.h"
 
 #include "gui/GuiTest.h"
-#include "widgets/ButtonToolTip.h"
+#include "gui/widgets/ButtonStage.h"
+#include "machine/PlainColours.h"
 #include "widgets/FontFaces.h"
 #include "widgets/SystemColours.h"
 
@@ -31,23 +32,9 @@ void CountWarnings(QtMsgType type, const QMessageLogContext &, const QString &me
         ++warnings;
 }
 
-/// A button that counts how often it is painted.
-class CountingButton : public IsButtonWidget {
-public:
-    using IsButtonWidget::IsButtonWidget;
-    int paints = 0;
-
-protected:
-    void paintEvent(QPaintEvent *event) override
-    {
-        ++paints;
-        IsButtonWidget::paintEvent(event);
-    }
-};
-
 } // namespace
 
-class IsButtonWidgetTest : public QObject {
+class IsButtonWidgetTest : public QObject, private ButtonStage {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -55,6 +42,8 @@ private Q_SLOTS:
     void cleanup();
 
     void EveryPropertyIsTheControls();
+    void ARefusedPropertyEndsInTheFatalBoxOfTheForm();
+    void FirstColoursAreTheDesktopsTranslated();
     void ClickAndItsStates();
     void RightClickDoesNothing();
     void ReleasedOutsideIsNoClick();
@@ -71,60 +60,21 @@ private Q_SLOTS:
     void WritingAPropertyRepaints();
     void ShapeIsAMask();
     void SizeIsTheControls();
-    void ToolTipIsHandedOver();
-    void ToolTipHasTitleIconColoursAndBalloon();
-    void EmptyToolTipShowsNothing();
-    void ToolTipColourZeroIsTheDesktops();
     void AboutTellsNameAndVersion();
     void HandlerMayDeleteTheWidget();
     void LooksWarnAboutNothing();
     void FractionalPlacesStaySharp();
-
-private:
-    /// The pointer itself stays where init put it, so that no event of the desktop mixes in.
-    void Hover(const QPoint &place)
-    {
-        QMouseEvent moved(QEvent::MouseMove, place, button->mapToGlobal(place), Qt::NoButton, Qt::NoButton,
-                          {});
-        QApplication::sendEvent(button, &moved);
-    }
-
-    std::unique_ptr<QWidget> window;
-    CountingButton *button = nullptr;
-    std::unique_ptr<Form> form;
-    std::unique_ptr<IsButton> control;
-    int clicks = 0;
-    int enters = 0;
-    int leaves = 0;
 };
 
 void IsButtonWidgetTest::init()
 {
-    form = std::make_unique<Form>(u"frmTest"_s);
-    control = std::make_unique<IsButton>(*form, u"btnTest"_s, u"&Apply"_s);
-    clicks = enters = leaves = 0;
-    control->Click.Handle([this] { ++clicks; });
-    control->MouseEnter.Handle([this] { ++enters; });
-    control->MouseLeave.Handle([this] { ++leaves; });
-    window = std::make_unique<QWidget>();
-    window->resize(300, 200);
-    button = new CountingButton(window.get());
-    button->setObjectName(u"btnTest"_s);
-    button->setGeometry(50, 50, 100, 30);
-    button->SetControl(control.get());
-    QCursor::setPos(window->screen()->geometry().bottomRight());
-    window->move(0, 0);
-    window->show();
-    QVERIFY(QTest::qWaitForWindowActive(window.get()));
-    QVERIFY(!button->underMouse());
+    Up();
     warnings = 0;
 }
 
 void IsButtonWidgetTest::cleanup()
 {
-    window.reset();
-    control.reset();
-    form.reset();
+    Down();
 }
 
 void IsButtonWidgetTest::EveryPropertyIsTheControls()
@@ -167,6 +117,36 @@ void IsButtonWidgetTest::EveryPropertyIsTheControls()
     button->TakeOver();
     QCOMPARE(button->font().pointSizeF(), 14.0);
     QVERIFY(!button->isEnabled());
+}
+
+void IsButtonWidgetTest::ARefusedPropertyEndsInTheFatalBoxOfTheForm()
+{
+    QList<int> failures;
+    form->SetFatalHandler([&](const Failure &failure) { failures.append(failure.Number()); });
+    button->setProperty("IconSize", 40000);
+    QCOMPARE(failures, QList<int>{6});
+    QCOMPARE(button->IconSize(), 32);
+
+    // Without a form there is nobody but the caller.
+    IsButtonWidget alone;
+    int number = 0;
+    try {
+        alone.SetIconSize(40000);
+    } catch (const Failure &failure) {
+        number = failure.Number();
+    }
+    QCOMPARE(number, 6);
+}
+
+void IsButtonWidgetTest::FirstColoursAreTheDesktopsTranslated()
+{
+    const QPalette desktop = button->palette();
+    QCOMPARE(button->BackColor(), ToNumber(desktop.color(QPalette::Button)));
+    QCOMPARE(button->HighlightColor(), ToNumber(desktop.color(QPalette::Highlight)));
+    QCOMPARE(button->FontColor(), ToNumber(desktop.color(QPalette::ButtonText)));
+    QCOMPARE(button->FontHighlightColor(), ToNumber(desktop.color(QPalette::ButtonText)));
+    const IsButtonWidget alone;
+    QCOMPARE(alone.BackColor(), ToNumber(desktop.color(QPalette::Button)));
 }
 
 void IsButtonWidgetTest::ClickAndItsStates()
@@ -362,82 +342,6 @@ void IsButtonWidgetTest::SizeIsTheControls()
     QCOMPARE(warnings, 0);
 }
 
-void IsButtonWidgetTest::ToolTipIsHandedOver()
-{
-    button->hide();
-    control->Control::SetToolTip(u" Browse... "_s);
-    button->show();
-    QCOMPARE(control->ToolTip(), u" Browse... "_s);
-    QCOMPARE(control->Control::ToolTip(), u""_s);
-    button->hide();
-    QCOMPARE(control->Control::ToolTip(), u" Browse... "_s);
-}
-
-void IsButtonWidgetTest::ToolTipHasTitleIconColoursAndBalloon()
-{
-    control->SetToolTip(u"Makes the folders of the list"_s);
-    control->SetToolTipTitle(u"Make"_s);
-    control->SetToolTipIcon(ToolTipIconKind::Information);
-    control->SetToolTipType(ToolTipShape::Balloon);
-    control->SetToolTipBackColor(0x102030);
-    control->SetToolTipForeColor(0xE0F0FF);
-    QVERIFY(!button->Tip());
-    Hover({5, 5});
-    QVERIFY(button->Tip());
-    QCOMPARE(button->Tip()->Text(), u"Makes the folders of the list"_s);
-    QCOMPARE(button->Tip()->Title(), u"Make"_s);
-    QVERIFY(button->Tip()->HasIcon());
-    QVERIFY(button->Tip()->IsBalloon());
-    QCOMPARE(button->Tip()->Face(), QColor(0x30, 0x20, 0x10));
-    QCOMPARE(button->Tip()->TextColour(), QColor(0xFF, 0xF0, 0xE0));
-    QVERIFY(!button->Tip()->isVisible());
-
-    const QPoint place = button->mapToGlobal(QPoint(5, 5));
-    QHelpEvent help(QEvent::ToolTip, QPoint(5, 5), place);
-    QApplication::sendEvent(button, &help);
-    QVERIFY(button->Tip()->isVisible());
-    auto *shown = const_cast<ButtonToolTip *>(button->Tip());
-    const QImage drawn = shown->grab().toImage();
-    QCOMPARE(drawn.pixelColor(drawn.width() - 4, drawn.height() / 2), QColor(0x30, 0x20, 0x10));
-
-    QTest::mousePress(button, Qt::LeftButton);
-    QVERIFY(!button->Tip()->isVisible());
-    QTest::mouseRelease(button, Qt::LeftButton);
-
-    // Built anew each time the pointer comes.
-    control->SetToolTip(u"Other"_s);
-    QEvent leave(QEvent::Leave);
-    QApplication::sendEvent(button, &leave);
-    QCOMPARE(button->Tip()->Text(), u"Makes the folders of the list"_s);
-    Hover({6, 6});
-    QCOMPARE(button->Tip()->Text(), u"Other"_s);
-}
-
-void IsButtonWidgetTest::EmptyToolTipShowsNothing()
-{
-    control->SetToolTipTitle(u"Make"_s);
-    Hover({5, 5});
-    QVERIFY(button->Tip());
-    QHelpEvent help(QEvent::ToolTip, QPoint(5, 5), button->mapToGlobal(QPoint(5, 5)));
-    QApplication::sendEvent(button, &help);
-    QVERIFY(!button->Tip()->isVisible());
-}
-
-void IsButtonWidgetTest::ToolTipColourZeroIsTheDesktops()
-{
-    control->SetToolTip(u"tip"_s);
-    control->SetToolTipBackColor(0);
-    control->SetToolTipForeColor(0);
-    const ButtonToolTip zero(*control, *button);
-    control->SetToolTipBackColor(NumberOf(SystemColour::ToolTipFace));
-    control->SetToolTipForeColor(NumberOf(SystemColour::ToolTipText));
-    const ButtonToolTip system(*control, *button);
-    QCOMPARE(zero.Face(), system.Face());
-    QCOMPARE(zero.TextColour(), system.TextColour());
-    QVERIFY(!zero.IsBalloon());
-    QVERIFY(!zero.HasIcon());
-}
-
 void IsButtonWidgetTest::AboutTellsNameAndVersion()
 {
     control->About();
@@ -464,7 +368,7 @@ void IsButtonWidgetTest::HandlerMayDeleteTheWidget()
     });
     QAccessibleInterface *access = QAccessible::queryAccessibleInterface(button);
     access->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    QVERIFY(!button);
+    QTRY_VERIFY(!button);
 }
 
 void IsButtonWidgetTest::LooksWarnAboutNothing()

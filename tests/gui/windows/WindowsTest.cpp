@@ -15,8 +15,6 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMimeData>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QTreeView>
 
 using namespace tressel;
@@ -81,21 +79,6 @@ QString SpokenName(QWidget *widget)
 {
     QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(widget);
     return spoken ? spoken->text(QAccessible::Name).trimmed() : QString();
-}
-
-/// The widgets of the names that can't be seen whole within the window, even after scrolling to them.
-QStringList Clipped(QWidget &window, const QList<Control *> &controls)
-{
-    QStringList clipped;
-    for (const Control *control : controls) {
-        auto *widget = window.findChild<QWidget *>(control->Name());
-        if (!widget || !widget->isVisible())
-            continue;
-        QWidget *parent = widget->parentWidget();
-        if (!parent->rect().contains(widget->geometry()))
-            clipped += control->Name();
-    }
-    return clipped;
 }
 
 } // namespace
@@ -179,25 +162,6 @@ private Q_SLOTS:
                 QWidget *stop = widget->focusProxy() ? widget->focusProxy() : widget;
                 QVERIFY2(stops.contains(stop) || stops.contains(widget), qPrintable(control->Name()));
             }
-        }
-    }
-
-    void NoPageIsCutOffAtTheLeastSize()
-    {
-        DesktopStage stage;
-        stage.Put(keys::MainWidth, u"100"_s);
-        stage.Put(keys::MainHeight, u"100"_s);
-        stage.Start();
-        QCOMPARE(stage.Window().size(), QSize(542, 455));
-        for (int entry = 1; entry <= entryCount; ++entry) {
-            stage.OpenEntry(entry);
-            QCOMPARE(Clipped(stage.Window(), stage.Form().Controls()).join(u' '), QString());
-            for (const QScrollArea *area : stage.Window().findChildren<QScrollArea *>()) {
-                if (area->isVisible())
-                    QCOMPARE(area->horizontalScrollBar()->maximum(), 0);
-            }
-            QVERIFY(stage.Face<QTreeView>(u"TVList"_s).viewport()->height() > 60);
-            QVERIFY(stage.Face<QListView>(u"LstItem"_s).viewport()->height() > 60);
         }
     }
 

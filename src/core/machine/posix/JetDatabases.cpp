@@ -62,6 +62,38 @@ bool ComesBefore(const DatabaseObject &one, const DatabaseObject &other)
     return one.name.compare(other.name, Qt::CaseInsensitive) < 0;
 }
 
+class JetObjectReader : public ObjectReader {
+public:
+    explicit JetObjectReader(std::unique_ptr<JetAnswer> opened)
+        : answer(std::move(opened))
+    {
+    }
+    std::optional<DatabaseObject> Next() override
+    {
+        if (const auto open = std::exchange(answer, nullptr))
+            ReadAll(*open);
+        if (objects.isEmpty())
+            return {};
+        return objects.takeFirst();
+    }
+
+private:
+    /// Files have them in no order.
+    void ReadAll(JetAnswer &open)
+    {
+        while (const auto content = open.Next(jet::FrameKind::Object)) {
+            const auto object = ObjectFrom(*content);
+            if (!object || objects.size() >= mostObjects)
+                throw open.Damaged();
+            objects += *object;
+        }
+        std::ranges::stable_sort(objects, ComesBefore);
+    }
+
+    std::unique_ptr<JetAnswer> answer;
+    QList<DatabaseObject> objects;
+};
+
 class JetFieldReader : public FieldReader {
 public:
     explicit JetFieldReader(std::unique_ptr<JetAnswer> opened)
@@ -96,18 +128,12 @@ JetDatabases::JetDatabases(Events &eventLoop, QByteArray path, std::chrono::mill
 {
 }
 
-QList<DatabaseObject> JetDatabases::Objects(const QString &file, DatabaseRoad road)
+std::unique_ptr<ObjectReader> JetDatabases::OpenSchema(const QString &file, DatabaseRoad road)
 {
-    JetAnswer answer({jet::FrameKind::AskObjects, file, {}, {}, road}, program, events, patience);
-    QList<DatabaseObject> objects;
-    while (const auto content = answer.Next(jet::FrameKind::Object)) {
-        const auto object = ObjectFrom(*content);
-        if (!object || objects.size() >= mostObjects)
-            throw answer.Damaged();
-        objects += *object;
-    }
-    std::ranges::stable_sort(objects, ComesBefore);
-    return objects;
+    auto answer = std::make_unique<JetAnswer>(JetQuestion{jet::FrameKind::AskObjects, file, {}, {}, road},
+                                              program, events, patience);
+    answer->Expect(jet::FrameKind::Opened);
+    return std::make_unique<JetObjectReader>(std::move(answer));
 }
 
 QList<DatabaseField> JetDatabases::Fields(const QString &file, const QString &table, DatabaseRoad road)

@@ -23,7 +23,7 @@ public:
     explicit JetDatabases(Events &events, QByteArray program = FindJet(),
                           std::chrono::milliseconds patience = Patience);
 
-    QList<DatabaseObject> Objects(const QString &file, DatabaseRoad road) override;
+    std::unique_ptr<ObjectReader> OpenSchema(const QString &file, DatabaseRoad road) override;
     QList<DatabaseField> Fields(const QString &file, const QString &table, DatabaseRoad road) override;
     std::unique_ptr<FieldReader> Read(const QString &file, const QString &table,
                                       const QString &field) override;

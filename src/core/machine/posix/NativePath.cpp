@@ -4,6 +4,7 @@
 #include "machine/posix/NativePath.h"
 
 #include "machine/NameText.h"
+#include "machine/posix/OpenBeneath.h"
 #include "machine/posix/SystemError.h"
 
 #include <cerrno>
@@ -14,7 +15,55 @@
 
 namespace tressel {
 
+namespace {
+
+/// True if one of the levels is "..".
+bool GoesUp(QByteArrayView path)
+{
+    for (qsizetype at = path.indexOf(".."); at >= 0; at = path.indexOf("..", at + 1)) {
+        const bool starts = at == 0 || path.at(at - 1) == '/';
+        const bool ends = at + 2 == path.size() || path.at(at + 2) == '/';
+        if (starts && ends)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
 NativePath::NativePath(QStringView path)
+{
+    Convert(path);
+    Finish();
+    if (!problem)
+        Reach();
+}
+
+NativePath::NativePath(QByteArrayView path)
+{
+    bytes.append(path.data(), path.size());
+    Finish();
+    if (!problem)
+        Reach();
+}
+
+NativePath::NativePath(int heldFolder, QStringView path)
+    : start(heldFolder)
+    , isHeld(true)
+{
+    Convert(path);
+    Finish();
+    if (!problem)
+        ReachBeneath();
+}
+
+NativePath::NativePath(FailureNumber whyNot)
+    : problem(whyNot)
+{
+    bytes.append('\0');
+}
+
+void NativePath::Convert(QStringView path)
 {
     bytes.resize(path.size() * 3 + 1);
     bool damaged = false;
@@ -22,16 +71,9 @@ NativePath::NativePath(QStringView path)
     // Half of a surrogate pair stands for no bytes: to guess some could name another file.
     if (damaged)
         problem = FailureNumber::InvalidProcedureCall;
-    FinishAndReach();
 }
 
-NativePath::NativePath(QByteArrayView path)
-{
-    bytes.append(path.data(), path.size());
-    FinishAndReach();
-}
-
-void NativePath::FinishAndReach()
+void NativePath::Finish()
 {
     if (bytes.isEmpty())
         problem = FailureNumber::BadFileName;
@@ -40,8 +82,6 @@ void NativePath::FinishAndReach()
     while (bytes.size() > 1 && bytes.last() == '/')
         bytes.removeLast();
     bytes.append('\0');
-    if (!problem)
-        Reach();
 }
 
 void NativePath::Reach()
@@ -69,6 +109,28 @@ void NativePath::Reach()
     }
 }
 
+/// Up to the last name, which then stands alone.
+void NativePath::ReachBeneath()
+{
+    if (GoesUp(Bytes())) {
+        problem = FailureNumber::PathFileAccessError;
+        return;
+    }
+    const qsizetype last = Bytes().lastIndexOf('/');
+    if (last < 0)
+        return;
+    bytes[last] = '\0';
+    Descriptor above = OpenBeneath(start, bytes.constData());
+    const int error = errno;
+    bytes[last] = '/';
+    if (!above.IsOpen()) {
+        problem = NumberOfError(error);
+        return;
+    }
+    folder = std::move(above);
+    reached = last + 1;
+}
+
 void NativePath::Demand() const
 {
     if (problem)
@@ -77,7 +139,7 @@ void NativePath::Demand() const
 
 int NativePath::Folder() const
 {
-    return folder.IsOpen() ? folder.Number() : AT_FDCWD;
+    return folder.IsOpen() ? folder.Number() : start;
 }
 
 QByteArrayView NativePath::Name() const
@@ -94,7 +156,7 @@ QByteArrayView NativePath::Above() const
 FailureNumber NativePath::NumberOfMissingFile() const
 {
     const QByteArrayView above = Above();
-    if (above.isEmpty())
+    if (above.isEmpty() || isHeld)
         return FailureNumber::FileNotFound;
     const NativePath path(above);
     struct stat status = {};

@@ -10,6 +10,7 @@
 #include <QStringView>
 #include <QVarLengthArray>
 
+#include <fcntl.h>
 #include <optional>
 
 namespace tressel {
@@ -21,6 +22,11 @@ class NativePath {
 public:
     explicit NativePath(QStringView path);
     explicit NativePath(QByteArrayView bytes);
+    /// A path from a folder on that is held open and outlives this: no link in it is followed, and ".." fails
+    /// with 75.
+    NativePath(int heldFolder, QStringView path);
+    /// One that can't be used.
+    explicit NativePath(FailureNumber whyNot);
     NativePath(const NativePath &) = delete;
     NativePath &operator=(const NativePath &) = delete;
 
@@ -41,16 +47,25 @@ public:
     /// The whole path.
     QByteArrayView Bytes() const { return {bytes.constData(), bytes.size() - 1}; }
 
+    /// From a folder on that is held: the rest is the last name alone.
+    bool IsHeld() const { return isHeld; }
+    /// O_NOFOLLOW if links aren't followed, for calls that open what the path names.
+    int FlagAgainstLinks() const { return isHeld ? O_NOFOLLOW : 0; }
+
     /// For a file that the system doesn't find: 53 if the folder for it is there, else 76.
     FailureNumber NumberOfMissingFile() const;
 
 private:
-    void FinishAndReach();
+    void Convert(QStringView path);
+    void Finish();
     void Reach();
+    void ReachBeneath();
 
     QVarLengthArray<char, 1024> bytes;
     qsizetype reached = 0; ///< where the rest starts
-    Descriptor folder; ///< of a long path
+    int start = AT_FDCWD; ///< where the whole path starts
+    bool isHeld = false; ///< the start is a folder that is held
+    Descriptor folder; ///< of a long path, or below a held folder
     std::optional<FailureNumber> problem;
 };
 

@@ -10,6 +10,7 @@
 #include "machine/posix/PosixOpenFile.h"
 #include "machine/posix/PosixRename.h"
 #include "machine/posix/PosixReplacingFile.h"
+#include "machine/posix/Retried.h"
 #include "machine/posix/SystemError.h"
 
 #include <algorithm>
@@ -54,13 +55,14 @@ int FlagsFor(OpenFor purpose)
 {
     switch (purpose) {
     case OpenFor::Reading:
+    case OpenFor::Streaming:
         return O_RDONLY;
     case OpenFor::Writing:
         return O_WRONLY | O_CREAT;
     case OpenFor::Appending:
         return O_WRONLY | O_CREAT | O_APPEND;
     case OpenFor::Changing:
-        return O_RDWR;
+        return O_RDWR | O_NOFOLLOW;
     case OpenFor::Creating:
         return O_WRONLY | O_CREAT | O_EXCL;
     }
@@ -80,16 +82,6 @@ void WaitForData(const Descriptor &file)
     const int flags = fcntl(file.Number(), F_GETFL);
     if (flags < 0 || fcntl(file.Number(), F_SETFL, flags & ~O_NONBLOCK) != 0)
         throw Failure(NumberOfError(errno));
-}
-
-Descriptor OpenFolder(const QString &folder)
-{
-    const NativePath path{QStringView(folder)};
-    path.Demand();
-    Descriptor open(openat(path.Folder(), path.Rest(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!open.IsOpen())
-        throw Failure(NumberOfError(errno));
-    return open;
 }
 
 /// The path itself or the nearest folder above it that is there, to ask its volume something.
@@ -132,9 +124,20 @@ void SortByName(QList<FolderEntry> &entries)
 
 } // namespace
 
+Descriptor PosixFileSystem::OpenFolder(const QString &folder) const
+{
+    const NativePath path = held.PathOf(folder);
+    path.Demand();
+    Descriptor open(
+        openat(path.Folder(), path.Rest(), O_RDONLY | O_DIRECTORY | O_CLOEXEC | path.FlagAgainstLinks()));
+    if (!open.IsOpen())
+        throw Failure(NumberOfError(errno));
+    return open;
+}
+
 std::optional<FileStatus> PosixFileSystem::Status(const QString &path, Links links)
 {
-    const NativePath native{QStringView(path)};
+    const NativePath native = held.PathOf(path);
     struct stat status = {};
     const int flags = links == Links::Keep ? AT_SYMLINK_NOFOLLOW : 0;
     if (native.Problem() || fstatat(native.Folder(), native.Rest(), &status, flags) != 0)
@@ -142,18 +145,6 @@ std::optional<FileStatus> PosixFileSystem::Status(const QString &path, Links lin
     const EntryKind kind = KindOfMode(status.st_mode);
     return FileStatus{kind, kind == EntryKind::File ? status.st_size : 0, (status.st_mode & allMayWrite) == 0,
                       IsHidden(native), TimeOf(status.st_mtim)};
-}
-
-std::optional<QString> PosixFileSystem::LinkTarget(const QString &path)
-{
-    const NativePath native{QStringView(path)};
-    if (native.Problem())
-        return {};
-    std::array<char, PATH_MAX> target;
-    const ssize_t length = readlinkat(native.Folder(), native.Rest(), target.data(), target.size());
-    if (length < 0)
-        return {};
-    return TextFromUtf8(QByteArrayView(target.data(), length), NameBytes::Raw);
 }
 
 QList<FolderEntry> PosixFileSystem::List(const QString &folder, Lengths lengths)
@@ -173,21 +164,24 @@ std::unique_ptr<FolderReader> PosixFileSystem::Read(const QString &folder, Lengt
 
 std::optional<Failure> PosixFileSystem::TryMakeFolder(const QString &path)
 {
-    const NativePath native{QStringView(path)};
+    const NativePath native = held.PathOf(path);
     if (native.Problem())
         return Failure(*native.Problem());
     if (mkdirat(native.Folder(), native.Rest(), S_IRWXU | S_IRWXG | S_IRWXO) != 0)
         return Failure(NumberOfError(errno));
+    held.Forget(path);
     return {};
 }
 
 std::optional<Failure> PosixFileSystem::TryRemoveFolder(const QString &path)
 {
-    const NativePath native{QStringView(path)};
+    const NativePath native = held.PathOf(path);
     if (native.Problem())
         return Failure(*native.Problem());
-    if (unlinkat(native.Folder(), native.Rest(), AT_REMOVEDIR) == 0)
+    if (unlinkat(native.Folder(), native.Rest(), AT_REMOVEDIR) == 0) {
+        held.Forget(path);
         return {};
+    }
     if (errno == ENOTDIR && Status(path, Links::Keep))
         return Failure(FailureNumber::PathFileAccessError);
     return Failure(NumberOfError(errno));
@@ -195,7 +189,7 @@ std::optional<Failure> PosixFileSystem::TryRemoveFolder(const QString &path)
 
 void PosixFileSystem::RemoveFile(const QString &path)
 {
-    const NativePath native{QStringView(path)};
+    const NativePath native = held.PathOf(path);
     native.Demand();
     if (unlinkat(native.Folder(), native.Rest(), 0) != 0)
         ThrowFileError(errno, native);
@@ -203,23 +197,28 @@ void PosixFileSystem::RemoveFile(const QString &path)
 
 void PosixFileSystem::Rename(const QString &from, const QString &to)
 {
-    const NativePath source{QStringView(from)};
+    const NativePath source = held.PathOf(from);
     source.Demand();
-    const NativePath target{QStringView(to)};
+    const NativePath target = held.PathOf(to);
     target.Demand();
     if (to.endsWith(Separator()))
         throw Failure(FailureNumber::BadFileName);
     RenameWithoutOverwriting(source, target);
+    held.Forget(from);
+    held.Forget(to);
 }
 
 std::unique_ptr<OpenFile> PosixFileSystem::Open(const QString &path, OpenFor purpose, Sharing sharing)
 {
-    const NativePath native{QStringView(path)};
+    const NativePath native = held.PathOf(path);
     native.Demand();
     // O_NONBLOCK, since a pipe without another end would hold the program up for ever.
     constexpr mode_t newFile = S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
-    Descriptor file(openat(native.Folder(), native.Rest(),
-                           FlagsFor(purpose) | O_NONBLOCK | O_NOCTTY | O_CLOEXEC, newFile));
+    Descriptor file(Retried([&] {
+        return openat(native.Folder(), native.Rest(),
+                      FlagsFor(purpose) | native.FlagAgainstLinks() | O_NONBLOCK | O_NOCTTY | O_CLOEXEC,
+                      newFile);
+    }));
     if (!file.IsOpen() && errno == EEXIST)
         throw Failure(FailureNumber::FileAlreadyExists);
     if (!file.IsOpen())
@@ -227,13 +226,14 @@ std::unique_ptr<OpenFile> PosixFileSystem::Open(const QString &path, OpenFor pur
     struct stat status = {};
     if (fstat(file.Number(), &status) != 0)
         throw Failure(NumberOfError(errno));
-    if (S_ISDIR(status.st_mode))
+    const bool isTaken = purpose == OpenFor::Streaming ? !S_ISDIR(status.st_mode) : S_ISREG(status.st_mode);
+    if (!isTaken)
         throw Failure(FailureNumber::PathFileAccessError);
     WaitForData(file);
     if (sharing == Sharing::Exclusive)
         LockAlone(file);
     // Emptied only now: a file that another holds stays whole.
-    if (purpose == OpenFor::Writing && S_ISREG(status.st_mode) && ftruncate(file.Number(), 0) != 0)
+    if (purpose == OpenFor::Writing && Retried([&] { return ftruncate(file.Number(), 0); }) != 0)
         throw Failure(NumberOfError(errno));
     if (purpose == OpenFor::Appending)
         lseek(file.Number(), 0, SEEK_END);
@@ -242,12 +242,36 @@ std::unique_ptr<OpenFile> PosixFileSystem::Open(const QString &path, OpenFor pur
 
 std::unique_ptr<ReplacingFile> PosixFileSystem::Replace(const QString &path, IfThere ifThere)
 {
-    return std::make_unique<PosixReplacingFile>(NativePath(path), ifThere);
+    return std::make_unique<PosixReplacingFile>(held.PathOf(path), ifThere);
+}
+
+QString PosixFileSystem::LinkTarget(const QString &path)
+{
+    const NativePath native = held.PathOf(path);
+    native.Demand();
+    std::array<char, PATH_MAX> target{};
+    const ssize_t length = readlinkat(native.Folder(), native.Rest(), target.data(), target.size());
+    if (length < 0 && errno == EINVAL)
+        throw Failure(FailureNumber::PathFileAccessError);
+    if (length < 0)
+        ThrowFileError(errno, native);
+    return *TextFromUtf8({target.data(), length}, NameBytes::Raw);
+}
+
+void PosixFileSystem::MakeLink(const QString &path, const QString &target)
+{
+    const NativePath native = held.PathOf(path);
+    native.Demand();
+    const NativePath named{QStringView(target)};
+    named.Demand();
+    if (symlinkat(named.Bytes().toByteArray().constData(), native.Folder(), native.Rest()) == 0)
+        return;
+    throw Failure(errno == EEXIST ? FailureNumber::FileAlreadyExists : NumberOfError(errno));
 }
 
 void PosixFileSystem::SetReadOnly(const QString &path, bool readOnly)
 {
-    const NativePath native{QStringView(path)};
+    const NativePath native = held.PathOf(path);
     native.Demand();
     struct stat status = {};
     if (fstatat(native.Folder(), native.Rest(), &status, AT_SYMLINK_NOFOLLOW) != 0)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "machine/FileSystem.h"
+#include "machine/posix/HeldFolders.h"
 #include "machine/posix/MountedVolumes.h"
 
 namespace tressel {
@@ -12,8 +13,8 @@ namespace tressel {
 class PosixFileSystem : public FileSystem {
 public:
     QChar Separator() const override { return u'/'; }
+    std::unique_ptr<FolderHold> Hold(const QString &folder) override { return held.Hold(folder); }
     std::optional<FileStatus> Status(const QString &path, Links links) override;
-    std::optional<QString> LinkTarget(const QString &path) override;
     QList<FolderEntry> List(const QString &folder, Lengths lengths = Lengths::LeftOut) override;
     std::unique_ptr<FolderReader> Read(const QString &folder, Lengths lengths = Lengths::LeftOut) override;
     std::optional<Failure> TryMakeFolder(const QString &path) override;
@@ -24,12 +25,17 @@ public:
     std::unique_ptr<OpenFile> Open(const QString &path, OpenFor purpose,
                                    Sharing sharing = Sharing::Shared) override;
     std::unique_ptr<ReplacingFile> Replace(const QString &path, IfThere ifThere) override;
+    QString LinkTarget(const QString &path) override;
+    void MakeLink(const QString &path, const QString &target) override;
     void SetReadOnly(const QString &path, bool readOnly) override;
     QList<Volume> Volumes() override { return volumes.All(); }
     QString VolumeLabel(const QString &path) override;
     qint64 FreeSpace(const QString &path) override;
 
 private:
+    Descriptor OpenFolder(const QString &folder) const;
+
+    HeldFolders held;
     MountedVolumes volumes;
 };
 

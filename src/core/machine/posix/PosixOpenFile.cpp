@@ -3,10 +3,12 @@
 
 #include "machine/posix/PosixOpenFile.h"
 
+#include "machine/posix/FileRights.h"
 #include "machine/posix/Retried.h"
 #include "machine/posix/SystemError.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <new>
 #include <sys/stat.h>
@@ -48,18 +50,23 @@ QByteArray PosixOpenFile::Read(qint64 maximum)
     if (maximum < 0)
         throw Failure(FailureNumber::InvalidProcedureCall);
     QByteArray bytes = Room(RoomFor(maximum));
-    qsizetype got = 0;
-    while (got < bytes.size()) {
-        const ssize_t piece = Retried(
-            [&] { return read(file.Number(), bytes.data() + got, static_cast<size_t>(bytes.size() - got)); });
+    bytes.truncate(ReadInto({bytes.data(), static_cast<size_t>(bytes.size())}));
+    return bytes;
+}
+
+qint64 PosixOpenFile::ReadInto(std::span<char> room)
+{
+    size_t got = 0;
+    while (got < room.size()) {
+        const ssize_t piece =
+            Retried([&] { return read(file.Number(), room.data() + got, room.size() - got); });
         if (piece < 0)
             ThrowError();
         if (piece == 0)
             break;
-        got += piece;
+        got += static_cast<size_t>(piece);
     }
-    bytes.truncate(got);
-    return bytes;
+    return static_cast<qint64>(got);
 }
 
 void PosixOpenFile::Write(const QByteArray &bytes)
@@ -116,6 +123,16 @@ void PosixOpenFile::Close()
         return;
     // An interrupted close has closed the file all the same.
     if (close(file.Release()) != 0 && errno != EINTR)
+        ThrowError();
+}
+
+void PosixOpenFile::TakeAttributesOf(const OpenFile &other)
+{
+    const auto &from = dynamic_cast<const PosixOpenFile &>(other);
+    const FileRights rights(from.Number());
+    rights.GiveTo(file.Number());
+    const std::array<timespec, 2> times{rights.Status().st_atim, rights.Status().st_mtim};
+    if (futimens(file.Number(), times.data()) != 0)
         ThrowError();
 }
 

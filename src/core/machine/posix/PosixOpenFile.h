@@ -17,12 +17,14 @@ public:
     }
 
     QByteArray Read(qint64 maximum) override;
+    qint64 ReadInto(std::span<char> room) override;
     void Write(const QByteArray &bytes) override;
     qint64 Position() const override;
     void Seek(qint64 position) override;
     qint64 Length() const override;
     void Flush() override;
     void Close() override;
+    void TakeAttributesOf(const OpenFile &other) override;
 
     /// What the system knows it by, -1 once it is closed.
     int Number() const { return file.Number(); }

@@ -101,7 +101,8 @@ void PosixReplacingFile::OpenOld(const NativePath &path)
     }
     const auto open = [&](int flags) {
         return Descriptor(Retried([&] {
-            return openat(path.Folder(), path.Rest(), flags | O_NONBLOCK | O_NOCTTY | O_CLOEXEC, rightsOfNew);
+            return openat(path.Folder(), path.Rest(),
+                          flags | path.FlagAgainstLinks() | O_NONBLOCK | O_NOCTTY | O_CLOEXEC, rightsOfNew);
         }));
     };
     Descriptor file = open(O_RDWR);
@@ -124,13 +125,16 @@ void PosixReplacingFile::OpenOld(const NativePath &path)
 void PosixReplacingFile::FindPlace(const NativePath &path)
 {
     name = path.Name().toByteArray();
-    OpenFolder(path.Above().isEmpty() ? QByteArray(".") : path.Above().toByteArray());
+    if (path.IsHeld())
+        OpenFolder(path.Folder(), ".");
+    else
+        OpenFolder(NativePath(path.Above().isEmpty() ? QByteArrayView(".") : path.Above()));
     if (!old || IsPlaceOfOld())
         return;
     // The path ends in a link.
     const QByteArray end = PathOf(old->Number());
     name = end.sliced(end.lastIndexOf('/') + 1);
-    OpenFolder(end.left(std::max<qsizetype>(1, end.lastIndexOf('/'))));
+    OpenFolder(NativePath(QByteArrayView(end).first(std::max<qsizetype>(0, end.lastIndexOf('/')))));
     if (end.isEmpty() || !IsPlaceOfOld()) {
         folder = Descriptor();
         madeOld = false;
@@ -144,13 +148,18 @@ bool PosixReplacingFile::IsPlaceOfOld() const
         && IsSameFile(status, oldRights->Status());
 }
 
-void PosixReplacingFile::OpenFolder(const QByteArray &path)
+void PosixReplacingFile::OpenFolder(const NativePath &path)
 {
-    const NativePath native{QByteArrayView(path)};
+    if (!path.Problem())
+        OpenFolder(path.Folder(), path.Rest());
+    else if (!old)
+        path.Demand();
+}
+
+void PosixReplacingFile::OpenFolder(int from, const char *path)
+{
     const auto open = [&](int flags) {
-        return Descriptor(native.Problem() ? -1 : Retried([&] {
-            return openat(native.Folder(), native.Rest(), flags | O_DIRECTORY | O_CLOEXEC);
-        }));
+        return Descriptor(Retried([&] { return openat(from, path, flags | O_DIRECTORY | O_CLOEXEC); }));
     };
     folder = open(O_RDONLY);
     folderCanSync = folder.IsOpen();
@@ -158,7 +167,7 @@ void PosixReplacingFile::OpenFolder(const QByteArray &path)
     if (!folder.IsOpen() && errno == EACCES)
         folder = open(O_PATH);
     if (!folder.IsOpen() && (!old || MeansFull(errno)))
-        throw Failure(native.Problem().value_or(NumberOfError(errno)));
+        ThrowError();
 }
 
 void PosixReplacingFile::MakeBeside(const QByteArray &wantedName)

@@ -38,7 +38,8 @@ private:
     void OpenOld(const NativePath &path);
     void FindPlace(const NativePath &path);
     bool IsPlaceOfOld() const;
-    void OpenFolder(const QByteArray &path);
+    void OpenFolder(const NativePath &path);
+    void OpenFolder(int from, const char *path);
     void MakeBeside(const QByteArray &wantedName);
     bool MayTakeName();
     bool TakesName();

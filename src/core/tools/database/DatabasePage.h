@@ -9,13 +9,26 @@
 #include "controls/Label.h"
 #include "controls/TextBox.h"
 #include "tools/ToolContext.h"
+#include "tools/database/DatabaseSchema.h"
+#include "tools/database/FieldLoading.h"
 
 namespace tressel {
+
+class FolderTree;
+class Steps;
 
 /// The page that takes the rows of a database table into the list.
 class DatabasePage {
 public:
-    explicit DatabasePage(const ToolContext &context);
+    DatabasePage(const ToolContext &context, FolderTree &tree);
+
+    /// Puts back what the settings hold, but for the dialog's folder, and opens the file that they name.
+    void Restore(Steps &steps);
+    /// Writes what Restore reads.
+    void Save();
+    /// Where the database dialog opens has a place of its own in the order of the settings.
+    void RestoreFolder(Steps &steps);
+    void SaveFolder();
 
     Frame page;
     Label lblDatabaseFile;
@@ -27,7 +40,23 @@ public:
     CheckListBox Fields; ///< ListBox(1)
     IsButton btnGBLoadList;
 
-    TextBox txtstrSQL; ///< no one sees or reads it; its text is kept from session to session
+    TextBox txtstrSQL; ///< no one sees or reads it
+
+    DatabaseSchema schema;
+    FieldLoading loading;
+
+    QString OpenDBPath; ///< where the dialog opens, kept from session to session
+    QString RecentFiles; ///< the files opened last, with "," between them
+
+private:
+    void btnGBOpenDatabase_Click();
+    void btnGBLoadList_Click();
+    QString GetMdbFileName(const QString &StartDir);
+    void SelectTable(const QString &file);
+
+    ToolContext context;
+    FolderTree &tree;
+    QString storedTable; ///< the place of a table in its list, as the settings had it at the start
 };
 
 } // namespace tressel

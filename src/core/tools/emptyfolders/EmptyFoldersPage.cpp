@@ -3,6 +3,8 @@
 
 #include "tools/emptyfolders/EmptyFoldersPage.h"
 
+#include "base/Steps.h"
+#include "settings/Settings.h"
 #include "tools/WorkArea.h"
 
 namespace tressel {
@@ -19,15 +21,36 @@ EmptyFoldersPage::EmptyFoldersPage(const ToolContext &context)
     , btnGBToolbarDelDir(context.form, u"btnGBToolbarDelDir"_s, u"Del current"_s)
     , btnGBToolbarDeleteAll(context.form, u"btnGBToolbarDeleteAll"_s, u"Delete All"_s)
     , btnGBToolbarCopy(context.form, u"btnGBToolbarCopy"_s, u"Clipboard"_s)
+    , settings(context.settings)
     , area(context.area)
+    // A drive that isn't ready is no one's to mend here.
+    , choice(DrvListRemove, DirListRemove, FolderChoice::Unready::Fails)
 {
-    // A drive that isn't ready is no one's to mend here: the failure leaves the event.
-    DrvListRemove.Change.Handle([this] { DirListRemove.SetPath(DrvListRemove.Drive()); });
+    PlaceIcons();
     btnGBToolbarSearch.SetEnabled(false);
     btnGBToolbarOpenDir.SetEnabled(false);
     btnGBToolbarDelDir.SetEnabled(false);
     btnGBToolbarDeleteAll.SetEnabled(false);
     btnGBToolbarCopy.SetEnabled(false);
+}
+
+void EmptyFoldersPage::PlaceIcons()
+{
+    btnGBToolbarSearch.PlaceIcon(Picture(u"search"_s));
+    btnGBToolbarOpenDir.PlaceIcon(Picture(u"open-folder"_s));
+    btnGBToolbarDelDir.PlaceIcon(Picture(u"delete-one"_s));
+    btnGBToolbarDeleteAll.PlaceIcon(Picture(u"delete-all"_s));
+    btnGBToolbarCopy.PlaceIcon(Picture(u"clipboard"_s));
+}
+
+void EmptyFoldersPage::Restore(Steps &steps)
+{
+    steps.Do([&] { choice.GoTo(settings.ReadText(keys::SearchPath)); });
+}
+
+void EmptyFoldersPage::Save()
+{
+    settings.Write(keys::SearchPath, DirListRemove.Path());
 }
 
 void EmptyFoldersPage::ResetFoundList()

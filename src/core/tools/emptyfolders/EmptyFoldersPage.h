@@ -8,9 +8,12 @@
 #include "controls/Frame.h"
 #include "controls/IsButton.h"
 #include "controls/ListBox.h"
+#include "tools/FolderChoice.h"
 #include "tools/ToolContext.h"
 
 namespace tressel {
+
+class Steps;
 
 /// The page that finds empty folders and removes them.
 class EmptyFoldersPage {
@@ -20,6 +23,10 @@ public:
     /// Nothing is found yet: empties the list, turns off the buttons that need one, and puts "Ready" into
     /// the status line.
     void ResetFoundList();
+    /// Goes to the folder that the settings hold.
+    void Restore(Steps &steps);
+    /// Writes what Restore reads.
+    void Save();
 
     Frame page;
     DriveList DrvListRemove;
@@ -32,7 +39,11 @@ public:
     IsButton btnGBToolbarCopy;
 
 private:
+    void PlaceIcons();
+
+    Settings &settings;
     WorkArea &area;
+    FolderChoice choice;
 };
 
 } // namespace tressel

@@ -6,6 +6,7 @@
 #include "base/Steps.h"
 #include "language/FolderPaths.h"
 #include "language/Session.h"
+#include "settings/Settings.h"
 #include "tools/WorkArea.h"
 #include "tools/folders/FolderListFile.h"
 #include "tools/folders/FolderTree.h"
@@ -19,16 +20,17 @@ BrowsePage::BrowsePage(const ToolContext &context, FolderTree &folderTree, Folde
     , DrvList(context.form, u"DrvList"_s, context.machine.files)
     , DirList(context.form, u"DirList"_s, context.machine.files)
     , FileList(context.form, u"FileList"_s, context.machine.files)
+    , settings(context.settings)
     , area(context.area)
     , tree(folderTree)
     , listFile(textFile)
     , session(context.session)
+    , choice(DrvList, DirList, FolderChoice::Unready::IsLeftAgain)
 {
     DrvList.SetToolTip(u" List of drivelist "_s);
     DirList.SetToolTip(u" List of dirlist "_s);
     FileList.SetToolTip(u" List of filelist "_s);
 
-    DrvList.Click.Handle([this] { DrvList_Click(); });
     DirList.Click.Handle([this] { DirList_Click(); });
     DirList.Change.Handle([this] { DirList_Change(); });
     FileList.DoubleClick.Handle([this] { FileList_DoubleClick(); });
@@ -46,11 +48,15 @@ void BrowsePage::LoadAllNames()
     listFile.SaveList();
 }
 
-void BrowsePage::DrvList_Click()
+void BrowsePage::Restore(Steps &steps)
 {
-    // A drive without a medium is left again.
-    Steps steps([this](const Failure &) { DrvList.SetDrive(DirList.Path()); });
-    steps.Do([&] { DirList.SetPath(DrvList.Drive()); });
+    steps.Do([&] { choice.GoTo(settings.ReadText(keys::LastDBPath)); });
+    steps.Do([&] { FileList.SetPath(DirList.Path()); });
+}
+
+void BrowsePage::Save()
+{
+    settings.Write(keys::LastDBPath, DirList.Path());
 }
 
 void BrowsePage::DirList_Click()

@@ -33,6 +33,7 @@ FolderCreation::FolderCreation(const ToolContext &context, FolderList &folderLis
 void FolderCreation::CreateFolders()
 {
     int index = 0;
+    const auto hold = files.Hold(session.DestinationPath);
     try {
         // The bound is taken once: a list that changes in the middle of a run doesn't move it.
         const int count = area.LstItem.ListCount();

@@ -9,6 +9,7 @@
 #include "language/Session.h"
 #include "machine/Dialogs.h"
 #include "machine/Events.h"
+#include "machine/Paths.h"
 #include "machine/TextFile.h"
 #include "machine/WholeFile.h"
 #include "settings/Settings.h"
@@ -74,7 +75,7 @@ void FolderListFile::LoadReportList()
         area.LstItem.Clear();
         session.ReportFile = settings.ReadText(keys::ReportFile);
         LineReader reader(files, session.ReportFile, NameBytes::Raw);
-        ReadLines(reader);
+        ReadLines(reader, [this](const QString &line) { return PathToEntry(files, line); });
         tree.FillFolderTree();
         // Kept: the caption quotes the list file, not the report that was read.
         TellLoaded();
@@ -113,21 +114,21 @@ void FolderListFile::BeginList()
 
 void FolderListFile::ReadList()
 {
-    LineReader reader(files, session.ListFile);
-    ReadLines(reader);
+    LineReader reader(files, session.ListFile, NameBytes::Escaped, largestList, purpose);
+    ReadLines(reader, [](const QString &line) { return line; });
     tree.RefreshFolderTree();
     TellLoaded();
     area.lblStatusLine.SetCaption(u"Finished"_s);
     events.SetBusyPointer(false);
 }
 
-void FolderListFile::ReadLines(LineReader &reader)
+void FolderListFile::ReadLines(LineReader &reader, const std::function<QString(const QString &)> &entryOf)
 {
     while (const auto line = reader.Next()) {
         events.LetEventsRun();
         // Only an extension of exactly three letters goes. A shorter line fails and ends the load.
         if (const auto entry = EntryOfLine(*line, area.chkExtension.IsChecked()))
-            area.LstItem.AddItem(*entry);
+            area.LstItem.AddItem(entryOf(*entry));
     }
     reader.Close();
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "base/Failure.h"
+#include "machine/FileSystem.h"
 #include "tools/ToolContext.h"
 
 #include <functional>
@@ -31,10 +32,14 @@ public:
     /// Writes the list to session.ListFile, in place of what was there. A failure leaves the old file whole.
     void SaveList();
 
+    /// How session.ListFile is opened: Streaming where somebody has just named it and waits for it.
+    OpenFor purpose = OpenFor::Reading;
+
 private:
     void BeginList();
     void ReadList();
-    void ReadLines(LineReader &reader);
+    /// `entryOf` makes the entry of a line.
+    void ReadLines(LineReader &reader, const std::function<QString(const QString &)> &entryOf);
     void TellLoaded();
     void Loading(const std::function<void()> &steps);
 

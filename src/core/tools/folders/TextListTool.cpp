@@ -3,9 +3,11 @@
 
 #include "tools/folders/TextListTool.h"
 
+#include "base/Steps.h"
 #include "language/Session.h"
 #include "machine/Dialogs.h"
 #include "machine/FileSystem.h"
+#include "settings/Settings.h"
 #include "tools/ClickSound.h"
 #include "tools/folders/FolderListFile.h"
 
@@ -31,10 +33,21 @@ TextListTool::TextListTool(const ToolContext &context, FolderListFile &textFile)
     , dialogs(context.machine.dialogs)
     , clickSound(context.clickSound)
     , listFile(textFile)
+    , settings(context.settings)
     , session(context.session)
 {
     btnGBLoadFile.Click.Handle([this] { btnGBLoadFile_Click(); });
     btnGBSaveFile.Click.Handle([this] { btnGBSaveFile_Click(); });
+}
+
+void TextListTool::Restore(Steps &steps)
+{
+    steps.Do([&] { OpenTXTPath = settings.ReadText(keys::OpenTXTPath); });
+}
+
+void TextListTool::Save()
+{
+    settings.Write(keys::OpenTXTPath, OpenTXTPath);
 }
 
 void TextListTool::btnGBLoadFile_Click()

@@ -10,11 +10,17 @@
 namespace tressel {
 
 class FolderListFile;
+class Steps;
 
 /// The two buttons with which the list is loaded from a text file and saved to one.
 class TextListTool {
 public:
     TextListTool(const ToolContext &context, FolderListFile &listFile);
+
+    /// Puts back where the two file dialogs open.
+    void Restore(Steps &steps);
+    /// Writes what Restore reads.
+    void Save();
 
     Label lblInfo;
     IsButton btnGBLoadFile;
@@ -31,6 +37,7 @@ private:
     Dialogs &dialogs;
     const ClickSound &clickSound;
     FolderListFile &listFile;
+    Settings &settings;
     Session &session;
 };
 

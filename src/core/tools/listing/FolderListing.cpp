@@ -118,6 +118,7 @@ void FolderListing::ListFolders(Guard &guard)
     StopListing = false;
     watch.Started(-1);
     TakeSource(guard);
+    const auto hold = files.Hold(ListSourcePath);
     StartReport(guard);
     StartProgress();
     EnableResult(false);

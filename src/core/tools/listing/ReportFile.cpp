@@ -41,7 +41,7 @@ void ReportFile::NextReportFile(const QString &source, const QStringList &header
         ReportFolder = OnDriveC(files, u"C:"_s);
 
     try {
-        RefuseLink();
+        const auto hold = files.Hold(ReportFolder);
         files.Open(Path(), OpenFor::Changing)->Close();
         ++ReportNumber;
         const auto writer = Create();
@@ -56,7 +56,7 @@ void ReportFile::NextReportFile(const QString &source, const QStringList &header
 
 std::unique_ptr<LineWriter> ReportFile::Create() const
 {
-    RefuseLink();
+    const auto hold = files.Hold(ReportFolder);
     try {
         return std::make_unique<LineWriter>(files, Path(), OpenFor::Writing, NameBytes::Raw);
     } catch (const Failure &failure) {
@@ -68,19 +68,11 @@ std::unique_ptr<LineWriter> ReportFile::Create() const
 
 std::unique_ptr<LineWriter> ReportFile::OpenToAppend() const
 {
-    RefuseLink();
+    const auto hold = files.Hold(ReportFolder);
     const QString path = Path();
     if (!FileExists(files, path))
         throw Failure(FailureNumber::FileNotFound);
     return std::make_unique<LineWriter>(files, path, OpenFor::Appending, NameBytes::Raw);
-}
-
-void ReportFile::RefuseLink() const
-{
-    // A link of that name leads to a file that isn't ours to empty.
-    const auto status = files.Status(Path(), Links::Keep);
-    if (status && status->kind == EntryKind::Link)
-        throw Failure(FailureNumber::PermissionDenied);
 }
 
 QString ReportFile::Name() const

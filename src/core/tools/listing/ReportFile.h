@@ -31,13 +31,13 @@ public:
     /// Then the number: 1 if the present number's file isn't there, else the next one, whose file is made.
     /// Any other failure leaves it at that.
     void NextReportFile(const QString &source, const QStringList &header);
-    /// Makes the file, or empties it. Fails with 70 where it may not be written.
+    /// Makes the file, or empties it. Fails with 70 where it may not be written, and for a link of its name,
+    /// which leads to a file that isn't ours to empty.
     std::unique_ptr<LineWriter> Create() const;
     /// Opens the file to write on at its end. Fails with 53 if it isn't there.
     std::unique_ptr<LineWriter> OpenToAppend() const;
 
 private:
-    void RefuseLink() const;
     QString Name() const;
 
     FileSystem &files;

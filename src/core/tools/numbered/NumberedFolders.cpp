@@ -45,6 +45,7 @@ void NumberedFolders::DeleteFolders()
 void NumberedFolders::ForEachTarget(NumberedRun run, const std::function<void(const QString &)> &act)
 {
     Steps steps([this](const Failure &failure) { watch.Failed(page.NumberedFolderPath, failure); });
+    const auto hold = files.Hold(page.NumberedFolderPath);
     steps.Do([&] {
         // Nothing that the names come from can change before the last one, since no event runs.
         NumberedSeries series = Series(run);

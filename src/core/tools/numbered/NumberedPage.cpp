@@ -36,6 +36,7 @@ NumberedPage::NumberedPage(const ToolContext &context, FolderList &DirList)
     , clickSound(context.clickSound)
     , files(context.machine.files)
     , settings(context.settings)
+    , choice(DrvBox, DirBox, FolderChoice::Unready::IsLeftAgain)
     , run(context, *this, DirList)
 {
     DrvBox.SetToolTip(u" Change to another drive "_s);
@@ -44,8 +45,8 @@ NumberedPage::NumberedPage(const ToolContext &context, FolderList &DirList)
     Chck_MakeDel.SetToolTip(u" Select Make or Delete Folder "_s);
     Chck_MakeDel_Click();
 
-    DrvBox.Change.Handle([this] { DrvBox_Change(); });
-    DirBox.Change.Handle([this] { DirBox_Change(); });
+    DirBox.Change.Handle([this] { TakeFolder(); });
+    choice.DriveChosen.Handle([this] { TakeFolder(); });
     Chck_MakeDel.Click.Handle([this] { Chck_MakeDel_Click(); });
     btnGBMake.Click.Handle([this] { btnGBMake_Click(); });
     btnGBDelete.Click.Handle([this] { btnGBDelete_Click(); });
@@ -72,10 +73,10 @@ void NumberedPage::Restore(Steps &steps)
     steps.Do([&] { txtFeltDir.SetText(settings.ReadText(keys::Folder)); });
     steps.Do([&] { txtFeltDirSub.SetText(settings.ReadText(keys::SubFolder)); });
     steps.Do([&] { NumberedFolderPath = OnDriveC(files, settings.ReadText(keys::LastNumPath)); });
-    if (!steps.Pending()) {
-        steps.Do([&] { DirBox.SetPath(NumberedFolderPath); });
-        steps.Do([&] { DrvBox.SetDrive(DirBox.Path()); });
-    }
+    if (!steps.Pending())
+        steps.Do([&] { choice.GoTo(NumberedFolderPath); });
+    else
+        choice.ShowPresent();
     steps.Clear();
 }
 
@@ -89,20 +90,9 @@ void NumberedPage::Save(Steps &steps)
     steps.Do([&] { settings.Write(keys::LastNumPath, NumberedFolderPath); });
 }
 
-void NumberedPage::DrvBox_Change()
-{
-    // A drive that follows the folder list must not send it back to the drive's root.
-    if (DriveOf(files, DirBox.Path()) == DrvBox.Drive())
-        return;
-    // A drive without a medium is left again.
-    Steps steps([this](const Failure &) { DrvBox.SetDrive(DirBox.Path()); });
-    steps.Do([&] { DirBox.SetPath(DrvBox.Drive()); });
-}
-
-void NumberedPage::DirBox_Change()
+void NumberedPage::TakeFolder()
 {
     NumberedFolderPath = DirBox.Path();
-    DrvBox.SetDrive(NumberedFolderPath);
 }
 
 void NumberedPage::Chck_MakeDel_Click()

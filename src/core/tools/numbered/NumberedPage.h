@@ -11,6 +11,7 @@
 #include "controls/IsButton.h"
 #include "controls/Label.h"
 #include "controls/TextBox.h"
+#include "tools/FolderChoice.h"
 #include "tools/numbered/NumberedFolders.h"
 
 namespace tressel {
@@ -48,8 +49,7 @@ public:
     QString NumberedFolderPath; ///< the folder of the series, which follows DirBox
 
 private:
-    void DrvBox_Change();
-    void DirBox_Change();
+    void TakeFolder();
     void Chck_MakeDel_Click();
     void btnGBMake_Click();
     void btnGBDelete_Click();
@@ -57,6 +57,7 @@ private:
     const ClickSound &clickSound;
     FileSystem &files;
     Settings &settings;
+    FolderChoice choice;
     NumberedFolders run;
 };
 

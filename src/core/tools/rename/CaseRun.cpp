@@ -3,7 +3,6 @@
 
 #include "tools/rename/CaseRun.h"
 
-#include "machine/Events.h"
 #include "tools/rename/RenameFolder.h"
 #include "tools/rename/RenameFrame.h"
 #include "tools/rename/RenamePage.h"
@@ -52,8 +51,7 @@ void CaseRun::RenameEntries()
     frame.StartProgress(count);
     const CaseRule rule = Rule();
     for (const QString &name : names) {
-        context.machine.events.LetEventsRun();
-        frame.StepProgress();
+        frame.ComeTo(folder, name);
         // Both renames also where the name doesn't change.
         const QString newName = CasedName(name, rule);
         frame.RenameToDetour(folder, name, newName);

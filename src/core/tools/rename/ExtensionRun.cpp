@@ -4,7 +4,6 @@
 #include "tools/rename/ExtensionRun.h"
 
 #include "base/Failure.h"
-#include "machine/Events.h"
 #include "tools/RunWatch.h"
 #include "tools/rename/RenameFolder.h"
 #include "tools/rename/RenameFrame.h"
@@ -67,8 +66,7 @@ void ExtensionRun::ChangeExtensions()
     if (!fields)
         return;
     for (const QString &name : folder.Files()) {
-        context.machine.events.LetEventsRun();
-        frame.StepProgress();
+        frame.ComeTo(folder, name);
         if (!fields->from || HasExtension(name, *fields->from))
             ChangeExtension(folder, name, fields->to);
         else

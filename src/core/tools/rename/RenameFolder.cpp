@@ -11,6 +11,7 @@ namespace tressel {
 RenameFolder::RenameFolder(FileSystem &fileSystem, const QString &folder)
     : files(fileSystem)
     , base(WithSeparator(files, folder))
+    , hold(files.Hold(folder))
 {
     for (const FolderEntry &entry : files.List(folder)) {
         const bool isFolder = entry.kind == EntryKind::Folder
@@ -18,6 +19,8 @@ RenameFolder::RenameFolder(FileSystem &fileSystem, const QString &folder)
         (isFolder ? folders : others) += entry.name;
     }
 }
+
+RenameFolder::~RenameFolder() = default;
 
 void RenameFolder::Rename(const QString &name, const QString &newName)
 {
@@ -28,6 +31,16 @@ bool RenameFolder::HasFile(const QString &name)
 {
     const QString place = PathOf(name);
     return files.Status(place, Links::Keep) && !FolderExists(files, place);
+}
+
+bool RenameFolder::TellsCaseApart()
+{
+    for (const QString &name : folders + others) {
+        const QString otherCase = name.toUpper() == name ? name.toLower() : name.toUpper();
+        if (otherCase != name && !folders.contains(otherCase) && !others.contains(otherCase))
+            return !files.Status(PathOf(otherCase), Links::Keep);
+    }
+    return true;
 }
 
 QString RenameFolder::PathOf(const QString &name) const

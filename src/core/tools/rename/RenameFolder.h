@@ -6,16 +6,22 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
+
 namespace tressel {
 
 class FileSystem;
+class FolderHold;
 
 /// A folder whose direct children are renamed. What it holds is looked at once, when this is made; what
-/// comes, goes or gets other names afterwards isn't noted.
+/// comes, goes or gets other names afterwards isn't noted. The folder is held as long as this lives.
 class RenameFolder {
 public:
     /// Fails as FileSystem::List does.
     RenameFolder(FileSystem &files, const QString &path);
+    ~RenameFolder();
+    RenameFolder(const RenameFolder &) = delete;
+    RenameFolder &operator=(const RenameFolder &) = delete;
 
     /// Names of the folders in it, and of the links that lead to folders.
     const QStringList &Folders() const { return folders; }
@@ -27,12 +33,16 @@ public:
     void Rename(const QString &name, const QString &newName);
     /// True if there is something of that name now that isn't a folder, nor a link to one.
     bool HasFile(const QString &name);
+    /// Whether "a" and "A" are two names here, as far as the names that are there can tell: if none of them
+    /// has letters, it says yes.
+    bool TellsCaseApart();
     /// The whole path of an entry.
     QString PathOf(const QString &name) const;
 
 private:
     FileSystem &files;
     QString base; ///< of the paths of all entries: the folder with the separator at its end
+    std::unique_ptr<FolderHold> hold;
     QStringList folders;
     QStringList others;
 };

@@ -8,6 +8,7 @@
 #include "base/Steps.h"
 #include "base/Text.h"
 #include "language/Routines.h"
+#include "machine/Events.h"
 #include "settings/Settings.h"
 #include "tools/ClickSound.h"
 #include "tools/RunWatch.h"
@@ -199,9 +200,16 @@ void RenameFrame::StartProgress(std::int16_t count)
     context.watch.Started(count);
 }
 
-void RenameFrame::RenameToDetour(RenameFolder &folder, const QString &name, const QString &newName)
+void RenameFrame::ComeTo(const RenameFolder &folder, const QString &name)
 {
     underWay = folder.PathOf(name);
+    context.watch.Next(underWay);
+    context.machine.events.LetEventsRun();
+    StepProgress();
+}
+
+void RenameFrame::RenameToDetour(RenameFolder &folder, const QString &name, const QString &newName)
+{
     folder.Rename(name, newName + detourMark);
 }
 

@@ -55,6 +55,8 @@ public:
     bool HasEntries(std::int16_t count);
     /// Range and value of the bar for a run over so many entries.
     void StartProgress(std::int16_t count);
+    /// For each entry before it is touched: lets pending events run and steps the progress.
+    void ComeTo(const RenameFolder &folder, const QString &name);
     /// The first and the second of the two renames that an entry goes through, by way of the new name with a
     /// "_" behind it: so a change of case alone reaches every file system. A failure of the second one leaves
     /// the entry under that name.

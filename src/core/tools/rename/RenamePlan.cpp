@@ -39,72 +39,83 @@ std::optional<NameProblem> ProblemOf(const QString &name, QChar separator)
     return {};
 }
 
+/// Who has to do with one name.
+struct NamePlace {
+    const QString *present = nullptr; ///< the entry that has it
+    qsizetype leaver = -1; ///< the change by which the entry leaves it
+    qsizetype taker = -1; ///< the first change to it
+};
+
+/// Its arguments must outlive it: the keys of names are views of them.
 class Planner {
 public:
-    Planner(const QStringList &presentNames, const QList<NameChange> &wanted, const NameRules &nameRules)
+    Planner(const QStringList &present, const QList<NameChange> &wanted, const NameRules &nameRules)
         : rules(nameRules)
+        , changes(wanted)
+        , holders(wanted.size(), -1)
     {
-        for (const NameChange &change : wanted) {
-            if (change.from != change.to)
-                changes.append(change);
+        places.reserve(present.size() + wanted.size());
+        for (const QString &name : present)
+            places[Key(name)].present = &name;
+        for (qsizetype index = 0; index < changes.size(); ++index) {
+            if (IsChange(index))
+                places[Key(changes.at(index).from)].leaver = index;
         }
-        present.reserve(presentNames.size());
-        for (const QString &name : presentNames)
-            present.insert(Key(name), name);
-        changing.reserve(changes.size());
-        for (qsizetype index = 0; index < changes.size(); ++index)
-            changing.insert(Key(changes.at(index).from), index);
     }
 
     RenamePlan Plan()
     {
-        CheckNames();
+        for (qsizetype index = 0; index < changes.size(); ++index) {
+            if (IsChange(index))
+                Check(index);
+        }
         if (plan.refused.isEmpty())
             OrderSteps();
         return std::move(plan);
     }
 
 private:
-    QString Key(const QString &name) const { return rules.withCase ? name : name.toCaseFolded(); }
-    void CheckNames();
-    void CheckPlace(const NameChange &change);
+    bool IsChange(qsizetype index) const { return changes.at(index).from != changes.at(index).to; }
+    QStringView Key(const QString &name);
+    void Check(qsizetype index);
     void OrderSteps();
     void OrderChain(qsizetype first);
-    qsizetype HolderOf(qsizetype index) const;
-    QString FreeName() const;
+    QString FreeName();
 
     NameRules rules;
-    QList<NameChange> changes;
-    QHash<QString, QString> present; ///< names by their keys
-    QHash<QString, qsizetype> changing; ///< indices of changes by the keys of the names that they leave
-    QHash<QString, QString> targets; ///< by the keys of the new names: who is to get it first
+    const QList<NameChange> &changes;
+    QStringList folded; ///< what keys are views of where names are told apart without case
+    QHash<QStringView, NamePlace> places;
+    QList<qsizetype> holders; ///< for each change, which other one leaves its new name; -1 for none
     QList<bool> ordered; ///< changes whose steps stand in the plan
     RenamePlan plan;
 };
 
-void Planner::CheckNames()
+QStringView Planner::Key(const QString &name)
 {
-    targets.reserve(changes.size());
-    for (const NameChange &change : std::as_const(changes)) {
-        if (const auto problem = ProblemOf(change.to, rules.separator))
-            plan.refused.append({change, *problem, {}});
-        else
-            CheckPlace(change);
-    }
+    if (rules.withCase)
+        return name;
+    folded.append(name.toCaseFolded());
+    return folded.constLast();
 }
 
-void Planner::CheckPlace(const NameChange &change)
+void Planner::Check(qsizetype index)
 {
-    const QString key = Key(change.to);
-    const auto first = targets.constFind(key);
-    if (first != targets.constEnd()) {
-        plan.refused.append({change, NameProblem::Meets, *first});
+    const NameChange &change = changes.at(index);
+    if (const auto problem = ProblemOf(change.to, rules.separator)) {
+        plan.refused.append({change, *problem, {}});
         return;
     }
-    targets.insert(key, change.from);
-    const auto holder = present.constFind(key);
-    if (holder != present.constEnd() && !changing.contains(key))
-        plan.refused.append({change, NameProblem::Taken, *holder});
+    NamePlace &place = places[Key(change.to)];
+    if (place.taker >= 0) {
+        plan.refused.append({change, NameProblem::Meets, changes.at(place.taker).from});
+        return;
+    }
+    place.taker = index;
+    if (place.leaver != index)
+        holders[index] = place.leaver;
+    if (place.present && place.leaver < 0)
+        plan.refused.append({change, NameProblem::Taken, *place.present});
 }
 
 void Planner::OrderSteps()
@@ -112,29 +123,21 @@ void Planner::OrderSteps()
     plan.steps.reserve(changes.size());
     ordered.resize(changes.size());
     for (qsizetype index = 0; index < changes.size(); ++index) {
-        if (!ordered.at(index))
+        if (IsChange(index) && !ordered.at(index))
             OrderChain(index);
     }
-}
-
-/// Who has the name that a change wants and is to leave it; -1 for nobody but itself.
-qsizetype Planner::HolderOf(qsizetype index) const
-{
-    const qsizetype holder = changing.value(Key(changes.at(index).to), -1);
-    return holder == index ? -1 : holder;
 }
 
 void Planner::OrderChain(qsizetype first)
 {
     // No name is wanted twice, so what begins here ends somewhere or comes back to its beginning.
-    QList<qsizetype> chain{first};
-    qsizetype holder = HolderOf(first);
-    for (; holder >= 0 && holder != first && !ordered.at(holder); holder = HolderOf(holder))
-        chain.append(holder);
-    for (const qsizetype index : std::as_const(chain))
-        ordered[index] = true;
-
-    const QString aside = holder == first ? FreeName() : QString();
+    QList<qsizetype> chain;
+    qsizetype next = first;
+    for (; next >= 0 && !ordered.at(next); next = holders.at(next)) {
+        ordered[next] = true;
+        chain.append(next);
+    }
+    const QString aside = next == first ? FreeName() : QString();
     if (!aside.isNull())
         plan.steps.append({{changes.at(first).from, aside}, true});
     for (qsizetype last = chain.size() - 1; last > 0; --last)
@@ -142,11 +145,11 @@ void Planner::OrderChain(qsizetype first)
     plan.steps.append({aside.isNull() ? changes.at(first) : NameChange{aside, changes.at(first).to}, false});
 }
 
-QString Planner::FreeName() const
+QString Planner::FreeName()
 {
     for (int number = 1;; ++number) {
         const QString name = u".rename-%1.tmp"_s.arg(number);
-        if (!present.contains(Key(name)) && !targets.contains(Key(name)))
+        if (!places.contains(Key(name)))
             return name;
     }
 }

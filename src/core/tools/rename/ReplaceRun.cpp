@@ -4,7 +4,6 @@
 #include "tools/rename/ReplaceRun.h"
 
 #include "base/Failure.h"
-#include "machine/Events.h"
 #include "tools/rename/RenameFolder.h"
 #include "tools/rename/RenameFrame.h"
 #include "tools/rename/RenamePage.h"
@@ -66,8 +65,7 @@ void ReplaceRun::ReplaceInEntries()
         throw Failure(illegalTo);
     frame.StartProgress(count);
     for (const QString &name : names) {
-        context.machine.events.LetEventsRun();
-        frame.StepProgress();
+        frame.ComeTo(folder, name);
         // Both renames also where the name doesn't change. A name that comes out empty stays at the first.
         const QString newName = ReplacedName(name, from, to);
         frame.RenameToDetour(folder, name, newName);

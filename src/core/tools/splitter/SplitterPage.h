@@ -12,10 +12,13 @@
 #include "controls/OptionGroup.h"
 #include "controls/TextBox.h"
 #include "tools/ToolContext.h"
+#include "tools/splitter/PartFiles.h"
 
 #include <array>
 
 namespace tressel {
+
+class Steps;
 
 /// The page that cuts a file into parts and joins them again.
 class SplitterPage {
@@ -55,8 +58,32 @@ public:
     IsButton btnGBSplitFile;
     IsButton btnGBJoinFile;
 
+    /// A path of the page, in the current folder if it is no whole one.
+    QString Whole(const QString &path) const;
+    /// Opens and shuts the two buttons by what there is to split and to join, then UpdateEstimates.
+    void cboFileName_Click();
+    /// Shows what a cut would give, and opens or shuts btnGBSplitFile. Never fails.
+    void UpdateEstimates();
+
 private:
+    void TieEvents();
     void optSplit_Click();
+    void cboFileName_KeyDown(int &key);
+    void btnBrowse_Click();
+    void btnGBSplitFile_Click();
+    void btnGBJoinFile_Click();
+
+    void AddChosen(const QString &folder, const QString &name);
+    void EstimateBySize(Steps &steps, std::int32_t length);
+    void EstimateByCount(Steps &steps, std::int32_t length);
+    bool HasValidCut();
+    std::int32_t ChunkSize() const;
+    void SplitQueue();
+    void SplitFile();
+    void ShowReadError(const QString &text);
+
+    ToolContext context;
+    LeftOpen leftOpen;
 };
 
 } // namespace tressel

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
+#include "widgets/SystemColours.h"
 #include "widgets/looks/Look.h"
 
 #include <array>
@@ -33,6 +34,18 @@ QColor Rgb(QRgb number)
     return QColor::fromRgb(number);
 }
 
+/// Disabled, the face is the desktop's own: on a dark desktop a light one would draw the eye.
+RoundedColours DisabledColours(const QColor &face)
+{
+    return {WithContrast(ShiftColor(face, -32), {face}),
+            face,
+            face,
+            {face, face},
+            {face, face, face},
+            {face, face},
+            {face, face}};
+}
+
 RoundedColours FixedColours(LookState state)
 {
     if (state == LookState::Pressed)
@@ -43,14 +56,6 @@ RoundedColours FixedColours(LookState state)
                 {Rgb(0xF2F1EE), Rgb(0xE4E3DC), Rgb(0xE4E3DC)},
                 {Rgb(0xE3E2DB), Rgb(0xE4E3DC)},
                 {Rgb(0xDAD8CE), Rgb(0xE3E2DB)}};
-    if (state == LookState::Disabled)
-        return {Rgb(0xD6D0C5),
-                Rgb(0xF5F4F2),
-                Rgb(0xF5F4F2),
-                {Rgb(0xF5F4F2), Rgb(0xF5F4F2)},
-                {Rgb(0xF5F4F2), Rgb(0xF5F4F2), Rgb(0xF5F4F2)},
-                {Rgb(0xF5F4F2), Rgb(0xF5F4F2)},
-                {Rgb(0xF5F4F2), Rgb(0xF5F4F2)}};
     return {Rgb(0x003C74),
             Rgb(0xFCFCFB),
             Rgb(0xF0F0EA),
@@ -80,6 +85,13 @@ RoundedColours CustomColours(const FaceToDraw &face)
             {ShiftColor(back, -37), ShiftColor(back, -21), ShiftColor(back, -8)},
             {ShiftColor(back, -32), ShiftColor(back, -15)},
             {ShiftColor(back, -5), ShiftColor(back, 5)}};
+}
+
+RoundedColours ColoursOf(const FaceToDraw &face)
+{
+    if (face.state == LookState::Disabled)
+        return DisabledColours(face.back);
+    return face.custom ? CustomColours(face) : FixedColours(face.state);
 }
 
 std::optional<RingColours> RingOf(const FaceToDraw &face)
@@ -133,25 +145,27 @@ class BlueRounded : public Look {
 public:
     bool DrawFace(Canvas &canvas, const FaceToDraw &face) const override
     {
-        const RoundedColours colours = face.custom ? CustomColours(face) : FixedColours(face.state);
+        const RoundedColours colours = ColoursOf(face);
         const int w = canvas.Width();
         const int h = canvas.Height();
         canvas.GradientFill(colours.faceTop, colours.faceBottom, 0, -1, w - 1, h);
         DrawInnerLines(canvas, colours);
         if (const std::optional<RingColours> ring = RingOf(face))
             DrawRing(canvas, *ring);
-        canvas.RoundFrame(0, 0, w - 1, h - 1, cornerRadius, colours.frame);
-        canvas.RoundCorners(cornerRadius);
+        canvas.RoundFrame(0, 0, w - 1, h - 1, CornerRadius(), colours.frame);
+        canvas.RoundCorners(CornerRadius());
         return true;
     }
     int Margin() const override { return 5; }
     QRegion Shape(QSize size) const override { return ClippedShape(size); }
-    bool HasLightFace(const FaceToDraw &face) const override { return !face.custom; }
+    bool HasLightFace(const FaceToDraw &face) const override
+    {
+        return !face.custom && face.state != LookState::Disabled;
+    }
+    qreal CornerRadius() const override { return 3; }
     /// The ring of a hovered button takes the place of the focused one's.
     bool ShowsFocus(const FaceToDraw &face) const override { return face.state == LookState::Normal; }
-
-private:
-    static constexpr qreal cornerRadius = 3;
+    int FocusInset(const FaceToDraw &face) const override { return face.state == LookState::Hover ? 3 : 2; }
 };
 
 } // namespace

@@ -5,9 +5,11 @@
 
 #include "widgets/SystemColours.h"
 
+#include <QLinearGradient>
 #include <QPainterPath>
 
 #include <algorithm>
+#include <cmath>
 
 namespace tressel {
 
@@ -85,33 +87,43 @@ void Canvas::FrameBox(int x, int y, int w, int h, const QColor &colour)
     DrawLine(x + w, y, x + w, y + h, colour);
 }
 
-void Canvas::DrawEdgeBox(int x, int y, int w, int h, Edge edge, const QPalette &palette)
+void Canvas::DrawEdgeBox(int x, int y, int w, int h, Edge edge, const QPalette &palette, const QColor &face)
 {
-    constexpr auto light = static_cast<SystemColour>(22);
-    constexpr auto brightest = static_cast<SystemColour>(20);
-    constexpr auto darkest = static_cast<SystemColour>(21);
-    const auto drawRing = [&](int inset, SystemColour topLeft, SystemColour bottomRight) {
+    const auto system = [&](int number) { return ColourOf(static_cast<SystemColour>(number), palette); };
+    const auto drawRing = [&](int inset, const QColor &topLeft, const QColor &bottomRight) {
         const int right = x + w - 1 - inset;
         const int bottom = y + h - 1 - inset;
-        DrawLine(x + inset, y + inset, right, y + inset, ColourOf(topLeft, palette));
-        DrawLine(x + inset, y + inset, x + inset, bottom, ColourOf(topLeft, palette));
-        DrawLine(x + inset, bottom, right, bottom, ColourOf(bottomRight, palette));
-        DrawLine(right, y + inset, right, bottom, ColourOf(bottomRight, palette));
+        DrawLine(x + inset, y + inset, right, y + inset, topLeft);
+        DrawLine(x + inset, y + inset, x + inset, bottom, topLeft);
+        DrawLine(x + inset, bottom, right, bottom, bottomRight);
+        DrawLine(right, y + inset, right, bottom, bottomRight);
+    };
+    const QColor light = system(22);
+    const QColor brightest = system(20);
+    const QColor darkest = system(21);
+    const QColor shadow = system(16);
+    // No line on a dark face is dark enough to be seen: the dark side gets a light one, and the light side
+    // a brighter one still.
+    constexpr double brightContrast = 1.7 * edgeContrast;
+    const bool darkFace = ContrastOf(Qt::black, face) < edgeContrast;
+    const auto outerDark = [&](const QColor &line) { return WithContrast(line, {face}); };
+    const auto outerLight = [&](const QColor &line) {
+        return LighterBy(line, face, darkFace ? brightContrast : 1);
     };
     switch (edge) {
     case Edge::Raised:
-        drawRing(0, light, darkest);
-        drawRing(1, brightest, SystemColour::ButtonShadow);
+        drawRing(0, outerLight(light), outerDark(darkest));
+        drawRing(1, brightest, shadow);
         break;
     case Edge::Sunken:
-        drawRing(0, SystemColour::ButtonShadow, brightest);
+        drawRing(0, outerDark(shadow), outerLight(brightest));
         drawRing(1, darkest, light);
         break;
     case Edge::RaisedInner:
-        drawRing(0, brightest, SystemColour::ButtonShadow);
+        drawRing(0, outerLight(brightest), outerDark(shadow));
         break;
     case Edge::SunkenOuter:
-        drawRing(0, SystemColour::ButtonShadow, brightest);
+        drawRing(0, outerDark(shadow), outerLight(brightest));
         break;
     }
 }
@@ -145,21 +157,49 @@ void Canvas::RoundFrame(int x, int y, int w, int h, qreal radius, const QColor &
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
-void Canvas::DotFrame(int x, int y, int w, int h, const QColor &colour)
+void Canvas::RoundRim(qreal radius, const Rim &rim)
 {
-    const QRect box = OnScreen(QRect(x, y, w + 1, h + 1));
-    const int dot = std::max(1, qRound(scale));
-    const auto drawDot = [&](int left, int top) {
-        painter.fillRect(QRect(left, top, dot, dot) & box, colour);
-    };
-    for (int left = box.left(); left <= box.right(); left += 2 * dot) {
-        drawDot(left, box.top());
-        drawDot(left, box.bottom() - dot + 1);
+    const int w = size.width();
+    const int h = size.height();
+    const int reach = static_cast<int>(std::ceil(radius));
+    if (w < 2 * reach || h < 2 * reach)
+        return;
+    painter.save();
+    painter.setClipRect(OnScreen(QRect(0, reach, w, h - 2 * reach)));
+    GradientColumn(rim.left.first, rim.left.second, 1, 1, h - 2);
+    GradientColumn(rim.right.first, rim.right.second, w - 2, 1, h - 2);
+    painter.setClipRect(OnScreen(QRect(reach, 0, w - 2 * reach, h)));
+    DrawLine(1, 1, w - 2, 1, rim.top);
+    DrawLine(1, h - 2, w - 2, h - 2, rim.bottom);
+
+    for (const bool atRight : {false, true}) {
+        for (const bool atBottom : {false, true})
+            RoundRimCorner(radius, rim, atRight, atBottom);
     }
-    for (int top = box.top(); top <= box.bottom(); top += 2 * dot) {
-        drawDot(box.left(), top);
-        drawDot(box.right() - dot + 1, top);
-    }
+    painter.restore();
+}
+
+void Canvas::RoundRimCorner(qreal radius, const Rim &rim, bool atRight, bool atBottom)
+{
+    const int w = size.width();
+    const int h = size.height();
+    const int reach = static_cast<int>(std::ceil(radius));
+    const QRect corner = OnScreen(QRect(atRight ? w - reach : 0, atBottom ? h - reach : 0, reach, reach));
+    const std::pair<QColor, QColor> &side = atRight ? rim.right : rim.left;
+    // From the side's end to that of the level line.
+    const QRectF box(corner);
+    QLinearGradient passage(QPointF(atRight ? box.right() : box.left(), atBottom ? box.top() : box.bottom()),
+                            QPointF(atRight ? box.left() : box.right(), atBottom ? box.bottom() : box.top()));
+    passage.setColorAt(0, atBottom ? side.second : side.first);
+    passage.setColorAt(1, atBottom ? rim.bottom : rim.top);
+    // From the frame's outer border, so that nothing of the face shines through between the two.
+    QPainterPath ring;
+    ring.addRoundedRect(OnScreen(QRect(0, 0, w, h)), radius * scale, radius * scale);
+    ring.addRoundedRect(OnScreen(QRect(2, 2, w - 4, h - 4)), (radius - 2) * scale, (radius - 2) * scale);
+    painter.setClipRect(corner);
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    painter.fillPath(ring, passage);
+    painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
 void Canvas::RoundCorners(qreal radius)

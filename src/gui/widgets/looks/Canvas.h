@@ -11,6 +11,8 @@
 #include <QRect>
 #include <QSize>
 
+#include <utility>
+
 namespace tressel {
 
 /// Per channel (a + b) / 2.
@@ -22,6 +24,14 @@ QColor MixColor(const QColor &from, const QColor &to, double part);
 
 /// The edges that DrawEdgeBox draws: a line outside and a line inside it, either of which may be missing.
 enum class Edge { RaisedInner = 4, SunkenOuter = 2, Raised = 5, Sunken = 10 };
+
+/// The colours of the lines just within a frame. Those at the sides run from an upper to a lower one.
+struct Rim {
+    QColor top;
+    QColor bottom;
+    std::pair<QColor, QColor> left;
+    std::pair<QColor, QColor> right;
+};
 
 /// A face's drawing surface in pixels of the design, on whatever finer grid the screen has.
 ///
@@ -47,19 +57,21 @@ public:
     void FillBox(int x, int y, int w, int h, const QColor &colour);
     /// The frame's lines run from (x, y) to (x + w, y + h), both included.
     void FrameBox(int x, int y, int w, int h, const QColor &colour);
-    void DrawEdgeBox(int x, int y, int w, int h, Edge edge, const QPalette &palette);
+    /// An edge around a face of this colour: in the desktop's colours, but no fainter than an edge may be.
+    void DrawEdgeBox(int x, int y, int w, int h, Edge edge, const QPalette &palette, const QColor &face);
     /// `rows` lines from (x1, y + 1) to (x2, y + rows); the last one has the colour `to`.
     void GradientFill(const QColor &from, const QColor &to, int x1, int y, int x2, int rows);
     /// A column of such colours between these rows, both included.
     void GradientColumn(const QColor &from, const QColor &to, int x, int y1, int y2);
     /// A frame as FrameBox draws it, whose corners are rounded.
     void RoundFrame(int x, int y, int w, int h, qreal radius, const QColor &colour);
-    /// A dotted frame, as FrameBox draws it. Its dots and gaps are alike all around at any scale.
-    void DotFrame(int x, int y, int w, int h, const QColor &colour);
-    /// Takes away what was drawn outside a rounded box of the whole size.
+    /// The lines just within a face's frame of this radius, which follow its corners.
+    void RoundRim(qreal radius, const Rim &rim);
+    /// Makes everything outside of rounded corners transparent.
     void RoundCorners(qreal radius);
 
 private:
+    void RoundRimCorner(qreal radius, const Rim &rim, bool atRight, bool atBottom);
     int EdgeX(int x) const;
     int EdgeY(int y) const;
 

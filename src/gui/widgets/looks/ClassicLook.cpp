@@ -12,9 +12,10 @@ class Classic : public Look {
 public:
     bool DrawFace(Canvas &canvas, const FaceToDraw &face) const override
     {
-        canvas.FillBox(0, 0, canvas.Width(), canvas.Height(), PlainFace(face));
+        const QColor colour = PlainFace(face);
+        canvas.FillBox(0, 0, canvas.Width(), canvas.Height(), colour);
         const Edge edge = face.state == LookState::Pressed ? Edge::Sunken : Edge::Raised;
-        canvas.DrawEdgeBox(0, 0, canvas.Width(), canvas.Height(), edge, face.palette);
+        canvas.DrawEdgeBox(0, 0, canvas.Width(), canvas.Height(), edge, face.palette, colour);
         return true;
     }
 };

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
+#include "widgets/SystemColours.h"
 #include "widgets/looks/Look.h"
 
 namespace tressel {
@@ -33,10 +34,11 @@ public:
         const int w = canvas.Width();
         const int h = canvas.Height();
         const QColor face15 = face.System(SystemColour::ButtonFace);
-        canvas.FillBox(0, 0, w, h, face.custom ? face.back : face15);
+        const QColor ground = face.custom ? face.back : face15;
+        canvas.FillBox(0, 0, w, h, ground);
         canvas.FillBox(faceInset, faceInset, w - 2 * faceInset, h - 2 * faceInset, BoxColour(face));
 
-        const QColor dark = face.System(SystemColour::ButtonShadow);
+        const QColor dark = WithContrast(face.System(SystemColour::ButtonShadow), {ground});
         const QColor light = face.System(SystemColour::Window);
         canvas.FrameBox(0, 0, w - 1, h - 1, dark);
         canvas.FrameBox(1, 1, w - 3, h - 3, light);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
+#include "widgets/SystemColours.h"
 #include "widgets/looks/Look.h"
 
 namespace tressel {
@@ -14,13 +15,15 @@ public:
     {
         const int w = canvas.Width();
         const int h = canvas.Height();
-        canvas.FillBox(0, 0, w, h, PlainFace(face));
+        const QColor colour = PlainFace(face);
+        canvas.FillBox(0, 0, w, h, colour);
         if (face.state == LookState::Hover)
-            canvas.DrawEdgeBox(0, 0, w, h, Edge::RaisedInner, face.palette);
+            canvas.DrawEdgeBox(0, 0, w, h, Edge::RaisedInner, face.palette, colour);
         else if (face.state == LookState::Pressed)
-            canvas.DrawEdgeBox(0, 0, w, h, Edge::SunkenOuter, face.palette);
+            canvas.DrawEdgeBox(0, 0, w, h, Edge::SunkenOuter, face.palette, colour);
         else
-            canvas.FrameBox(0, 0, w - 1, h - 1, face.System(SystemColour::ButtonShadow));
+            canvas.FrameBox(0, 0, w - 1, h - 1,
+                            WithContrast(face.System(SystemColour::ButtonShadow), {colour}));
         return true;
     }
 };

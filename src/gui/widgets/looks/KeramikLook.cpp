@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
+#include "widgets/SystemColours.h"
 #include "widgets/looks/Look.h"
 
 namespace tressel {
@@ -45,6 +46,13 @@ int FrameOf(LookState state)
     return -128;
 }
 
+Rim RimOf(const QColor &base, bool pressed)
+{
+    const QColor shine = ShiftColor(base, pressed ? -48 : 128);
+    const QColor shade = ShiftColor(base, pressed ? -53 : -48);
+    return {shine, shade, {shine, ShiftColor(base, -37)}, {ShiftColor(base, -21), shade}};
+}
+
 /// Glazed like a tile: a bright upper half, a darker middle, and a deep frame.
 class Keramik : public Look {
 public:
@@ -59,28 +67,16 @@ public:
                             middle);
         canvas.GradientFill(ShiftColor(base, glaze.belowMiddle), ShiftColor(base, glaze.bottom), 0,
                             middle - 1, w - 1, h - middle);
-        DrawEdges(canvas, base, face.state == LookState::Pressed);
-        canvas.RoundFrame(0, 0, w - 1, h - 1, cornerRadius, ShiftColor(base, FrameOf(face.state)));
-        canvas.RoundCorners(cornerRadius);
+        canvas.RoundRim(CornerRadius(), RimOf(base, face.state == LookState::Pressed));
+        canvas.RoundFrame(
+            0, 0, w - 1, h - 1, CornerRadius(),
+            WithContrast(ShiftColor(base, FrameOf(face.state)), {base, ShiftColor(base, glaze.top)}));
+        canvas.RoundCorners(CornerRadius());
         return true;
     }
     int Margin() const override { return 7; }
     QRegion Shape(QSize size) const override { return OctagonShape(size); }
-
-private:
-    static void DrawEdges(Canvas &canvas, const QColor &base, bool pressed)
-    {
-        const int w = canvas.Width();
-        const int h = canvas.Height();
-        const QColor shine = ShiftColor(base, pressed ? -48 : 128);
-        const QColor shade = ShiftColor(base, pressed ? -53 : -48);
-        canvas.GradientColumn(shine, ShiftColor(base, -37), 1, 1, h - 2);
-        canvas.GradientColumn(ShiftColor(base, -21), shade, w - 2, 1, h - 2);
-        canvas.DrawLine(1, 1, w - 2, 1, shine);
-        canvas.DrawLine(1, h - 2, w - 2, h - 2, shade);
-    }
-
-    static constexpr qreal cornerRadius = 5;
+    qreal CornerRadius() const override { return 5; }
 };
 
 } // namespace

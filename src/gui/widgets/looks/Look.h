@@ -41,8 +41,13 @@ public:
     virtual QRegion Shape(QSize size) const;
     /// True where the face's colours are always the same light ones, whatever the desktop's are.
     virtual bool HasLightFace(const FaceToDraw &) const { return false; }
-    /// True where the face itself tells a focused button from others.
+    /// How round its corners are, in pixels of the design.
+    virtual qreal CornerRadius() const { return 0; }
+    /// True where the face has a ring of its own that tells a focused button from others.
     virtual bool ShowsFocus(const FaceToDraw &) const { return false; }
+    /// From the border to the line that marks the focus, clear of the look's frame and rings and of the
+    /// caption's box.
+    virtual int FocusInset(const FaceToDraw &) const { return 2; }
 };
 
 /// Null for a number that is none of the eleven.

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
+#include "widgets/SystemColours.h"
 #include "widgets/looks/Look.h"
 
 namespace tressel {
@@ -24,19 +25,18 @@ public:
                             w - 3, h - 6);
         canvas.DrawLine(1, h - 3, w - 2, h - 3, ShiftColor(base, -15));
         canvas.DrawLine(1, 2, w - 2, 2, ShiftColor(base, pressed ? -15 : 21));
-        canvas.DrawLine(1, 1, 1, h - 2, pressed ? dark : light);
-        canvas.DrawLine(w - 2, 1, w - 2, h - 2, pressed ? light : dark);
-        canvas.DrawLine(1, 1, w - 2, 1, pressed ? dark : light);
-        canvas.DrawLine(1, h - 2, w - 2, h - 2, pressed ? light : dark);
-        const bool pale = face.state == LookState::Disabled;
-        canvas.RoundFrame(0, 0, w - 1, h - 1, cornerRadius, ShiftColor(face.back, pale ? -48 : -96));
-        canvas.RoundCorners(cornerRadius);
+        const QColor &topLeft = pressed ? dark : light;
+        const QColor &bottomRight = pressed ? light : dark;
+        canvas.RoundRim(CornerRadius(),
+                        {topLeft, bottomRight, {topLeft, topLeft}, {bottomRight, bottomRight}});
+        const QColor frame = ShiftColor(face.back, face.state == LookState::Disabled ? -48 : -96);
+        canvas.RoundFrame(0, 0, w - 1, h - 1, CornerRadius(),
+                          WithContrast(frame, {face.back, base, ShiftColor(base, 15)}));
+        canvas.RoundCorners(CornerRadius());
         return true;
     }
     QRegion Shape(QSize size) const override { return OctagonShape(size); }
-
-private:
-    static constexpr qreal cornerRadius = 5;
+    qreal CornerRadius() const override { return 5; }
 };
 
 } // namespace

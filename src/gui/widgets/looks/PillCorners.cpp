@@ -37,6 +37,7 @@ struct Corner {
     Side upright; ///< the lines on its left or right
     Side level; ///< the lines above or below
     qreal radius;
+    qreal uprightReach; ///< from here inwards only the level lines are seen
     qreal levelReach; ///< from here inwards only the upright lines are seen
 };
 
@@ -57,14 +58,25 @@ Colour FromRgb(QRgb rgb)
     return {double(qRed(rgb)), double(qGreen(rgb)), double(qBlue(rgb))};
 }
 
-/// The colour at a depth below the surface. Lines keep sharp borders: one passes into the next within one
-/// pixel of the screen.
+/// A line of the border keeps its sharp edges on a fine grid; where colours are nearer than this, one line
+/// passes into the next, so that no stripes are seen.
+bool IsSharp(QRgb a, QRgb b)
+{
+    constexpr int sharp = 40;
+    return std::abs(qRed(a) - qRed(b)) > sharp || std::abs(qGreen(a) - qGreen(b)) > sharp
+        || std::abs(qBlue(a) - qBlue(b)) > sharp;
+}
+
+/// The colour at a depth below the surface. A sharp passage takes one pixel of the screen, a soft one the
+/// way between the middles of the two lines.
 Colour ColourAt(const Side &side, double depth, double scale)
 {
     const double place = std::clamp(depth - 0.5, 0.0, double(side.lines.size() - 1));
     const auto line = static_cast<std::size_t>(place);
     const std::size_t next = std::min(line + 1, side.lines.size() - 1);
-    const double part = std::clamp((place - double(line) - 0.5) * std::ceil(scale) + 0.5, 0.0, 1.0);
+    const double way = place - double(line);
+    const bool soft = scale > 1 && !IsSharp(side.lines[line], side.lines[next]);
+    const double part = soft ? way : std::clamp((way - 0.5) * std::ceil(scale) + 0.5, 0.0, 1.0);
     return Mixed(FromRgb(side.lines[line]), FromRgb(side.lines[next]), part);
 }
 
@@ -72,9 +84,10 @@ Colour ColourAt(const Side &side, double depth, double scale)
 double LevelWeight(const Corner &corner, double x, double y)
 {
     const double fromLevelEnd = std::max(0.0, (corner.levelReach - y) / corner.levelReach);
-    const double fromUprightEnd = std::max(0.0, (pillCornerWidth - 1 - x) / (pillCornerWidth - 1));
-    const double level = std::pow(fromLevelEnd, 4);
-    const double upright = std::pow(fromUprightEnd, 4);
+    const double fromUprightEnd = std::max(0.0, (corner.uprightReach - x) / corner.uprightReach);
+    constexpr double softness = 3;
+    const double level = std::pow(fromLevelEnd, softness);
+    const double upright = std::pow(fromUprightEnd, softness);
     return level + upright > 0 ? level / (level + upright) : 0;
 }
 
@@ -112,6 +125,7 @@ double DesignPlace(int pixel, double scale)
 /// A corner as it stands at the upper left.
 QImage Drawn(const Corner &corner, int height, double scale)
 {
+    constexpr int pillCornerWidth = 18;
     QImage image(qRound(pillCornerWidth * scale), qRound(height * scale),
                  QImage::Format_ARGB32_Premultiplied);
     for (int row = 0; row < image.height(); ++row) {
@@ -126,18 +140,27 @@ PillCorners Built(const PillColours &colours, double scale)
 {
     constexpr qreal topRadius = 10;
     constexpr qreal bottomRadius = 9;
-    constexpr qreal topReach = 11;
-    constexpr qreal bottomReach = 9;
+    constexpr qreal leftReach = 17;
+    constexpr qreal rightReach = 16;
+    // On the design's own grid the upright lines run on beside the last of the level ones.
+    const bool fine = scale > 1;
+    const int topHeight = fine ? 12 : 11;
+    const int bottomHeight = fine ? 11 : 12;
+    const qreal topReach = topHeight;
+    const qreal bottomReach = fine ? bottomHeight : 9;
 
     const Side left = SideOf(colours.left, 2, colours.left.front(), false);
     const Side right = SideOf(colours.right, 2, colours.right.back(), true);
     const Side top = SideOf(colours.top, 0, colours.left.front(), false);
     // The outermost of the bottom lines lies outside the button: it leads the others anyway.
     const Side bottom{{colours.bottom.rbegin(), colours.bottom.rend()}, 1};
-    return {Drawn({left, top, topRadius, topReach}, pillTopHeight, scale),
-            Drawn({right, top, topRadius, topReach}, pillTopHeight, scale).mirrored(true, false),
-            Drawn({left, bottom, bottomRadius, bottomReach}, pillBottomHeight, scale).mirrored(false, true),
-            Drawn({right, bottom, bottomRadius, bottomReach}, pillBottomHeight, scale).mirrored(true, true)};
+    const auto drawn = [&](const Side &upright, qreal reach, bool atBottom) {
+        return atBottom ? Drawn({upright, bottom, bottomRadius, reach, bottomReach}, bottomHeight, scale)
+                        : Drawn({upright, top, topRadius, reach, topReach}, topHeight, scale);
+    };
+    return {drawn(left, leftReach, false), drawn(right, rightReach, false).mirrored(true, false),
+            drawn(left, leftReach, true).mirrored(false, true),
+            drawn(right, rightReach, true).mirrored(true, true)};
 }
 
 } // namespace

@@ -11,12 +11,9 @@
 
 namespace tressel {
 
-/// Width of a corner's picture, and heights of the upper and the lower ones, in pixels of the design.
-constexpr int pillCornerWidth = 18;
-constexpr int pillTopHeight = 11;
-constexpr int pillBottomHeight = 12;
-
-/// The four rounded corners of a pill, each derived from the lines that meet in it.
+/// The four rounded corners of a pill, each derived from the lines that meet in it. Their innermost columns
+/// are cuts through the lines above and below, and, on a finer grid than the design's, their innermost rows
+/// through those at the sides.
 struct PillCorners {
     QImage topLeft;
     QImage topRight;

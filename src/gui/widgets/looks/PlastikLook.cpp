@@ -22,7 +22,7 @@ Deltas DeltasOf(LookState state)
 {
     switch (state) {
     case LookState::Hover:
-        return {21, -9, 21, 15, -5, -16};
+        return {21, 5, 21, 15, 8, -9};
     case LookState::Pressed:
         return {-21, -5, -37, -32, -15, 5};
     case LookState::Normal:
@@ -49,15 +49,13 @@ public:
         canvas.DrawLine(1, 1, w - 2, 1, ShiftColor(base, deltas.topLine));
         canvas.DrawLine(1, h - 2, w - 2, h - 2, ShiftColor(base, deltas.bottomLine));
         const bool pale = face.state == LookState::Disabled;
-        canvas.RoundFrame(0, 0, w - 1, h - 1, cornerRadius, ShiftColor(base, pale ? -37 : -96));
-        canvas.RoundCorners(cornerRadius);
+        canvas.RoundFrame(0, 0, w - 1, h - 1, CornerRadius(), ShiftColor(base, pale ? -37 : -96));
+        canvas.RoundCorners(CornerRadius());
         return true;
     }
     int Margin() const override { return 5; }
     QRegion Shape(QSize size) const override { return ClippedShape(size); }
-
-private:
-    static constexpr qreal cornerRadius = 2.5;
+    qreal CornerRadius() const override { return 2.5; }
 };
 
 } // namespace

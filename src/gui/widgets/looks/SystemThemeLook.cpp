@@ -59,6 +59,8 @@ public:
         canvas.Painter().drawImage(0, 0, drawn);
         return true;
     }
+    /// The theme draws a focused button as it draws a window's default one.
+    bool ShowsFocus(const FaceToDraw &face) const override { return face.state == LookState::Normal; }
 
 private:
     static void DrawWithStyle(QImage &image, const FaceToDraw &face, const QRect &bounds)

@@ -39,6 +39,26 @@ TEST_F(FolderCreation, MissingDestinationIsMadeLevelByLevel)
     EXPECT_TRUE(machine.files.Exists(u"C:\\New\\Deep\\x"_s));
 }
 
+TEST_F(FolderCreation, NothingIsMadeThroughALinkBelowTheDestination)
+{
+    machine.files.PutFolder(u"C:\\Elsewhere"_s);
+    machine.files.PutLink(u"C:\\Work\\planted"_s, u"C:\\Elsewhere"_s);
+    List({u"planted\\x"_s, u"y\\z"_s});
+    PressCreate();
+    EXPECT_EQ(machine.files.Tree(u"C:\\Elsewhere"_s), QStringList());
+    EXPECT_TRUE(machine.files.Exists(u"C:\\Work\\y\\z"_s));
+}
+
+TEST_F(FolderCreation, TheDestinationItselfMayBeReachedThroughALink)
+{
+    machine.files.PutFolder(u"C:\\Elsewhere"_s);
+    machine.files.PutLink(u"C:\\named"_s, u"C:\\Elsewhere"_s);
+    Area().txtStrtPath.SetText(u"C:\\named"_s);
+    List({u"x\\y"_s});
+    PressCreate();
+    EXPECT_TRUE(machine.files.Exists(u"C:\\Elsewhere\\x\\y"_s));
+}
+
 TEST_F(FolderCreation, EmptyDestinationIsTheRootOfTheCurrentDrive)
 {
     Area().txtStrtPath.SetText(u""_s);

@@ -200,8 +200,11 @@ TEST_F(FolderListingTest, TheFirstReportHasNumberOneAndTakesTheOldOnesPlace)
 TEST_F(FolderListingTest, AReportOfNumberZeroCountsAsThePresentOne)
 {
     machine.files.PutFile(ReportPath(u"00"_s));
+    // The file of the next number is made with its number, where a failure doesn't count, and then anew.
+    machine.files.FailAt(Operation::OpenForWriting, ReportPath(), 1, FailureNumber::PermissionDenied);
     Make();
     EXPECT_EQ(page.txtReport.Text(), ReportPath());
+    EXPECT_TRUE(machine.files.Exists(ReportPath()));
     EXPECT_EQ(machine.files.Bytes(ReportPath(u"00"_s)), "");
 }
 
@@ -454,6 +457,31 @@ TEST_F(FolderListingTest, ALinkOfTheReportsNameIsNotFollowed)
     machine.dialogs.ExpectBox(u"NB! Report is saved on C:\\List-01 2004-03-31.txt"_s);
     Make();
     EXPECT_EQ(machine.files.Bytes(u"C:\\precious"_s), "mine");
+}
+
+TEST_F(FolderListingTest, ALinkThatComesBetweenLookAndOpenIsNotFollowed)
+{
+    machine.files.PutFile(ReportPath(), "old report");
+    machine.files.PutFile(u"C:\\precious"_s, "mine");
+    machine.files.DoBefore(Operation::OpenForWriting, ReportPath(), 1,
+                           [this] { machine.files.PutLinkInPlaceOf(ReportPath(), u"C:\\precious"_s); });
+    machine.dialogs.ExpectBox(u"NB! Report is saved on C:\\List-01 2004-03-31.txt"_s);
+    Make();
+    EXPECT_EQ(machine.files.Bytes(u"C:\\precious"_s), "mine");
+}
+
+TEST_F(FolderListingTest, AWalkGoesIntoNoLinkThatTookAFoldersPlace)
+{
+    machine.files.PutFile(u"C:\\Private\\secret"_s);
+    for (const QString &folder : {u"D:\\Music\\Live"_s, u"D:\\Music\\Live\\Deep"_s}) {
+        machine.files.PutFile(u"D:\\Music\\Live\\Deep\\d.mp3"_s);
+        machine.files.PutFolder(u"C:\\Private\\Deep"_s);
+        machine.files.DoBefore(Operation::List, u"D:\\Music\\Live\\Deep"_s, 1,
+                               [this, folder] { machine.files.PutLinkInPlaceOf(folder, u"C:\\Private"_s); });
+        Make();
+        EXPECT_FALSE(Report().contains("secret")) << qPrintable(folder);
+        machine.files.RemoveFile(folder);
+    }
 }
 
 TEST_F(FolderListingTest, ANameThatTheFolderCannotHoldIsToldByItsNumber)

@@ -128,12 +128,17 @@ TEST_F(NumberedPageTest, PaddingComesFromTheTextOfToAlone)
     for (const Row &row : rows) {
         Make(row.from, row.to);
         EXPECT_EQ(Work(), row.folders) << qPrintable(row.from) << " to " << qPrintable(row.to);
+        // One of another width is none of the series.
+        machine.files.PutFolder(u"D:\\Work\\Disk00000"_s);
         machine.journal.Clear();
         Delete(row.from, row.to);
-        EXPECT_EQ(machine.journal.Count(u"RemoveFolder"_s) == 0, row.folders.isEmpty())
+        QStringList tried;
+        for (const QString &folder : row.folders)
+            tried += {u"D:\\Work"_s, u"D:\\Work\\"_s + folder.chopped(1)};
+        EXPECT_EQ(machine.journal.About(u"RemoveFolder"_s), tried)
             << qPrintable(row.from) << " to " << qPrintable(row.to);
-        // The folder of the series goes with the last of it.
-        machine.files.PutFolder(u"D:\\Work"_s);
+        EXPECT_EQ(Work(), QStringList{u"Disk00000\\"_s});
+        ASSERT_FALSE(machine.files.TryRemoveFolder(u"D:\\Work\\Disk00000"_s));
     }
 }
 
@@ -391,25 +396,33 @@ TEST_F(NumberedPageTest, AnEmptyTextRestoredIntoAComboBecomes1)
 TEST_F(NumberedPageTest, AnEarlierFailureKeepsTheListsWhereTheyAre)
 {
     const QString options = u"Software\\Halven Software\\Tressel\\Options"_s;
-    machine.hive.Put(SettingsHive::Root::User, options, u"LastNumPath"_s, QString(u"C:\\Tressel"_s));
+    machine.hive.Put(SettingsHive::Root::User, options, u"LastNumPath"_s, QString(u"D:\\Work"_s));
+    Form freshForm(u"fresh"_s);
+    NumberedPage fresh(bench.On(freshForm), DirList);
     Steps steps;
     steps.Note(Failure(FailureNumber::PathNotFound));
-    page.Restore(steps);
+    fresh.Restore(steps);
     EXPECT_FALSE(steps.Pending());
-    EXPECT_EQ(page.NumberedFolderPath, u"C:\\Tressel"_s);
-    EXPECT_EQ(page.DirBox.Path(), u"D:\\Work"_s);
-    EXPECT_EQ(page.DrvBox.Drive(), u"D:\\"_s);
+    EXPECT_EQ(fresh.NumberedFolderPath, u"D:\\Work"_s);
+    EXPECT_EQ(fresh.DirBox.Path(), u"C:\\"_s);
+    EXPECT_EQ(fresh.DrvBox.Drive(), u"C:\\"_s);
+    EXPECT_EQ(fresh.DirBox.Items(), (QStringList{u"C:\\"_s, u"Tressel"_s}));
 }
 
-TEST_F(NumberedPageTest, AFolderThatHasGoneLeavesTheListsAndNoFailure)
+TEST_F(NumberedPageTest, AFolderThatHasGoneLeavesAListToPickFromAndNoFailure)
 {
     const QString options = u"Software\\Halven Software\\Tressel\\Options"_s;
     machine.hive.Put(SettingsHive::Root::User, options, u"LastNumPath"_s, QString(u"E:\\Gone"_s));
+    Form freshForm(u"fresh"_s);
+    NumberedPage fresh(bench.On(freshForm), DirList);
     Steps steps;
-    page.Restore(steps);
+    fresh.Restore(steps);
     EXPECT_FALSE(steps.Pending());
-    EXPECT_EQ(page.NumberedFolderPath, u"E:\\Gone"_s);
-    EXPECT_EQ(page.DirBox.Path(), u"D:\\Work"_s);
+    EXPECT_EQ(fresh.NumberedFolderPath, u"E:\\Gone"_s);
+    EXPECT_EQ(fresh.DirBox.Items(), (QStringList{u"C:\\"_s, u"Tressel"_s}));
+    // The one drive is on show already, and choosing it takes the page there all the same.
+    fresh.DrvBox.UserSelects(0);
+    EXPECT_EQ(fresh.NumberedFolderPath, u"C:\\"_s);
 }
 
 } // namespace

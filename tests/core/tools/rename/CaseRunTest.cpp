@@ -29,6 +29,17 @@ TEST_F(CaseRunTest, TwoRenamesAnEntryByWayOfAnUnderscore)
     ExpectUnlocked();
 }
 
+TEST_F(CaseRunTest, TheWatchHearsOfEachEntryBeforeItIsTouched)
+{
+    PutFiles({u"a"_s, u"b"_s});
+    QList<qsizetype> heard;
+    for (int call = 1; call <= 2; ++call)
+        machine.events.At(call, [&] { heard += watch.next.size() * 10 + Renames().size(); });
+    Press();
+    EXPECT_EQ(heard, (QList<qsizetype>{10, 22}));
+    EXPECT_EQ(watch.next, (QStringList{u"C:\\W\\a"_s, u"C:\\W\\b"_s}));
+}
+
 TEST_F(CaseRunTest, TheTypeSaysWhatIsRenamed)
 {
     const QList<std::pair<RenamePage::Kinds, QStringList>> rows{

@@ -18,6 +18,7 @@ namespace tressel {
 class RenameNotes : public RunWatch {
 public:
     void Started(qint64 total) override { lines += QStringLiteral("Started %1").arg(total); }
+    void Next(const QString &path) override { next += path; }
     void Did(Outcome outcome, const QString &path) override
     {
         lines += (outcome == Outcome::Renamed ? QStringLiteral("Renamed ") : QStringLiteral("Kept ")) + path;
@@ -28,6 +29,7 @@ public:
     }
 
     QStringList lines;
+    QStringList next; ///< what the run came to, one after the other
 };
 
 /// The rename tool on a window of its own.

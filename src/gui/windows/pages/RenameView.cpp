@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
+#include "windows/pages/RenameView.h"
+
 #include "widgets/IsButtonWidget.h"
-#include "windows/Pages.h"
 #include "windows/Parts.h"
 
 #include <QGridLayout>
@@ -110,20 +111,24 @@ QLayout *MakeReplacing()
     return column;
 }
 
-QLayout *MakeRenameButtons()
+QLayout *MakeRun()
 {
-    auto *row = Row();
+    auto *row = Row(gapSmall);
     for (const QString &name : {u"btnGBRename"_s, u"btnGBReplace"_s, u"btnGBExtension"_s, u"btnGBCancel"_s}) {
+        // The four share the least width by what their captions need.
         auto *button = PageButton(name);
-        button->setMinimumWidth(60);
-        row->addWidget(button, 1);
+        button->setMinimumWidth(1);
+        row->addWidget(button);
     }
-    return row;
+    auto *column = Column();
+    column->addLayout(row);
+    column->addWidget(Progress(u"ProgressBar"_s, u"Renaming"_s));
+    return column;
 }
 
 } // namespace
 
-QWidget *MakeRenamePage()
+QWidget *MakeRenameView()
 {
     auto *column = Column();
     column->addLayout(MakePath());
@@ -133,9 +138,7 @@ QWidget *MakeRenamePage()
     column->addWidget(Line(u"Picture2"_s));
     column->addLayout(MakeReplacing());
     column->addStretch();
-    column->addLayout(MakeRenameButtons());
-    column->addWidget(Progress(u"ProgressBar"_s, u"Renaming"_s));
-    return Page(u"FrameXPMenu(1)"_s, column);
+    return Page(u"FrameXPMenu(1)"_s, {column, MakeRun()});
 }
 
 } // namespace tressel

@@ -1,0 +1,165 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "tools/splitter/FileJoin.h"
+
+#include "base/Numbers.h"
+#include "base/Steps.h"
+#include "machine/Dialogs.h"
+#include "machine/Events.h"
+#include "machine/FileSystem.h"
+#include "machine/Paths.h"
+#include "tools/RunWatch.h"
+#include "tools/splitter/SplitRules.h"
+#include "tools/splitter/SplitterPage.h"
+
+#include <algorithm>
+
+namespace tressel {
+
+using namespace Qt::StringLiterals;
+
+FileJoin::FileJoin(const ToolContext &context, SplitterPage &page, LeftOpen &open, RoomMaker maker)
+    : run(context, page)
+    , leftOpen(open)
+    , makeRoom(std::move(maker))
+{
+}
+
+void FileJoin::JoinFiles(const QString &FileName)
+{
+    target = FileName;
+    if (!IsTargetFree()) {
+        run.page.lblFileCount.SetCaption(u"Join Count: Output File Exists"_s);
+        return;
+    }
+    if (!FileExists(run.context.machine.files, run.Whole(PartName(target, 1)))) {
+        run.page.lblFileCount.SetCaption(u"Join Count: No Input Files"_s);
+        return;
+    }
+    FindParts();
+    run.Start();
+    run.context.watch.Started(count);
+    if (!JoinParts())
+        return;
+    // Kept: the parts go before the output is closed.
+    if (run.page.chkDeleteParts.IsChecked())
+        DeleteParts();
+    Steps unseen;
+    unseen.Do([&] { output->Close(); });
+    run.context.watch.Did(Outcome::Made, run.Whole(target));
+    // Kept: the running text begins with "Join Count", this one doesn't.
+    run.ShowFinish(u"Finished Joining"_s,
+                   u"File Count: Finished ("_s + QString::number(count) + u" Files)"_s);
+    run.End();
+    run.OpenFolderIfAsked();
+}
+
+bool FileJoin::IsTargetFree()
+{
+    if (!FileExists(run.context.machine.files, run.Whole(target)))
+        return true;
+    const MessageBox question{u"Output file ("_s + target + u") already exists.\r"_s
+                                  + u"Are you sure you want to overwrite it?"_s,
+                              u"Overwrite Warning"_s, BoxIcon::Question, BoxButtons::YesNo};
+    if (run.context.machine.dialogs.Show(question) != BoxAnswer::Yes)
+        return false;
+    run.Remove(target);
+    return true;
+}
+
+void FileJoin::FindParts()
+{
+    run.ShowProgressStart(u"Joining"_s, run.Length(PartName(target, 1)));
+    std::int16_t number = 1;
+    for (;;) {
+        number = ToInt16(number + 1.0);
+        const QString part = PartName(target, number);
+        if (!FileExists(run.context.machine.files, run.Whole(part)))
+            break;
+        run.page.ctlProgress1.SetMax(
+            ToInt32(static_cast<double>(run.page.ctlProgress1.Max()) + run.Length(part)));
+    }
+    count = ToInt16(number - 1.0);
+}
+
+bool FileJoin::JoinParts()
+{
+    // What a link in the output's place leads to was never named by anybody.
+    if (!OpenForRun(output, target, Links::Keep))
+        return EndAs(u"Join Count: Write Error"_s);
+    for (std::int32_t part = 1; part <= count; ++part) {
+        if (!JoinPart(ToInt16(part)))
+            return false;
+    }
+    return true;
+}
+
+bool FileJoin::JoinPart(std::int16_t part)
+{
+    const QString name = PartName(target, part);
+    run.context.machine.events.LetEventsRun();
+    const std::int32_t length = run.Length(name);
+    room.clear();
+    room = makeRoom(length < 0 ? length : length + qint64{1});
+    std::unique_ptr<OpenFile> file;
+    if (!OpenForRun(file, name, Links::Follow))
+        return EndAs(u"Join Count: Read Error"_s);
+    ReadPart(*file, name, length);
+    try {
+        output->Write(QByteArray::fromRawData(room.constData(), length));
+    } catch (const Failure &failure) {
+        run.context.watch.Failed(run.Whole(target), failure);
+        leftOpen.push_back(std::move(file));
+        return EndAs(u"Join Count: Write Error"_s);
+    }
+    Steps unseen;
+    unseen.Do([&] { output->Flush(); });
+    unseen.Do([&] { file->Close(); });
+    run.ShowProgress(length);
+    run.page.lblFileCount.SetCaption(u"Join Count: "_s + QString::number(part) + u" of "_s
+                                     + QString::number(count));
+    return true;
+}
+
+void FileJoin::ReadPart(OpenFile &file, const QString &name, qint64 length)
+{
+    qint64 got = 0;
+    try {
+        got = file.ReadInto({room.data(), static_cast<size_t>(length)});
+    } catch (const Failure &failure) {
+        run.context.watch.Failed(run.Whole(name), failure);
+    }
+    // Kept: what can't be read is zeros in the output, and nobody is told.
+    std::fill(room.begin() + got, room.end(), '\0');
+}
+
+bool FileJoin::OpenForRun(std::unique_ptr<OpenFile> &file, const QString &path, Links links)
+{
+    try {
+        file = OpenOrMake(run.context.machine.files, run.Whole(path), links);
+        return true;
+    } catch (const Failure &failure) {
+        run.context.watch.Failed(run.Whole(path), failure);
+        return false;
+    }
+}
+
+bool FileJoin::EndAs(const QString &text)
+{
+    run.page.lblFileCount.SetCaption(text);
+    // Kept: the page stays shut, and the files held, until a choice in the list of files opens it again.
+    if (output)
+        leftOpen.push_back(std::move(output));
+    return false;
+}
+
+void FileJoin::DeleteParts()
+{
+    for (std::int32_t part = 1; part <= count; ++part)
+        run.Remove(PartName(target, part));
+    if (FileExists(run.context.machine.files, run.Whole(BatchName(target))))
+        run.Remove(BatchName(target));
+}
+
+} // namespace tressel

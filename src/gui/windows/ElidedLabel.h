@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QLabel>
+
+namespace tressel {
+
+/// A label of one line. Where its text doesn't fit it ends in an ellipsis, and the whole is the tool tip.
+class ElidedLabel : public QLabel {
+public:
+    /// What is shown of the text.
+    QString ShownText() const;
+
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+};
+
+} // namespace tressel

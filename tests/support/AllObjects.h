@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "machine/Databases.h"
+
+namespace tressel {
+
+/// What a file holds, all at once.
+inline QList<DatabaseObject> AllObjects(Databases &databases, const QString &file,
+                                        DatabaseRoad road = DatabaseRoad::Newer)
+{
+    QList<DatabaseObject> objects;
+    const auto reader = databases.OpenSchema(file, road);
+    while (const auto object = reader->Next())
+        objects += *object;
+    return objects;
+}
+
+/// All values of a field.
+inline QList<DatabaseValue> AllValues(Databases &databases, const QString &file, const QString &table,
+                                      const QString &field)
+{
+    QList<DatabaseValue> values;
+    const auto reader = databases.Read(file, table, field);
+    while (const auto value = reader->Next())
+        values += *value;
+    return values;
+}
+
+} // namespace tressel
