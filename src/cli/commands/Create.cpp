@@ -188,6 +188,7 @@ std::optional<QString> Creation::WhyNot(const QString &name) const
 
 void Creation::MakeAll()
 {
+    const auto hold = files.Hold(destination);
     tally.Started(names.size());
     // The name that the tree of the list shows last is what a run starts from.
     if (!entries.isEmpty())
