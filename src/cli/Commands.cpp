@@ -63,8 +63,9 @@ int TellUsageError(const UsageError &error, const QString &help, const Surroundi
 
 const QList<Command> &Commands()
 {
-    static const QList<Command> all{CreateCommand(), SeriesCommand(),   ReportCommand(),
-                                    RenameCommand(), DatabaseCommand(), CompletionsCommand()};
+    static const QList<Command> all{CreateCommand(), SeriesCommand(),     ReportCommand(),
+                                    RenameCommand(), DatabaseCommand(),   EmptyCommand(),
+                                    EraseCommand(),  CompletionsCommand()};
     return all;
 }
 
@@ -74,7 +75,8 @@ int RunCommand(const Command &command, const QStringList &words, const Surroundi
     Console console(surroundings, arguments);
     int status = AllDone;
     const int endedBy = console.Conclude([&] { status = command.run(arguments, console); }, [] {});
-    return console.Finish(endedBy == AllDone ? status : endedBy);
+    // A signal outweighs what failed before it.
+    return console.Finish(std::max(status, endedBy));
 }
 
 int RunCommandLine(const QStringList &words, const Surroundings &surroundings)

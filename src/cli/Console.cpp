@@ -75,6 +75,18 @@ void Console::Aside(const QString &sentence)
         WriteAside(sentence);
 }
 
+std::optional<QString> Console::Ask(const QString &question)
+{
+    constexpr qint64 longestAnswer = 256;
+    if (!streams.In().IsTerminal() || !streams.Err().IsTerminal())
+        return {};
+    ClearProgress();
+    streams.Out().Flush();
+    streams.Err().Write(EncodeText(question, NameBytes::Raw));
+    streams.Err().Flush();
+    return DecodeText(streams.In().Read(longestAnswer)).trimmed();
+}
+
 void Console::WriteAside(const QString &line)
 {
     ClearProgress();

@@ -49,6 +49,9 @@ public:
     void FailAs(const QString &sentence);
     /// A sentence that is no failure, unless it is to be quiet.
     void Aside(const QString &sentence);
+    /// Asks a person something on standard error and returns what is typed; nothing where there is nobody to
+    /// ask.
+    std::optional<QString> Ask(const QString &question);
     bool EndsInNul() const { return lineEnd == '\0'; }
 
     /// Whether anything failed so far.

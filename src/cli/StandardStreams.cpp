@@ -101,6 +101,11 @@ void DescriptorOutput::WriteThrough(QByteArrayView bytes)
     }
 }
 
+bool DescriptorInput::IsTerminal() const
+{
+    return isatty(descriptor) == 1;
+}
+
 QByteArray DescriptorInput::Read(qint64 maximum)
 {
     QByteArray bytes(maximum, Qt::Uninitialized);

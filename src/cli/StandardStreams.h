@@ -46,6 +46,7 @@ public:
     }
 
     QByteArray Read(qint64 maximum) override;
+    bool IsTerminal() const override;
 
 private:
     int descriptor;

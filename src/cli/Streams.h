@@ -35,6 +35,8 @@ public:
 
     /// The next bytes, at most so many; none at the end. Waits for them. Fails as OpenFile::Read does.
     virtual QByteArray Read(qint64 maximum) = 0;
+    /// Whether a person types what is read.
+    virtual bool IsTerminal() const { return false; }
 };
 
 /// The streams of one run of the program.

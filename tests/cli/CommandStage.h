@@ -49,8 +49,10 @@ public:
         bytes.remove(0, piece.size());
         return piece;
     }
+    bool IsTerminal() const override { return isTerminal; }
 
     QByteArray bytes;
+    bool isTerminal = false;
 };
 
 /// A wish to stop that a test has queued.

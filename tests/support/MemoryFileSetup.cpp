@@ -68,6 +68,18 @@ void MemoryFileSystem::SetHidden(const QString &path, bool hidden)
     FindFile(path)->hidden = hidden;
 }
 
+void MemoryFileSystem::SetNames(const QString &path, quint64 names)
+{
+    FindFile(path)->names = names;
+}
+
+void MemoryFileSystem::SetPlace(const QString &path, quint64 place, bool movesOnWriting)
+{
+    const Node node = FindFile(path);
+    node->extents = {{0, place, static_cast<quint64>(node->bytes.size())}};
+    node->movesOnWriting = movesOnWriting;
+}
+
 void MemoryFileSystem::SetModified(const QString &path, const QDateTime &modified)
 {
     FindFile(path)->modified = modified;

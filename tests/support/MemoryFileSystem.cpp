@@ -193,7 +193,9 @@ std::optional<FileStatus> MemoryFileSystem::Status(const QString &path, Links li
                 throw Failure(FailureNumber::FileNotFound);
             Obey(Operation::Status, place);
             const MemoryNode &node = *place.node;
-            return FileStatus{node.kind, node.bytes.size(), node.readOnly, node.hidden, node.modified};
+            return FileStatus{node.kind,   node.bytes.size(), node.readOnly,
+                              node.hidden, node.modified,     FoldedPath(node).at(0).unicode(),
+                              node.names};
         });
     } catch (const Failure &) {
         return {};
@@ -219,6 +221,12 @@ std::unique_ptr<FolderReader> MemoryFileSystem::Read(const QString &folder, Leng
         orders.Obey(Operation::ReadFolder, FoldedPath(*node));
         return std::make_unique<MemoryFolderReader>(*node, lengths);
     });
+}
+
+void MemoryFileSystem::FlushFolder(const QString &folder)
+{
+    Ask(Operation::FlushFolder, folder, {},
+        [&] { orders.Obey(Operation::FlushFolder, FoldedPath(*FindFolder(folder))); });
 }
 
 std::optional<Failure> MemoryFileSystem::TryMakeFolder(const QString &path)

@@ -45,6 +45,11 @@ public:
     void PutLinkInPlaceOf(const QString &path, const QString &target);
     void SetHidden(const QString &path, bool hidden = true);
     void SetModified(const QString &path, const QDateTime &modified);
+    /// Gives a file other names beside this one, so many in all.
+    void SetNames(const QString &path, quint64 names);
+    /// Puts a file at a place of its medium, which can be told then; it stays there unless it moves on
+    /// writing.
+    void SetPlace(const QString &path, quint64 place, bool movesOnWriting = false);
     /// Another program holds the file, or lets it go.
     void HoldByAnother(const QString &path, bool held = true);
     bool Exists(const QString &path);
@@ -69,6 +74,7 @@ public:
     /// Without a word in the journal.
     QList<FolderEntry> List(const QString &folder, Lengths lengths = Lengths::LeftOut) override;
     std::unique_ptr<FolderReader> Read(const QString &folder, Lengths lengths = Lengths::LeftOut) override;
+    void FlushFolder(const QString &folder) override;
     std::optional<Failure> TryMakeFolder(const QString &path) override;
     std::optional<Failure> TryRemoveFolder(const QString &path) override;
     void RemoveFile(const QString &path) override;

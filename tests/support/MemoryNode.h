@@ -21,6 +21,9 @@ struct MemoryNode {
     bool heldExclusively = false;
     QDateTime modified;
     QByteArray bytes; ///< of a file
+    quint64 names = 1;
+    std::optional<QList<Extent>> extents; ///< where the file stands, if that can be told
+    bool movesOnWriting = false; ///< each write puts it somewhere else
     QString target; ///< of a link
     std::map<QString, std::shared_ptr<MemoryNode>> children; ///< of a folder, by the folded name
 };

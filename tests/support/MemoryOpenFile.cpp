@@ -85,6 +85,8 @@ void MemoryOpenFile::Put(const QByteArray &bytes)
     node->bytes.replace(position, taken.size(), taken);
     position += taken.size();
     node->modified = files.clock.Now();
+    if (node->movesOnWriting)
+        node->extents->first().place += node->extents->first().length;
     if (missing > 0)
         throw Failure(FailureNumber::DiskFull);
 }
@@ -107,6 +109,26 @@ qint64 MemoryOpenFile::Length() const
 {
     NeedOpen();
     return node->bytes.size();
+}
+
+void MemoryOpenFile::Resize(qint64 length)
+{
+    files.Ask(Operation::ResizeFile, path, QString::number(length), [&] {
+        NeedOpen();
+        if (purpose == OpenFor::Reading)
+            throw Failure(FailureNumber::BadFileName);
+        if (length < 0)
+            throw Failure(FailureNumber::InvalidProcedureCall);
+        files.orders.Obey(Operation::ResizeFile, FoldedPath(*node));
+        const qint64 growth = length - node->bytes.size();
+        const qint64 taken = files.TakeRoom(*node, growth);
+        if (taken < growth) {
+            files.TakeRoom(*node, -taken);
+            throw Failure(FailureNumber::DiskFull);
+        }
+        node->bytes.resize(length, '\0');
+        node->modified = files.clock.Now();
+    });
 }
 
 void MemoryOpenFile::Flush()

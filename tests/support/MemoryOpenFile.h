@@ -21,7 +21,9 @@ public:
     qint64 Position() const override;
     void Seek(qint64 newPosition) override;
     qint64 Length() const override;
+    void Resize(qint64 length) override;
     void Flush() override;
+    std::optional<QList<Extent>> Extents() const override { return node->extents; }
     void Close() override;
     void TakeAttributesOf(const OpenFile &other) override;
 

@@ -32,8 +32,12 @@ QString OperationName(Operation operation)
         return u"ReadBytes"_s;
     case Operation::WriteBytes:
         return u"WriteBytes"_s;
+    case Operation::ResizeFile:
+        return u"ResizeFile"_s;
     case Operation::FlushFile:
         return u"FlushFile"_s;
+    case Operation::FlushFolder:
+        return u"FlushFolder"_s;
     case Operation::CloseFile:
         return u"CloseFile"_s;
     case Operation::Replace:

@@ -20,7 +20,9 @@ enum class Operation {
     OpenForWriting, ///< for whatever else than reading alone; the detail tells for what
     ReadBytes, ///< the detail is how many were wanted
     WriteBytes, ///< the detail is how many
+    ResizeFile, ///< the detail is the new length
     FlushFile,
+    FlushFolder,
     CloseFile,
     Replace, ///< the start of it; what is written counts as WriteBytes
     CommitFile, ///< the detail is how many bytes

@@ -11,6 +11,8 @@ namespace tressel {
 Command CompletionsCommand();
 Command CreateCommand();
 Command DatabaseCommand();
+Command EmptyCommand();
+Command EraseCommand();
 Command RenameCommand();
 Command ReportCommand();
 Command SeriesCommand();

@@ -42,6 +42,8 @@ struct FileStatus {
     bool readOnly = false;
     bool hidden = false;
     QDateTime modified;
+    quint64 volume = 0; ///< a number that all on the same volume share
+    quint64 names = 1; ///< how many names (hard links) the file has
 };
 
 enum class Links {
@@ -65,6 +67,14 @@ enum class Sharing {
     Exclusive, ///< fails with 70 at once if another holds the file exclusively
 };
 
+/// A piece of a file, and where it stands on its medium; all in bytes.
+struct Extent {
+    quint64 offset = 0; ///< from the start of the file
+    quint64 place = 0; ///< from the start of the medium
+    quint64 length = 0;
+    bool operator==(const Extent &) const = default;
+};
+
 /// An open file. Closed by its destructor; Close reports what a destructor can't.
 class OpenFile {
 public:
@@ -86,8 +96,16 @@ public:
     /// Fails with 5 for a negative position.
     virtual void Seek(qint64 position) = 0;
     virtual qint64 Length() const = 0;
+    /// Cuts the file, or lets it grow by zeros; the position stays. Fails with 5 for a negative length, with
+    /// 61 on a full disc.
+    virtual void Resize(qint64 length) = 0;
     /// Has the system write everything down to the medium.
     virtual void Flush() = 0;
+    /// What is read next comes from the medium itself, as far as the system lets it.
+    virtual void ForgetCached() { }
+    /// Where the file's bytes stand, by their offsets, without its holes. Nothing where that can't be told,
+    /// or where they aren't the file's alone or stand there in another form, packed or encrypted.
+    virtual std::optional<QList<Extent>> Extents() const { return {}; }
     /// Does nothing for a file that is closed; all else fails with 52 then.
     virtual void Close() = 0;
     /// Takes over rights and time of change of another file of the same file system, as far as they can be
@@ -183,6 +201,9 @@ public:
 
     virtual std::unique_ptr<OpenFile> Open(const QString &path, OpenFor purpose,
                                            Sharing sharing = Sharing::Shared) = 0;
+
+    /// Has the system write down to the medium which entries a folder has.
+    virtual void FlushFolder(const QString &folder) = 0;
 
     /// Starts to put other contents in place of a file's, or to make the file. A link at the end is followed,
     /// as far as the system lets it be. The file keeps its rights, and a file of several names keeps them

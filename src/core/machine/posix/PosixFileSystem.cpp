@@ -143,8 +143,13 @@ std::optional<FileStatus> PosixFileSystem::Status(const QString &path, Links lin
     if (native.Problem() || fstatat(native.Folder(), native.Rest(), &status, flags) != 0)
         return {};
     const EntryKind kind = KindOfMode(status.st_mode);
-    return FileStatus{kind, kind == EntryKind::File ? status.st_size : 0, (status.st_mode & allMayWrite) == 0,
-                      IsHidden(native), TimeOf(status.st_mtim)};
+    return FileStatus{kind,
+                      kind == EntryKind::File ? status.st_size : 0,
+                      (status.st_mode & allMayWrite) == 0,
+                      IsHidden(native),
+                      TimeOf(status.st_mtim),
+                      status.st_dev,
+                      status.st_nlink};
 }
 
 QList<FolderEntry> PosixFileSystem::List(const QString &folder, Lengths lengths)
@@ -160,6 +165,13 @@ QList<FolderEntry> PosixFileSystem::List(const QString &folder, Lengths lengths)
 std::unique_ptr<FolderReader> PosixFileSystem::Read(const QString &folder, Lengths lengths)
 {
     return std::make_unique<PosixFolderReader>(OpenFolder(folder), lengths);
+}
+
+void PosixFileSystem::FlushFolder(const QString &folder)
+{
+    const Descriptor opened = OpenFolder(folder);
+    if (fsync(opened.Number()) != 0 && errno != EINVAL && errno != EROFS)
+        throw Failure(NumberOfError(errno));
 }
 
 std::optional<Failure> PosixFileSystem::TryMakeFolder(const QString &path)

@@ -17,6 +17,7 @@ public:
     std::optional<FileStatus> Status(const QString &path, Links links) override;
     QList<FolderEntry> List(const QString &folder, Lengths lengths = Lengths::LeftOut) override;
     std::unique_ptr<FolderReader> Read(const QString &folder, Lengths lengths = Lengths::LeftOut) override;
+    void FlushFolder(const QString &folder) override;
     std::optional<Failure> TryMakeFolder(const QString &path) override;
     bool MadeAtOnce(const QString &path) override { return !TryMakeFolder(path); }
     std::optional<Failure> TryRemoveFolder(const QString &path) override;

@@ -10,8 +10,14 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstddef>
+#include <fcntl.h>
+#include <linux/fiemap.h>
+#include <linux/fs.h>
 #include <new>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
+#include <vector>
 
 namespace tressel {
 
@@ -104,7 +110,7 @@ qint64 PosixOpenFile::Length() const
     return status.st_size;
 }
 
-void PosixOpenFile::CutTo(qint64 length)
+void PosixOpenFile::Resize(qint64 length)
 {
     if (Retried([&] { return ftruncate(file.Number(), length); }) != 0)
         ThrowError();
@@ -115,6 +121,45 @@ void PosixOpenFile::Flush()
     // A pipe or device has nothing to write down.
     if (Retried([&] { return fsync(file.Number()); }) != 0 && errno != EINVAL && errno != EROFS)
         ThrowError();
+}
+
+void PosixOpenFile::ForgetCached()
+{
+    // A wish: a file system that keeps all in memory has nothing else to read from.
+    posix_fadvise(file.Number(), 0, 0, POSIX_FADV_DONTNEED);
+}
+
+std::optional<QList<Extent>> PosixOpenFile::Extents() const
+{
+    // Asked for a few at a time; see Documentation/filesystems/fiemap.rst of the kernel.
+    constexpr quint32 atOnce = 128;
+    constexpr quint32 notItsOwnBytes = FIEMAP_EXTENT_UNKNOWN | FIEMAP_EXTENT_DELALLOC | FIEMAP_EXTENT_ENCODED
+        | FIEMAP_EXTENT_DATA_ENCRYPTED | FIEMAP_EXTENT_NOT_ALIGNED | FIEMAP_EXTENT_DATA_INLINE
+        | FIEMAP_EXTENT_DATA_TAIL | FIEMAP_EXTENT_SHARED;
+    std::vector<std::byte> room(sizeof(fiemap) + atOnce * sizeof(fiemap_extent));
+    QList<Extent> extents;
+    quint64 from = 0;
+    for (;;) {
+        std::ranges::fill(room, std::byte{0});
+        auto *map = new (room.data()) fiemap{};
+        map->fm_start = from;
+        map->fm_length = FIEMAP_MAX_OFFSET - from;
+        map->fm_flags = FIEMAP_FLAG_SYNC;
+        map->fm_extent_count = atOnce;
+        if (ioctl(file.Number(), FS_IOC_FIEMAP, map) != 0)
+            return {};
+        for (quint32 index = 0; index < map->fm_mapped_extents; ++index) {
+            const fiemap_extent &extent = map->fm_extents[index];
+            if ((extent.fe_flags & notItsOwnBytes) != 0)
+                return {};
+            extents += {extent.fe_logical, extent.fe_physical, extent.fe_length};
+            from = extent.fe_logical + extent.fe_length;
+            if ((extent.fe_flags & FIEMAP_EXTENT_LAST) != 0)
+                return extents;
+        }
+        if (map->fm_mapped_extents == 0)
+            return extents;
+    }
 }
 
 void PosixOpenFile::Close()

@@ -22,14 +22,15 @@ public:
     qint64 Position() const override;
     void Seek(qint64 position) override;
     qint64 Length() const override;
+    void Resize(qint64 length) override;
     void Flush() override;
+    void ForgetCached() override;
+    std::optional<QList<Extent>> Extents() const override;
     void Close() override;
     void TakeAttributesOf(const OpenFile &other) override;
 
     /// What the system knows it by, -1 once it is closed.
     int Number() const { return file.Number(); }
-    /// Gives it this length. Fails with 61 on a full disc.
-    void CutTo(qint64 length);
 
 private:
     /// How many bytes to make room for, to read at most so many.

@@ -266,7 +266,7 @@ void PosixReplacingFile::CopyIntoOld()
             old->Write(piece);
             position += piece.size();
         }
-        old->CutTo(position);
+        old->Resize(position);
         old->Flush();
     } catch (const Failure &) {
         PutBack(before);
@@ -299,7 +299,7 @@ void PosixReplacingFile::PutBack(const QByteArray &before)
     try {
         old->Seek(0);
         old->Write(before);
-        old->CutTo(before.size());
+        old->Resize(before.size());
         old->Flush();
     } catch (const Failure &) {
         // Neither of the two is whole in place: then the new contents stay where they are, beside it.

@@ -10,6 +10,7 @@
 #include "controls/ListBox.h"
 #include "tools/FolderChoice.h"
 #include "tools/ToolContext.h"
+#include "tools/emptyfolders/EmptyFolderSearch.h"
 
 namespace tressel {
 
@@ -38,12 +39,38 @@ public:
     IsButton btnGBToolbarDeleteAll;
     IsButton btnGBToolbarCopy;
 
+    /// The selected folder, empty if none is.
+    QString GetSelectedFolder() const { return ListRemove.Text(); }
+
 private:
     void PlaceIcons();
+    void TieHandlers();
+    void btnGBToolbarSearch_Click();
+    void btnGBToolbarOpenDir_Click();
+    void btnGBToolbarDelDir_Click();
+    void btnGBToolbarDeleteAll_Click();
+    void btnGBToolbarCopy_Click();
+    void ListRemove_DoubleClick();
 
+    void StopSearch();
+    void Search(const QString &root);
+    void EndSearch(const QString &root);
+    void DeleteListed();
+    void DeleteSelected(const QString &folder);
+    /// Removes one folder that is empty; what isn't stays with all that it holds.
+    void RemoveFolder(const QString &folder);
+    void SetFoundButtonsEnabled(bool enabled);
+    void OpenFolder(const QString &folder);
+    void AskForSelection();
+
+    const Machine machine;
+    const ClickSound &clickSound;
     Settings &settings;
+    RunWatch &watch;
     WorkArea &area;
     FolderChoice choice;
+    EmptyFolderSearch search;
+    QString searchedBelow; ///< where the listed folders were found
 };
 
 } // namespace tressel

@@ -10,6 +10,7 @@
 #include "controls/ProgressBar.h"
 #include "controls/Timer.h"
 #include "tools/ToolContext.h"
+#include "tools/erase/FileErasure.h"
 
 namespace tressel {
 
@@ -24,7 +25,17 @@ public:
     PictureBox PicProgress;
     ProgressBar ProgrBar;
     Label lblOverwrite;
-    Timer Timer1;
+    Timer Timer1; ///< keeps the page's state; the main window's layout follows it too
+
+    FileErasure run;
+
+private:
+    void lstErase_Click();
+    void lstErase_DoubleClick();
+    void lstErase_Drop(const QStringList &paths);
+    void Timer1_Tick();
+
+    FileSystem &files;
 };
 
 } // namespace tressel
