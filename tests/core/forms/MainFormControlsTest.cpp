@@ -146,7 +146,7 @@ const Row rows[] = {
     {Is<ListBox>, u"ListRemove", u""},
     {Is<DriveList>, u"DrvListRemove", u""},
     {Is<FolderList>, u"DirListRemove", u""},
-    {Is<IsButton>, u"btnGBToolbarSearch", u"Find Dir", u"", State::Resting},
+    {Is<IsButton>, u"btnGBToolbarSearch", u"Find Dir"},
     {Is<IsButton>, u"btnGBToolbarOpenDir", u"Open Dir", u"", State::Resting},
     {Is<IsButton>, u"btnGBToolbarDelDir", u"Del current", u"", State::Resting},
     {Is<IsButton>, u"btnGBToolbarDeleteAll", u"Delete All", u"", State::Resting},
