@@ -11,7 +11,9 @@ namespace tressel {
 Command CompletionsCommand();
 Command CreateCommand();
 Command DatabaseCommand();
+Command JoinCommand();
 Command ReportCommand();
 Command SeriesCommand();
+Command SplitCommand();
 
 } // namespace tressel
