@@ -23,7 +23,8 @@ namespace {
 
 const QString deleteOption = u"delete-parts"_s;
 
-constexpr qint64 copiedAtOnce = 4 << 20;
+/// Small enough to stay near the processor.
+constexpr qint64 copiedAtOnce = 256 << 10;
 constexpr qint64 longestChecksums = 64 << 20;
 
 /// One join: the parts are looked at as a whole first, then written beside the place of the file.
@@ -78,6 +79,7 @@ private:
 
     QString at; ///< what is being worked on, for whatever fails
     QCryptographicHash whole{QCryptographicHash::Sha256};
+    QByteArray room{copiedAtOnce, Qt::Uninitialized};
     qint64 copied = 0;
     qint64 joined = 0;
     qint64 removed = 0;
@@ -222,7 +224,8 @@ void Join::WritePart(ReplacingFile &output, qint64 number, qint64 length)
     qint64 got = 0;
     for (;;) {
         at = partPath;
-        const QByteArray bytes = part->Read(copiedAtOnce);
+        const auto bytes = QByteArray::fromRawData(
+            room.data(), part->ReadInto({room.data(), static_cast<size_t>(copiedAtOnce)}));
         if (bytes.isEmpty())
             break;
         at = path;

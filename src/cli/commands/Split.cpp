@@ -28,7 +28,8 @@ const QString countOption = u"count"_s;
 const QString batchOption = u"batch"_s;
 const QString checksumsOption = u"checksums"_s;
 
-constexpr qint64 copiedAtOnce = 4 << 20;
+/// Small enough to stay near the processor.
+constexpr qint64 copiedAtOnce = 256 << 10;
 
 /// A whole number from 1 on; nothing for another text, or for one beyond 64 bits.
 std::optional<qint64> WholeNumber(const QString &text)
@@ -119,6 +120,7 @@ private:
     std::unique_ptr<OpenFile> part; ///< the one that is being written
     QCryptographicHash whole{QCryptographicHash::Sha256};
     QByteArray checksums; ///< of the parts so far
+    QByteArray room{copiedAtOnce, Qt::Uninitialized};
     qint64 copied = 0;
     qint64 madeParts = 0;
     QStringList madeOthers;
@@ -230,7 +232,8 @@ void Split::WritePart(OpenFile &source, qint64 number)
     ++madeParts;
     for (qint64 left = LengthOf(number); left > 0;) {
         at = path;
-        const QByteArray bytes = source.Read(std::min(left, copiedAtOnce));
+        const auto wanted = static_cast<size_t>(std::min(left, copiedAtOnce));
+        const auto bytes = QByteArray::fromRawData(room.data(), source.ReadInto({room.data(), wanted}));
         if (bytes.isEmpty())
             throw Failure(FailureNumber::DeviceIoError, u"It changed while it was read"_s);
         at = partPath;
