@@ -63,8 +63,9 @@ int TellUsageError(const UsageError &error, const QString &help, const Surroundi
 
 const QList<Command> &Commands()
 {
-    static const QList<Command> all{CreateCommand(), SeriesCommand(),   ReportCommand(),     SplitCommand(),
-                                    JoinCommand(),   DatabaseCommand(), CompletionsCommand()};
+    static const QList<Command> all{CreateCommand(),   SeriesCommand(),     ReportCommand(),
+                                    RenameCommand(),   SplitCommand(),      JoinCommand(),
+                                    DatabaseCommand(), CompletionsCommand()};
     return all;
 }
 

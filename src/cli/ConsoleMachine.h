@@ -56,8 +56,6 @@ class ConsoleDialogs : public Dialogs {
 public:
     /// The answer to a box; nothing for one that the command knows nothing of.
     std::function<std::optional<BoxAnswer>(const MessageBox &)> onBox;
-    /// What a dialog for opening a file answers with; empty for a command that has no such file.
-    QString namedFile;
 
     BoxAnswer Show(const MessageBox &box) override;
     /// Throws the failure on: it ends the command.

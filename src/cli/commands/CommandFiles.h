@@ -12,6 +12,7 @@ Command CompletionsCommand();
 Command CreateCommand();
 Command DatabaseCommand();
 Command JoinCommand();
+Command RenameCommand();
 Command ReportCommand();
 Command SeriesCommand();
 Command SplitCommand();

@@ -176,7 +176,10 @@ bool Creation::MayBeDone()
 
 std::optional<QString> Creation::WhyNot(const QString &name) const
 {
-    for (const QString &level : MendedName(name).split(u'\\')) {
+    const QString mended = MendedName(name);
+    if (!mended.contains(u'\\'))
+        return WhyNoName(mended);
+    for (const QString &level : mended.split(u'\\')) {
         if (const auto reason = WhyNoName(level))
             return reason;
     }
@@ -185,6 +188,7 @@ std::optional<QString> Creation::WhyNot(const QString &name) const
 
 void Creation::MakeAll()
 {
+    const auto hold = files.Hold(destination);
     tally.Started(names.size());
     // The name that the tree of the list shows last is what a run starts from.
     if (!entries.isEmpty())
@@ -237,6 +241,8 @@ bool Creation::IsThere(const QString &name)
 
 QString Creation::PathOf(const QString &entry) const
 {
+    if (!entry.isEmpty() && !entry.contains(u'\\'))
+        return JoinPath(files, destination, entry);
     const QStringList levels = entry.split(u'\\', Qt::SkipEmptyParts);
     return levels.isEmpty() ? destination : JoinPath(files, destination, levels.join(files.Separator()));
 }

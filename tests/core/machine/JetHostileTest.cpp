@@ -68,7 +68,7 @@ protected:
     {
         Ask([&] {
             for (const DatabaseField &field : databases.Fields(path, table, DatabaseRoad::Newer)) {
-                if (++asked % 3 == 0)
+                if (++asked % 9 == 0)
                     Ask([&] { AllValues(databases, path, table, field.name); });
             }
         });
