@@ -63,9 +63,9 @@ int TellUsageError(const UsageError &error, const QString &help, const Surroundi
 
 const QList<Command> &Commands()
 {
-    static const QList<Command> all{CreateCommand(), SeriesCommand(),     ReportCommand(),
-                                    RenameCommand(), DatabaseCommand(),   EmptyCommand(),
-                                    EraseCommand(),  CompletionsCommand()};
+    static const QList<Command> all{CreateCommand(),   SeriesCommand(),     ReportCommand(), RenameCommand(),
+                                    SplitCommand(),    JoinCommand(),       EraseCommand(),  EmptyCommand(),
+                                    DatabaseCommand(), CompletionsCommand()};
     return all;
 }
 

@@ -103,8 +103,9 @@ Outcome CommandPlace::RunCli(const std::vector<std::string> &arguments, uid_t as
             _exit(99);
         BecomeProgram(arguments);
     }
-    if (!interruptAfter.empty()) {
-        while (!fs::exists(interruptAfter) && waitpid(child, nullptr, WNOHANG) == 0)
+    if (!interruptAfter.empty() || interruptWhen) {
+        const auto isTime = [this] { return interruptWhen ? interruptWhen() : fs::exists(interruptAfter); };
+        while (!isTime() && waitpid(child, nullptr, WNOHANG) == 0)
             sched_yield();
         kill(child, interruptWith);
     }

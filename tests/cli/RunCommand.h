@@ -7,6 +7,7 @@
 
 #include <csignal>
 #include <filesystem>
+#include <functional>
 #include <set>
 #include <string>
 #include <sys/resource.h>
@@ -56,6 +57,7 @@ public:
     std::set<int> closed; ///< descriptors
     std::set<int> ignored; ///< signals
     std::filesystem::path interruptAfter; ///< a run is interrupted as soon as this is there
+    std::function<bool()> interruptWhen; ///< the same, as soon as it says so
     int interruptWith = SIGINT;
     rlim_t longestFile = RLIM_INFINITY; ///< bytes that a file of it may have
 };

@@ -13,8 +13,10 @@ Command CreateCommand();
 Command DatabaseCommand();
 Command EmptyCommand();
 Command EraseCommand();
+Command JoinCommand();
 Command RenameCommand();
 Command ReportCommand();
 Command SeriesCommand();
+Command SplitCommand();
 
 } // namespace tressel

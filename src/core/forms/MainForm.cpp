@@ -77,7 +77,7 @@ MainForm::MainForm(const FormContext &program, OptionForm &allOptions)
     TieSideBar();
     TieLayout();
     Load.Handle([this] { LoadForm(); });
-    QueryUnload.Handle([this](bool &) { SaveSplitterPage(); });
+    QueryUnload.Handle([this](bool &) { SaveSecondStore(); });
     Unloading.Handle([this](bool &refused) { UnloadForm(refused); });
     Unloaded.Handle([this] { EndProgram(); });
 }

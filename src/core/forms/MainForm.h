@@ -147,8 +147,7 @@ private:
     void RestoreBarWidth(Steps &steps);
     void ShowFirstTree(Steps &steps);
     void TakeCommandLine();
-    void FillSplitSizes();
-    void RestoreSplitterPage();
+    void RestoreWindowPlace();
     void RestoreItemVisibility();
 
     // MainFormAppearance.cpp
@@ -157,7 +156,7 @@ private:
     void ApplyPalette(const QString &choice);
 
     // MainFormUnload.cpp: writing back and going, in their fixed orders.
-    void SaveSplitterPage();
+    void SaveSecondStore();
     void UnloadForm(bool &refused);
     void SaveSettings();
     bool ExitsThoughUpdateLoads();

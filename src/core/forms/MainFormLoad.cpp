@@ -60,8 +60,9 @@ void MainForm::RestoreTools(Steps &steps)
 void MainForm::RestoreAppearance()
 {
     TakeCommandLine();
-    FillSplitSizes();
-    RestoreSplitterPage();
+    splitter.FillSplitSizes();
+    RestoreWindowPlace();
+    splitter.Restore();
     frmOption().EnsureLoaded();
     ApplyAppearance();
     RestoreItemVisibility();
@@ -103,24 +104,11 @@ void MainForm::TakeCommandLine()
         splitter.cboFileName.SetText(commandLine);
 }
 
-void MainForm::FillSplitSizes()
-{
-    splitter.cmbSplitSize.SetItems({u"5"_s, u"10"_s, u"50"_s, u"100"_s, u"500"_s, u"1000"_s, u"1200"_s,
-                                    u"1440"_s, u"2000"_s, u"3000"_s});
-}
-
-void MainForm::RestoreSplitterPage()
+void MainForm::RestoreWindowPlace()
 {
     // Overruled again by the appearance.
     Move(settings.ReadInt32(keys::WindowLeft), Top());
     Move(Left(), settings.ReadInt32(keys::WindowTop));
-    splitter.cmbSplitSize.SetText(settings.ReadText(keys::SplitSize));
-    splitter.txtSplitCount.SetText(settings.ReadText(keys::SplitCount));
-    if (settings.ReadBoolean(keys::SplitOption))
-        splitter.optSplit.Select(SplitterPage::FileCount);
-    splitter.chkDeleteParts.SetValue(settings.ReadInt32(keys::DeleteParts));
-    splitter.chkOpenExplorer.SetValue(settings.ReadInt32(keys::OpenExplorer));
-    splitter.chkCopyToFloppy.SetValue(settings.ReadInt32(keys::CopyToFloppy));
 }
 
 void MainForm::RestoreItemVisibility()

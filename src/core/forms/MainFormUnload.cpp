@@ -25,7 +25,7 @@ constexpr int foldedWidth = 1700;
 
 } // namespace
 
-void MainForm::SaveSplitterPage()
+void MainForm::SaveSecondStore()
 {
     // What is half restored isn't what the user left.
     if (!hasLoaded)
@@ -35,12 +35,7 @@ void MainForm::SaveSplitterPage()
         settings.Write(keys::WindowLeft, QString::number(Left()));
         settings.Write(keys::WindowTop, QString::number(Top()));
     }
-    settings.Write(keys::SplitSize, splitter.cmbSplitSize.Text());
-    settings.Write(keys::SplitCount, splitter.txtSplitCount.Text());
-    settings.WriteBoolean(keys::SplitOption, splitter.optSplit.IsSelected(SplitterPage::FileCount));
-    settings.Write(keys::DeleteParts, QString::number(splitter.chkDeleteParts.Value()));
-    settings.Write(keys::OpenExplorer, QString::number(splitter.chkOpenExplorer.Value()));
-    settings.Write(keys::CopyToFloppy, QString::number(splitter.chkCopyToFloppy.Value()));
+    splitter.Save();
 }
 
 void MainForm::UnloadForm(bool &refused)

@@ -70,6 +70,35 @@ void SplitterPage::TieEvents()
     btnGBJoinFile.Click.Handle([this] { btnGBJoinFile_Click(); });
 }
 
+void SplitterPage::FillSplitSizes()
+{
+    cmbSplitSize.SetItems({u"5"_s, u"10"_s, u"50"_s, u"100"_s, u"500"_s, u"1000"_s, u"1200"_s, u"1440"_s,
+                           u"2000"_s, u"3000"_s});
+}
+
+void SplitterPage::Restore()
+{
+    const Settings &settings = context.settings;
+    cmbSplitSize.SetText(settings.ReadText(keys::SplitSize));
+    txtSplitCount.SetText(settings.ReadText(keys::SplitCount));
+    if (settings.ReadBoolean(keys::SplitOption))
+        optSplit.Select(FileCount);
+    chkDeleteParts.SetValue(settings.ReadInt32(keys::DeleteParts));
+    chkOpenExplorer.SetValue(settings.ReadInt32(keys::OpenExplorer));
+    chkCopyToFloppy.SetValue(settings.ReadInt32(keys::CopyToFloppy));
+}
+
+void SplitterPage::Save()
+{
+    Settings &settings = context.settings;
+    settings.Write(keys::SplitSize, cmbSplitSize.Text());
+    settings.Write(keys::SplitCount, txtSplitCount.Text());
+    settings.WriteBoolean(keys::SplitOption, optSplit.IsSelected(FileCount));
+    settings.Write(keys::DeleteParts, QString::number(chkDeleteParts.Value()));
+    settings.Write(keys::OpenExplorer, QString::number(chkOpenExplorer.Value()));
+    settings.Write(keys::CopyToFloppy, QString::number(chkCopyToFloppy.Value()));
+}
+
 void SplitterPage::optSplit_Click()
 {
     const bool byCount = optSplit.IsSelected(FileCount);

@@ -25,6 +25,14 @@ class SplitterPage {
 public:
     explicit SplitterPage(const ToolContext &context);
 
+    /// Fills the list of part sizes.
+    void FillSplitSizes();
+    /// Puts back what the settings hold. A setting that can't be taken ends it with 6, 13 or 380; what was
+    /// done stays.
+    void Restore();
+    /// Writes what Restore reads.
+    void Save();
+
     /// Entries of optSplit: the cut is by the size of a part or by the number of parts.
     enum Cuts { FileSize, FileCount };
 

@@ -34,12 +34,16 @@ QGroupBox *MakeCut()
 
 QGroupBox *MakeEstimates()
 {
-    auto *row = Row();
-    row->addWidget(Part<QLabel>(u"lblEstFileCount(0)"_s));
-    row->addWidget(Part<QLabel>(u"lblEstFileCount(1)"_s), 1);
-    row->addWidget(Part<QLabel>(u"lblEstFileSize(0)"_s));
-    row->addWidget(Part<QLabel>(u"lblEstFileSize(1)"_s), 1);
-    return Group(u"fraEst"_s, row);
+    // Below each other: a size in both units is too long to stand beside the count.
+    auto *grid = new QGridLayout;
+    grid->setHorizontalSpacing(gapWide);
+    grid->setVerticalSpacing(gapSmall);
+    grid->setColumnStretch(1, 1);
+    grid->addWidget(Part<QLabel>(u"lblEstFileCount(0)"_s), 0, 0);
+    grid->addWidget(Part<QLabel>(u"lblEstFileCount(1)"_s), 0, 1);
+    grid->addWidget(Part<QLabel>(u"lblEstFileSize(0)"_s), 1, 0);
+    grid->addWidget(Part<QLabel>(u"lblEstFileSize(1)"_s), 1, 1);
+    return Group(u"fraEst"_s, grid);
 }
 
 QGroupBox *MakeSplitOptions()
@@ -53,14 +57,13 @@ QGroupBox *MakeSplitOptions()
 
 QGroupBox *MakeStatistics()
 {
-    auto *grid = new QGridLayout;
-    grid->setHorizontalSpacing(gapWide);
-    grid->setVerticalSpacing(gapSmall);
-    grid->addWidget(Part<QLabel>(u"lblStart"_s), 0, 0);
-    grid->addWidget(Part<QLabel>(u"lblFinish"_s), 1, 0);
-    grid->addWidget(Part<QLabel>(u"lblElapsed"_s), 0, 1);
-    grid->addWidget(Part<QLabel>(u"lblFileCount"_s), 1, 1);
-    return Group(u"fraStats"_s, grid);
+    // A date with its time leaves no room for a second column in the smallest window.
+    auto *column = Column(gapSmall);
+    column->addWidget(Part<QLabel>(u"lblStart"_s));
+    column->addWidget(Part<QLabel>(u"lblFinish"_s));
+    column->addWidget(Part<QLabel>(u"lblElapsed"_s));
+    column->addWidget(Part<QLabel>(u"lblFileCount"_s));
+    return Group(u"fraStats"_s, column);
 }
 
 QLayout *MakeRun()

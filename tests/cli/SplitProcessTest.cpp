@@ -1,0 +1,191 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+// The built program cuts and joins on the real disc.
+
+#include "RunCommand.h"
+
+#include <array>
+#include <cstdlib>
+#include <fcntl.h>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace tressel;
+namespace fs = std::filesystem;
+
+std::string Pattern(size_t length)
+{
+    std::string bytes(length, '\0');
+    for (size_t index = 0; index < length; ++index)
+        bytes[index] = static_cast<char>(index * 7 + index / 251);
+    return bytes;
+}
+
+class SplitProcess : public testing::Test, protected CommandPlace {
+protected:
+    SplitProcess()
+    {
+        fs::create_directories(folder / "w");
+        workingFolder = folder / "w";
+    }
+    std::set<std::string> Here() const { return Below("w"); }
+    /// Runs a command of the shell in the folder; true if it ended well.
+    bool Shell(const std::string &command) const
+    {
+        return std::system(("cd '" + workingFolder.string() + "' && " + command + " >/dev/null 2>&1").c_str())
+            == 0;
+    }
+};
+
+TEST_F(SplitProcess, EachLengthAndNameComesBack)
+{
+    const std::array<std::string, 5> names{"plain.bin", "with blank", "it's \"100%\"", "raw\xff\xfe",
+                                           "-dash"};
+    for (const size_t length : {1U, 1023U, 1024U, 1025U, 3072U, 5000U}) {
+        for (const std::string &name : names) {
+            const std::string contents = Pattern(length);
+            Put("w/" + name, contents);
+            const Outcome split = RunCli({"split", "--size", "1K", "--checksums", "--", name});
+            ASSERT_EQ(split.status, 0) << split.err;
+            EXPECT_TRUE(Shell("sha256sum -c -- *.sha256"));
+            fs::remove(folder / "w" / name);
+            const Outcome join = RunCli({"join", "--delete-parts", "--", name});
+            EXPECT_EQ(join.status, 0) << join.err;
+            EXPECT_EQ(Contents(folder / "w" / name), contents);
+            EXPECT_EQ(Here(), (std::set<std::string>{name, name + ".sha256"}));
+            fs::remove(folder / "w" / name);
+            fs::remove(folder / "w" / (name + ".sha256"));
+        }
+    }
+}
+
+TEST_F(SplitProcess, PartsAreThoseOfOtherTools)
+{
+    const std::string contents = Pattern(10000);
+    Put("w/a", contents);
+    ASSERT_EQ(RunCli({"split", "a", "--size", "3K"}).status, 0);
+    EXPECT_TRUE(Shell("cat a.1 a.2 a.3 a.4 | cmp - a"));
+    EXPECT_TRUE(Shell("split -b 3K -d a b. && cmp b.00 a.1 && cmp b.01 a.2 && cmp b.02 a.3 && cmp b.03 a.4"));
+    EXPECT_TRUE(Shell("mv b.00 b.1 && mv b.01 b.2 && mv b.02 b.3 && mv b.03 b.4"));
+    EXPECT_EQ(RunCli({"join", "b"}).status, 0);
+    EXPECT_EQ(Contents(folder / "w/b"), contents);
+    EXPECT_TRUE(Shell("split -n 7 -a 1 --numeric-suffixes=1 a c."));
+    EXPECT_EQ(RunCli({"join", "c"}).status, 0);
+    EXPECT_EQ(Contents(folder / "w/c"), contents);
+}
+
+TEST_F(SplitProcess, ThreeGibibytesWithHolesComeBack)
+{
+    constexpr off_t length = (off_t{3} << 30) + 5;
+    const fs::path file = Put("w/big", "head");
+    ASSERT_EQ(truncate(file.c_str(), length), 0);
+    std::fstream(file, std::ios::binary | std::ios::in | std::ios::out).seekp(length - 4) << "tail";
+    const Outcome split = RunCli({"split", "big", "--count", "3"});
+    ASSERT_EQ(split.out, "made 3 parts\n") << split.err;
+    EXPECT_EQ(fs::file_size(folder / "w/big.1"), 1U << 30 | 2U);
+    fs::rename(file, folder / "w/before");
+    ASSERT_EQ(RunCli({"join", "big"}).status, 0);
+    EXPECT_TRUE(Shell("cmp big before"));
+}
+
+TEST_F(SplitProcess, AFileLimitLeavesNoPart)
+{
+    Put("w/a", Pattern(100000));
+    longestFile = 50000;
+    const Outcome outcome = RunCli({"split", "a", "--size", "60000"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.err.find("a.1: "), std::string::npos);
+    EXPECT_EQ(Here(), std::set<std::string>{"a"});
+}
+
+TEST_F(SplitProcess, NamesThatDoNotFitLeaveNothing)
+{
+    const std::string name(254, 'n');
+    Put("w/" + name, Pattern(100));
+    const Outcome outcome = RunCli({"split", name, "--size", "10"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.err.find("It is longer than 255 bytes"), std::string::npos);
+    EXPECT_EQ(Here(), std::set<std::string>{name});
+    const std::string fits(250, 'n');
+    Put("w/" + fits, Pattern(100));
+    EXPECT_EQ(RunCli({"split", fits, "--size", "10"}).status, 0);
+    EXPECT_EQ(RunCli({"join", fits, "--force"}).status, 0);
+}
+
+TEST_F(SplitProcess, WhatIsNoRegularFileIsRefusedAtOnce)
+{
+    ASSERT_EQ(mkfifo((folder / "w/pipe").c_str(), 0600), 0);
+    fs::create_symlink("/dev/zero", folder / "w/device");
+    fs::create_directory(folder / "w/sub");
+    for (const char *name : {"pipe", "device", "sub", "sub/"}) {
+        const Outcome outcome = RunCli({"split", name, "--size", "10"});
+        EXPECT_EQ(outcome.status, 1) << name;
+        EXPECT_NE(outcome.err.find("It is no regular file"), std::string::npos) << name << outcome.err;
+    }
+    ASSERT_EQ(mkfifo((folder / "w/b.1").c_str(), 0600), 0);
+    EXPECT_EQ(RunCli({"join", "b"}).status, 1);
+    EXPECT_EQ(Here(), (std::set<std::string>{"pipe", "device", "sub", "b.1"}));
+}
+
+TEST_F(SplitProcess, AFileOfAnotherIsCutWhereItCanBeRead)
+{
+    Put("w/a", Pattern(100));
+    chmod((folder / "w/a").c_str(), 0444);
+    fs::permissions(folder, fs::perms::all);
+    fs::permissions(folder / "w", fs::perms::all);
+    EXPECT_EQ(RunCli({"split", "a", "--count", "2"}).status, 0);
+}
+
+TEST_F(SplitProcess, ASignalLeavesNoPart)
+{
+    const fs::path file = Put("w/big", "");
+    ASSERT_EQ(truncate(file.c_str(), off_t{2} << 30), 0);
+    interruptAfter = folder / "w/big.1";
+    const Outcome outcome = RunCli({"split", "big", "--size", "1G"});
+    EXPECT_EQ(outcome.status, 130);
+    EXPECT_EQ(outcome.out, "made 0 parts\n");
+    EXPECT_EQ(Here(), std::set<std::string>{"big"});
+}
+
+TEST_F(SplitProcess, AKillInMidJoinLeavesTheOldFileWhole)
+{
+    const fs::path part = Put("w/big.1", "");
+    ASSERT_EQ(truncate(part.c_str(), off_t{2} << 30), 0);
+    Put("w/big", "old and whole");
+    const auto isUnderWay = [this] {
+        for (const auto &entry : fs::directory_iterator(folder / "w")) {
+            if (entry.path().filename() != "big" && entry.path().filename() != "big.1")
+                return entry.file_size() > 0;
+        }
+        return false;
+    };
+    interruptWhen = isUnderWay;
+    interruptWith = SIGKILL;
+    const Outcome outcome = RunCli({"join", "big", "--force", "--delete-parts"});
+    EXPECT_EQ(outcome.status, -SIGKILL);
+    EXPECT_EQ(Contents(folder / "w/big"), "old and whole");
+    EXPECT_EQ(fs::file_size(part), 2U << 30);
+}
+
+TEST_F(SplitProcess, AFullOutputIsAFailure)
+{
+    Put("w/a", Pattern(100));
+    standardOutput = "/dev/full";
+    EXPECT_EQ(RunCli({"split", "a", "--count", "2"}).status, 1);
+}
+
+TEST_F(SplitProcess, ABarIsDrawnWhereThereIsSomebodyToSeeIt)
+{
+    Put("w/a", Pattern(100));
+    errIsTerminal = true;
+    const Outcome outcome = RunCli({"split", "a", "--count", "2"});
+    EXPECT_NE(outcome.err.find("of 100"), std::string::npos) << outcome.err;
+    EXPECT_EQ(outcome.out, "made 2 parts\n");
+}
+
+} // namespace

@@ -1,0 +1,162 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+// The page's runs on the real disc: names and things that the memory machine can't have.
+
+#include "SplitterFixture.h"
+#include "machine/TextFile.h"
+#include "machine/WholeFile.h"
+#include "machine/posix/PosixFileSystem.h"
+#include "support/AsNobody.h"
+#include "support/TemporaryFolder.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace tressel;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class RealDiscSplit : public testing::Test {
+protected:
+    Machine MachineOnDisc()
+    {
+        return {files,          machine.hive,    machine.clock,    machine.sound,
+                machine.shell,  machine.dialogs, machine.events,   machine.clipboard,
+                machine.screen, machine.program, machine.databases};
+    }
+    QString Path(const QString &name) const { return folder.Path() + u'/' + name; }
+    void Put(const QString &name, const QByteArray &contents)
+    {
+        ReplaceContents(files, Path(name), contents);
+    }
+    QByteArray Read(const QString &name) { return files.Open(Path(name), OpenFor::Reading)->Read(1 << 20); }
+    QStringList Names()
+    {
+        QStringList names;
+        for (const FolderEntry &entry : files.List(folder.Path()))
+            names += entry.name;
+        return names;
+    }
+    /// Puts a file that is there into the page and chooses it in the list.
+    void Choose(const QString &name)
+    {
+        tool.page.cboFileName.Clear();
+        tool.page.cboFileName.AddItem(Path(name));
+        tool.page.cboFileName.UserSelects(0);
+    }
+    void ExpectReadError() { machine.dialogs.ExpectBox(u"Split Count: Read Error"_s); }
+
+    const TemporaryFolder folder;
+    MemoryMachine machine;
+    PosixFileSystem files;
+    SplitterTool tool{MachineOnDisc()};
+};
+
+TEST_F(RealDiscSplit, EachLengthAndNameComesBack)
+{
+    const QString odd = u"raw"_s + QChar(0xDCFF) + u".bin"_s;
+    for (const QString &name : {u"plain.bin"_s, u"with blank"_s, u"it's \"100%\""_s, u"a\\b"_s, odd}) {
+        for (const qsizetype length : {1, 1023, 1024, 1025, 3072, 5000}) {
+            const QByteArray contents = QByteArray("0123456789abcdefg").repeated(300).left(length);
+            Put(name, contents);
+            Choose(name);
+            tool.page.chkDeleteParts.SetChecked(true);
+            tool.Split();
+            ASSERT_EQ(tool.Status(), u"Finished"_s);
+            EXPECT_TRUE(Read(name + u".bat"_s)
+                            .contains("REN \"" + EncodeText(name, NameBytes::Raw) + ".1\" \""
+                                      + EncodeText(name, NameBytes::Raw) + "\"\r\n"));
+            files.RemoveFile(Path(name));
+            tool.Join();
+            EXPECT_EQ(Read(name), contents);
+            EXPECT_EQ(Names(), QStringList{name});
+        }
+        files.RemoveFile(Path(name));
+    }
+}
+
+TEST_F(RealDiscSplit, AnEmptyFileGivesTheBatchFileAlone)
+{
+    Put(u"e"_s, {});
+    Choose(u"e"_s);
+    tool.Split();
+    EXPECT_EQ(Names(), (QStringList{u"e"_s, u"e.bat"_s}));
+}
+
+TEST_F(RealDiscSplit, PartNamesThatDoNotFitLeaveNothing)
+{
+    const QString name(254, u'n');
+    Put(name, "contents");
+    Choose(name);
+    tool.Split();
+    EXPECT_EQ(tool.Count(), u"Split Count: Write Error"_s);
+    EXPECT_EQ(Names(), QStringList{name});
+}
+
+TEST_F(RealDiscSplit, APipeAndADeviceAreReadErrors)
+{
+    ASSERT_EQ(mkfifo(folder.Native("pipe").constData(), 0600), 0);
+    ASSERT_EQ(symlink("/dev/zero", folder.Native("device").constData()), 0);
+    for (const QString &name : {u"pipe"_s, u"device"_s}) {
+        Choose(name);
+        ExpectReadError();
+        tool.Split();
+    }
+    EXPECT_EQ(Names(), (QStringList{u"device"_s, u"pipe"_s}));
+}
+
+TEST_F(RealDiscSplit, PartsOfALinkStandBesideIt)
+{
+    ASSERT_FALSE(files.TryMakeFolder(Path(u"far"_s)));
+    Put(u"far/b"_s, "12345");
+    ASSERT_EQ(symlink("far/b", folder.Native("link").constData()), 0);
+    Choose(u"link"_s);
+    tool.Split();
+    EXPECT_EQ(Read(u"link.1"_s), "12345");
+    EXPECT_EQ(files.List(Path(u"far"_s)).size(), 1);
+}
+
+TEST_F(RealDiscSplit, ALinkInAPartsPlaceGoesAndItsTargetStays)
+{
+    Put(u"letter"_s, "mine");
+    Put(u"a"_s, "12345");
+    ASSERT_EQ(symlink("letter", folder.Native("a.1").constData()), 0);
+    ASSERT_EQ(symlink("nowhere", folder.Native("a.bat").constData()), 0);
+    Choose(u"a"_s);
+    tool.Split();
+    EXPECT_EQ(Read(u"letter"_s), "mine");
+    EXPECT_EQ(Read(u"a.1"_s), "12345");
+    EXPECT_EQ(Names(), (QStringList{u"a"_s, u"a.1"_s, u"a.bat"_s, u"letter"_s}));
+}
+
+TEST_F(RealDiscSplit, AFileThatCannotBeWrittenIsAReadError)
+{
+    Put(u"a"_s, "12345");
+    ASSERT_EQ(chmod(folder.Native("a").constData(), 0444), 0);
+    ASSERT_EQ(chmod(folder.Native("").constData(), 0777), 0);
+    Choose(u"a"_s);
+    const bool wasTold = HoldsAsNobody([this] {
+        ExpectReadError();
+        tool.Split();
+        return tool.Count() == u"Split Count: Read Error"_s && machine.dialogs.AllCame();
+    });
+    EXPECT_TRUE(wasTold);
+    EXPECT_EQ(Names(), QStringList{u"a"_s});
+}
+
+TEST_F(RealDiscSplit, TheProcessKeepsItsFolder)
+{
+    std::array<char, 4096> before{};
+    ASSERT_TRUE(getcwd(before.data(), before.size()));
+    Put(u"a"_s, "12345");
+    Choose(u"a"_s);
+    tool.Split();
+    std::array<char, 4096> after{};
+    ASSERT_TRUE(getcwd(after.data(), after.size()));
+    EXPECT_EQ(before, after);
+    EXPECT_EQ(tool.session.CurrentFolder, folder.Path() + u'/');
+}
+
+} // namespace
