@@ -17,6 +17,7 @@ namespace {
 
 class Information : public testing::Test {
 protected:
+    Information() { bench.options.OptSound.Select(0); }
     void Put(const QString &name, const QString &value)
     {
         machine.hive.Put(SettingsHive::Root::Machine, SystemFactsKeyPath.toString(), name, value);

@@ -239,9 +239,8 @@ TEST_F(About, AClickOnTheMailAddressBeginsAMailWithTheTitleAsSubject)
     AboutForm &form = Opened();
     form.lblTitle.SetCaption(u"Tressel & more"_s);
     form.lblEMail.UserClicks();
-    const JournalEntry last = machine.journal.Entries().last();
-    EXPECT_EQ(last.about, u"mailto:me@home.example?subject=Tressel%20%26%20more"_s);
-    EXPECT_EQ(last.detail, u"C:\\"_s);
+    EXPECT_TRUE(
+        machine.journal.Lines().contains(u"Open mailto:me@home.example?subject=Tressel%20%26%20more C:\\"_s));
 }
 
 TEST_F(About, TheLogoChangesWhileItIsPressed)

@@ -159,6 +159,7 @@ TEST_F(Update, APressThatReachesTextAndBoxOpensThePageOnce)
 TEST_F(Update, TheToolbarOpensThePageAndLeavesTheNotice)
 {
     ServerHas(u"5.1451"_s);
+    options.OptSound.Select(0);
     Activate();
     form.btnGBToolbarUpdate.UserClicks();
     EXPECT_TRUE(update.PicUpdate.IsVisible());
