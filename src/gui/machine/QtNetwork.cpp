@@ -25,7 +25,7 @@ constexpr qint64 longestText = 64 << 10;
 
 bool IsPlainHttp(const QUrl &address)
 {
-    return address.isValid() && address.scheme() == u"http" && !address.host().isEmpty();
+    return address.isValid() && address.scheme() == u"http"_s && !address.host().isEmpty();
 }
 
 QNetworkRequest RequestFor(const QUrl &address)
@@ -84,7 +84,8 @@ public:
             loop.exec(QEventLoop::ExcludeUserInputEvents);
         if (cancelled)
             return std::nullopt;
-        TakeBytes();
+        if (reply->error() == QNetworkReply::NoError)
+            TakeBytes();
         const bool failed = reply->error() != QNetworkReply::NoError || bytes.size() > longestText;
         return failed ? QString() : DecodeText(bytes);
     }

@@ -21,7 +21,7 @@ QWidget *MakeLogo()
 {
     auto *place = new QWidget;
     place->setObjectName(u"layoutLogo"_s);
-    place->setFixedSize(LogoPicture::size);
+    place->setFixedSize(LogoPicture::extent);
     for (LogoPicture *logo : {new LogoPicture(u"picLogo"_s, false), new LogoPicture(u"picLogo2"_s, true)})
         logo->setParent(place);
     return place;

@@ -21,8 +21,8 @@ public:
 
     QString text(QAccessible::Text kind) const override
     {
-        const auto *notice = qobject_cast<NoticeBox *>(widget());
-        return kind == QAccessible::Name && notice ? notice->Text().trimmed() : QAccessibleWidget::text(kind);
+        return kind == QAccessible::Name ? widget()->property("text").toString().trimmed()
+                                         : QAccessibleWidget::text(kind);
     }
     QStringList actionNames() const override
     {
@@ -46,7 +46,7 @@ public:
 QAccessibleInterface *MakeInterface(const QString &, QObject *object)
 {
     if (auto *link = qobject_cast<LinkLabel *>(object))
-        return new ClickAccessible(link, QAccessible::Link, link->text());
+        return new ClickAccessible(link, QAccessible::Link);
     if (auto *notice = qobject_cast<NoticeBox *>(object))
         return new ClickAccessible(notice, QAccessible::Button);
     return nullptr;

@@ -75,7 +75,7 @@ void Desktop::MakeWindow(Form &form)
         machine.screen.SetMainWindow(window.get());
     auto face = std::make_unique<WindowFace>(form, *window, makers, machine.updates);
     shown.push_back({std::move(window), std::move(face)});
-    if (form.Name() == u"frmAbout")
+    if (form.Name() == u"frmAbout"_s)
         form.Activate.Also([this] { PutAboutBeforeMain(); });
 }
 

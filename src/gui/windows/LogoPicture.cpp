@@ -13,7 +13,7 @@ LogoPicture::LogoPicture(const QString &name, bool isPressed)
     : pressed(isPressed)
 {
     setObjectName(name);
-    resize(size);
+    resize(extent);
 }
 
 void LogoPicture::paintEvent(QPaintEvent *)

@@ -12,7 +12,7 @@ class LogoPicture : public QWidget {
 public:
     LogoPicture(const QString &name, bool isPressed);
 
-    static constexpr QSize size{80, 80};
+    static constexpr QSize extent{80, 80};
 
 protected:
     void paintEvent(QPaintEvent *event) override;

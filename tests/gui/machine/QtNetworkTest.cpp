@@ -185,7 +185,7 @@ private Q_SLOTS:
             QCOMPARE(network.FetchText(address), std::optional(QString()));
     }
 
-    void PaintingGoesOnWhileUserInputWaits()
+    void WhatIsNoUserInputGoesOnMeanwhile()
     {
         SmallServer server({QByteArray()});
         QtNetwork network(300ms);
@@ -202,7 +202,7 @@ private Q_SLOTS:
         SmallServer server({QByteArray()});
         QtNetwork network;
         QTimer::singleShot(50ms, &server, [&] { network.Cancel(); });
-        QCOMPARE(network.FetchText(server.Address()), std::nullopt);
+        QVERIFY(!network.FetchText(server.Address()).has_value());
     }
 
     void ATransferWithinAnotherTakesItsPlace()
@@ -215,7 +215,7 @@ private Q_SLOTS:
             network.Cancel();
             inner = network.FetchText(server.Address());
         });
-        QCOMPARE(network.FetchText(silent.Address()), std::nullopt);
+        QVERIFY(!network.FetchText(silent.Address()).has_value());
         QCOMPARE(inner, std::optional(u"5.1451"_s));
     }
 };
