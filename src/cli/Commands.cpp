@@ -63,7 +63,8 @@ int TellUsageError(const UsageError &error, const QString &help, const Surroundi
 
 const QList<Command> &Commands()
 {
-    static const QList<Command> all{CreateCommand(), SeriesCommand(), ReportCommand(), CompletionsCommand()};
+    static const QList<Command> all{CreateCommand(), SeriesCommand(),   ReportCommand(),
+                                    RenameCommand(), DatabaseCommand(), CompletionsCommand()};
     return all;
 }
 

@@ -49,7 +49,6 @@ public:
     void FailAs(const QString &sentence);
     /// A sentence that is no failure, unless it is to be quiet.
     void Aside(const QString &sentence);
-    bool IsQuiet() const { return isQuiet; }
     bool EndsInNul() const { return lineEnd == '\0'; }
 
     /// Whether anything failed so far.

@@ -22,9 +22,7 @@ void ConsoleDialogs::ShowFatal(int number, const QString &description)
 
 std::optional<FileDialogAnswer> ConsoleDialogs::OpenFile(const FileDialogRequest &request)
 {
-    if (namedFile.isEmpty())
-        throw Unanswered{request.title};
-    return FileDialogAnswer{{namedFile}, request.folder};
+    throw Unanswered{request.title};
 }
 
 std::optional<FileDialogAnswer> ConsoleDialogs::SaveFile(const FileDialogRequest &request)

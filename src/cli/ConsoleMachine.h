@@ -50,8 +50,6 @@ class NoScreen : public Screen {
 public:
     int Left() const override { return 0; }
     int Top() const override { return 0; }
-    int Left() const override { return 0; }
-    int Top() const override { return 0; }
     int Width() const override { return 0; }
     int Height() const override { return 0; }
 };
@@ -67,8 +65,6 @@ class ConsoleDialogs : public Dialogs {
 public:
     /// The answer to a box; nothing for one that the command knows nothing of.
     std::function<std::optional<BoxAnswer>(const MessageBox &)> onBox;
-    /// What a dialog for opening a file answers with; empty for a command that has no such file.
-    QString namedFile;
 
     BoxAnswer Show(const MessageBox &box) override;
     /// Throws the failure on: it ends the command.

@@ -69,7 +69,8 @@ std::optional<QString> WhyNoName(const QString &name)
 {
     if (name.contains(QChar(u'\0')))
         return u"No name can hold a NUL character"_s;
-    if (EncodeText(name, NameBytes::Raw).size() > longestName)
+    // No character has more than three bytes.
+    if (name.size() * 3 > longestName && EncodeText(name, NameBytes::Raw).size() > longestName)
         return u"It is longer than 255 bytes, the most that a name can be"_s;
     return {};
 }

@@ -37,6 +37,7 @@ QString ReportOutput::Shown(const QString &name) const
 void ReportOutput::WriteLine(const QString &line)
 {
     const qsizetype before = held.size();
+    held.reserve(2 * heldAtMost);
     held.resize(before + line.size() * 3);
     held.truncate(WriteUtf8(line, NameBytes::Raw, held.data() + before) - held.constData());
     held += end;

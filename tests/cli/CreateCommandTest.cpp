@@ -56,6 +56,22 @@ TEST_F(CreateCommand, NamesOfAFolderAreItsFiles)
     EXPECT_EQ(Made(), (std::set<std::string>{"a", "b\xFF"}));
 }
 
+TEST_F(CreateCommand, NameOfAFileNeverLeadsOut)
+{
+    fs::create_directories(folder / "in");
+    Put("in/x\\..\\..\\..\\escaped", "");
+    const Outcome outcome = RunCli({"create", "--to", To(), "--names-of", folder / "in"});
+    EXPECT_EQ(outcome.out, "made 1, already there 0, failed 0\n");
+    EXPECT_EQ(Made(), (std::set<std::string>{"x_.._.._.._escaped"}));
+}
+
+TEST_F(CreateCommand, ListLineNeverLeadsOut)
+{
+    RunCli({"create", "--to", To(), "--list", Put("l.txt", "..\\..\\escaped\n")});
+    EXPECT_EQ(Made(), (std::set<std::string>{"__", "__/__", "__/__/escaped"}));
+    EXPECT_FALSE(fs::exists(folder / "escaped"));
+}
+
 TEST_F(CreateCommand, ShortEntryWithRemoveExtLeavesAllUnmade)
 {
     const Outcome outcome = RunCli({"create", "--to", To(), "--remove-ext", "one.txt", "abc", "two.txt"});

@@ -55,6 +55,16 @@ TEST_F(Create, EntryNeverLeadsOutOfTheDestination)
                            u"x\\__\\y\\"_s}));
 }
 
+TEST_F(Create, PlantedLinkIsNotGoneThrough)
+{
+    memory.files.PutFolder(u"C:\\Else"_s);
+    memory.files.PutLink(u"C:\\Work\\out\\link"_s, u"C:\\Else"_s);
+    const Ended ended = Into({u"link\\x"_s});
+    EXPECT_EQ(ended.status, SomethingFailed);
+    EXPECT_EQ(ended.out, "made 0, already there 0, failed 1\n");
+    EXPECT_EQ(Below(u"C:\\Else"_s), QStringList());
+}
+
 TEST_F(Create, ExistingFolderGivesTheNameBeforeItASuffix)
 {
     memory.files.PutFolder(u"C:\\Work\\out\\b"_s);

@@ -117,6 +117,15 @@ TEST_F(Series, TextsThatLeadOutOrCannotBeNamesAreRefused)
     EXPECT_EQ(Changes(), 0);
 }
 
+TEST_F(Series, PlantedLinkIsNotGoneThrough)
+{
+    memory.files.PutFolder(u"C:\\Else\\In"_s);
+    memory.files.PutLink(u"C:\\Work\\w\\Disk1"_s, u"C:\\Else"_s);
+    EXPECT_EQ(Act(u"delete"_s, u"1"_s, u"1"_s, {u"--sub"_s, u"In"_s}).out.left(10), "removed 0,");
+    EXPECT_EQ(Act(u"make"_s, u"1"_s, u"1"_s, {u"--sub"_s, u"New"_s}).status, SomethingFailed);
+    EXPECT_EQ(Below(u"C:\\Else"_s), QStringList{u"In\\"_s});
+}
+
 TEST_F(Series, MissingFolderIsNamed)
 {
     const Ended ended =

@@ -105,4 +105,20 @@ QByteArray SampleDatabase()
     return writer.Bytes();
 }
 
+QByteArray LongDatabase(std::int64_t rows)
+{
+    WrittenTable table{u"Rows"_s,
+                       {{u"Number"_s, fieldTypes::Long},
+                        {u"Name"_s, fieldTypes::Text, 60},
+                        {u"Price"_s, fieldTypes::Money},
+                        {u"Since"_s, fieldTypes::Date}}};
+    for (std::int64_t number = 0; number < rows; ++number) {
+        table.rows.append({{number, u"The name of a folder %1"_s.arg(number), MoneyValue{number * 100},
+                            DateValue{36526 + static_cast<double>(number % 3000)}}});
+    }
+    JetWriter writer;
+    writer.AddTable(table);
+    return writer.Bytes();
+}
+
 } // namespace tressel

@@ -10,6 +10,8 @@ namespace tressel {
 // One for each file of this folder.
 Command CompletionsCommand();
 Command CreateCommand();
+Command DatabaseCommand();
+Command RenameCommand();
 Command ReportCommand();
 Command SeriesCommand();
 

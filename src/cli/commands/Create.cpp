@@ -9,7 +9,9 @@
 #include "commands/CommandFiles.h"
 #include "controls/FileList.h"
 #include "language/FolderPaths.h"
+#include "machine/Databases.h"
 #include "machine/Paths.h"
+#include "tools/database/ValueText.h"
 #include "tools/folders/CreationRules.h"
 
 #include <limits>
@@ -22,6 +24,9 @@ namespace {
 
 const QString listOption = u"list"_s;
 const QString namesOfOption = u"names-of"_s;
+const QString databaseOption = u"database"_s;
+const QString tableOption = u"table"_s;
+const QString fieldOption = u"field"_s;
 const QString removeExtension = u"remove-ext"_s;
 
 /// The list is read by a 16-bit index.
@@ -59,6 +64,7 @@ private:
 
     bool ReadEntries();
     void ReadList(const QString &file);
+    void ReadField(const QString &file);
     void Take(const QString &line);
     bool MayBeDone();
     std::optional<QString> WhyNot(const QString &name) const;
@@ -91,13 +97,16 @@ bool Creation::ReadEntries()
 {
     const auto list = arguments.Value(listOption);
     const auto folder = arguments.Value(namesOfOption);
-    const QString source = list ? *list : folder.value_or(QString());
+    const auto database = arguments.Value(databaseOption);
+    const QString source = list ? *list : folder ? *folder : database.value_or(QString());
     try {
         if (list)
             ReadList(*list);
         else if (folder)
             for (const QString &name : ShownFiles(files, console.Path(*folder)))
                 entries += EntryOfName(name);
+        else if (database)
+            ReadField(*database);
         else
             entries = arguments.Operands();
     } catch (const Failure &failure) {
@@ -113,6 +122,24 @@ void Creation::ReadList(const QString &file)
             entries += line;
         else
             Take(line);
+    }
+}
+
+/// Each row gives one entry, as the window has it. A row without a text is one that can't be made.
+void Creation::ReadField(const QString &file)
+{
+    const ValueWriter writer{QLocale()};
+    const auto reader = console.machine.databases.Read(console.Path(file), arguments.Need(tableOption),
+                                                       arguments.Need(fieldOption));
+    qint64 row = 0;
+    while (const auto value = reader->Next()) {
+        ++row;
+        try {
+            entries += writer.Text(*value);
+        } catch (const Failure &) {
+            console.Fail(file, u"Row %1 has no text"_s.arg(row));
+        }
+        console.BetweenSteps();
     }
 }
 
@@ -149,7 +176,10 @@ bool Creation::MayBeDone()
 
 std::optional<QString> Creation::WhyNot(const QString &name) const
 {
-    for (const QString &level : MendedName(name).split(u'\\')) {
+    const QString mended = MendedName(name);
+    if (!mended.contains(u'\\'))
+        return WhyNoName(mended);
+    for (const QString &level : mended.split(u'\\')) {
         if (const auto reason = WhyNoName(level))
             return reason;
     }
@@ -158,6 +188,7 @@ std::optional<QString> Creation::WhyNot(const QString &name) const
 
 void Creation::MakeAll()
 {
+    const auto hold = files.Hold(destination);
     tally.Started(names.size());
     // The name that the tree of the list shows last is what a run starts from.
     if (!entries.isEmpty())
@@ -210,6 +241,8 @@ bool Creation::IsThere(const QString &name)
 
 QString Creation::PathOf(const QString &entry) const
 {
+    if (!entry.isEmpty() && !entry.contains(u'\\'))
+        return JoinPath(files, destination, entry);
     const QStringList levels = entry.split(u'\\', Qt::SkipEmptyParts);
     return levels.isEmpty() ? destination : JoinPath(files, destination, levels.join(files.Separator()));
 }
@@ -229,9 +262,14 @@ void Creation::TellCount()
 int Run(const Arguments &arguments, Console &console)
 {
     const int sources = (arguments.Has(listOption) ? 1 : 0) + (arguments.Has(namesOfOption) ? 1 : 0)
-        + (arguments.Operands().isEmpty() ? 0 : 1);
+        + (arguments.Has(databaseOption) ? 1 : 0) + (arguments.Operands().isEmpty() ? 0 : 1);
     if (sources != 1)
-        throw UsageError{u"create takes its names from one of --list FILE, --names-of DIR or NAME..."_s};
+        throw UsageError{
+            u"create takes its names from one of --list FILE, --names-of DIR, --database FILE or NAME..."_s};
+    const bool hasParts = arguments.Has(tableOption) && arguments.Has(fieldOption);
+    const bool hasAPart = arguments.Has(tableOption) || arguments.Has(fieldOption);
+    if (arguments.Has(databaseOption) ? !hasParts : hasAPart)
+        throw UsageError{u"--database FILE, --table TABLE and --field FIELD go together"_s};
     return Creation(arguments, console).Run();
 }
 
@@ -242,7 +280,8 @@ Command CreateCommand()
     return {
         u"create"_s,
         u"makes one folder for each name"_s,
-        {u"--to DIR NAME..."_s, u"--to DIR --list FILE"_s, u"--to DIR --names-of DIR"_s},
+        {u"--to DIR NAME..."_s, u"--to DIR --list FILE"_s, u"--to DIR --names-of DIR"_s,
+         u"--to DIR --database FILE --table TABLE --field FIELD"_s},
         uR"(Makes one folder in DIR for each name. "\" in a name stands between nested folders; characters that no
 folder name may hold become "_". What exists is left as it is; for a name that exists, a folder is made
 that is called as the one before it, with (1) behind, as the window does. A list that can't be read, and a
@@ -252,6 +291,9 @@ if it isn't there, isn't counted.)"_s,
          {listOption, u"FILE"_s,
           u"names from a text file, one a line; lines that start with \";\" are\ncomments; - is standard input"_s},
          {namesOfOption, u"DIR"_s, u"the names of the files in a folder"_s},
+         {databaseOption, u"FILE"_s, u"the values of one field of a database"_s},
+         {tableOption, u"TABLE"_s, u"the table of that field"_s},
+         {fieldOption, u"FIELD"_s, u"its name"_s},
          {removeExtension,
           {},
           u"what the window's \"Remove Ext\" does: a list file loses extensions of\nthree letters as it is "

@@ -100,6 +100,7 @@ void Report::WriteTo(ReportOutput &output)
 
 void Report::WriteAll(ReportOutput &output)
 {
+    const auto hold = files.Hold(folder);
     for (const QString &line : ReportHeader(style))
         output.WriteLine(line);
     FolderWalk walk(files, folder, WriteBlock(output, folder));

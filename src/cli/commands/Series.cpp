@@ -134,6 +134,7 @@ std::optional<QString> Series::WhyNot(const QString &text) const
 
 void Series::ForEachTarget()
 {
+    const auto hold = files.Hold(naming.folder);
     FolderMaker maker(console, tally, isDryRun);
     RemovalPlan plan(console, tally);
     NumberedSeries series(files, naming, first, last, run);

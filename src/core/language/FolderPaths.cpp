@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// In the order in which they are replaced. Kept: the second one is the control character 9.
+/// Kept: the second one is the control character 9.
 constexpr std::array<char16_t, 9> illegalCharacters{u'/', u'\t', u':', u'*', u'?', u'"', u'<', u'>', u'|'};
 
 const QString levelUp = u".."_s;
@@ -35,9 +35,13 @@ void Tell(const LevelTried &tried, Steps &steps, const QString &level, const std
 
 QString MendedName(const QString &name)
 {
+    const auto isIllegal = [](QChar character) {
+        return std::ranges::find(illegalCharacters, character.unicode()) != illegalCharacters.end();
+    };
     QString mended = name;
-    for (const char16_t character : illegalCharacters)
-        mended.replace(QChar(character), QChar(u'_'));
+    // Most names have nothing to mend and stay shared.
+    if (std::ranges::any_of(name, isIllegal))
+        std::ranges::replace_if(mended, isIllegal, QChar(u'_'));
     if (!LeadsOut(mended))
         return mended;
     QStringList levels = mended.split(u'\\');

@@ -34,6 +34,7 @@ struct FileDialogRequest {
     QString defaultExtension; ///< with or without its dot
     bool several = false; ///< several files may be chosen, all of which exist
     bool askBeforeOverwriting = false;
+    bool mayBeMissing = false; ///< in an open dialog: a file that isn't there may be named too
     bool centreOnOwner = true; ///< else on the screen
 };
 

@@ -12,10 +12,10 @@
 #include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QScreen>
 
-#include <algorithm>
 #include <utility>
 
 namespace tressel {
@@ -71,28 +71,41 @@ QMessageBox::StandardButton ToButton(BoxAnswer answer)
     return QMessageBox::Ok;
 }
 
-/// A dialog for what is there already. What is typed is first looked for as it stands; only a name that
-/// isn't there is looked for with the default extension.
+QString WithoutDot(const QString &extension)
+{
+    return extension.startsWith(u'.') ? extension.mid(1) : extension;
+}
+
+/// The path of what is there: as it stands, or else with the extension behind it.
+QString Found(const QString &path, const QString &extension)
+{
+    const QString extended = path + u'.' + extension;
+    return !QFileInfo::exists(path) && QFileInfo::exists(extended) ? extended : path;
+}
+
+/// A dialog for what is there already. Its extension is no default suffix of the toolkit's, which would come
+/// to every name without a dot, whether there is a file of that name or not.
 class OpenDialog : public QFileDialog {
 public:
-    explicit OpenDialog(QWidget *owner)
+    OpenDialog(QWidget *owner, QString defaultExtension)
         : QFileDialog(owner)
+        , extension(std::move(defaultExtension))
     {
     }
 
 protected:
     void accept() override
     {
-        const QString extension = defaultSuffix();
-        setDefaultSuffix({});
-        const QStringList typed = selectedFiles();
-        if (!std::ranges::all_of(typed, [](const QString &path) { return QFileInfo::exists(path); }))
-            setDefaultSuffix(extension);
+        auto *edit = findChild<QLineEdit *>(u"fileNameEdit"_s);
+        if (edit
+            && Found(directory().absoluteFilePath(edit->text()), extension)
+                != directory().absoluteFilePath(edit->text()))
+            edit->setText(edit->text() + u'.' + extension);
         QFileDialog::accept();
-        // A folder was entered: the dialog is still up.
-        if (result() != QDialog::Accepted)
-            setDefaultSuffix(extension);
     }
+
+private:
+    QString extension;
 };
 
 BoxAnswer FirstAnswer(BoxButtons buttons)
@@ -155,9 +168,11 @@ void QtDialogs::ShowFatal(int number, const QString &description)
 
 std::optional<FileDialogAnswer> QtDialogs::OpenFile(const FileDialogRequest &request)
 {
-    OpenDialog dialog(Owner());
+    OpenDialog dialog(Owner(), WithoutDot(request.defaultExtension));
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
-    dialog.setFileMode(request.several ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
+    dialog.setFileMode(request.several            ? QFileDialog::ExistingFiles
+                           : request.mayBeMissing ? QFileDialog::AnyFile
+                                                  : QFileDialog::ExistingFile);
     return AskForFile(dialog, request);
 }
 
@@ -182,10 +197,8 @@ std::optional<FileDialogAnswer> QtDialogs::AskForFile(QFileDialog &dialog, const
         dialog.setNameFilters(filters);
         dialog.selectNameFilter(filters.at(FirstFilter(request)));
     }
-    QString extension = request.defaultExtension;
-    if (extension.startsWith(u'.'))
-        extension.remove(0, 1);
-    dialog.setDefaultSuffix(extension);
+    if (dialog.acceptMode() == QFileDialog::AcceptSave)
+        dialog.setDefaultSuffix(WithoutDot(request.defaultExtension));
     StartAt(dialog, request.folder);
     StartWithName(dialog, request.fileName);
     if (Run(dialog, request.centreOnOwner) != QDialog::Accepted || dialog.selectedFiles().isEmpty())

@@ -316,18 +316,6 @@ TEST_F(MainFormLoad, EntryOfButtonStyleGivesAllButtonsTheirLook)
     }
 }
 
-TEST_F(MainFormLoad, SecondInstanceSharesTheStoreAndTheLastToCloseWins)
-{
-    Start();
-    Application second(machine.machine);
-    second.Start();
-    Area().txtStrtPath.SetText(u"C:\\First"_s);
-    second.frmMain().area.txtStrtPath.SetText(u"C:\\Second"_s);
-    EXPECT_THROW(second.frmMain().Unload(), ProcessEnded);
-    Leave();
-    EXPECT_EQ(application.settings.ReadText(keys::FilePath), u"C:\\First"_s);
-}
-
 TEST_F(MainFormLoad, ListOfTheLastSessionComesBack)
 {
     machine.files.PutFile(u"C:\\Lists\\names.txt"_s, "one\r\ntwo\r\n");

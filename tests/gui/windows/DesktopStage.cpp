@@ -12,6 +12,8 @@ DesktopStage::DesktopStage()
     desktop = std::make_unique<Desktop>(program, hive);
     Put(keys::ShowTips, QStringLiteral("0"));
     Put(keys::Sound, QStringLiteral("1"));
+    // The program folder of a test has no database, and a box of what is missing would wait for an answer.
+    Put(keys::DatabaseFile, QString());
 }
 
 void DesktopStage::Put(const KeyEntry &key, const QString &text)

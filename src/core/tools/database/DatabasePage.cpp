@@ -130,6 +130,7 @@ QString DatabasePage::GetMdbFileName(const QString &StartDir)
     request.filterIndex = 2;
     request.defaultExtension = u".mdb"_s;
     request.fileName = u"*.mdb"_s;
+    request.mayBeMissing = true;
     const auto answer = context.machine.dialogs.OpenFile(request);
     if (!answer)
         throw Failure(cancelled, u"Cancel was selected."_s);

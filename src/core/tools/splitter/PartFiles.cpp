@@ -42,7 +42,13 @@ std::unique_ptr<OpenFile> OpenOrMake(FileSystem &files, const QString &path, Lin
     // A pipe would give no end of waiting, and a device no end of bytes.
     if (status->kind != EntryKind::File)
         throw Failure(FailureNumber::PathFileAccessError);
-    return files.Open(path, OpenFor::Changing, Sharing::Exclusive);
+    const auto itself = files.Status(path, Links::Keep);
+    if (!itself || itself->kind != EntryKind::Link)
+        return files.Open(path, OpenFor::Changing, Sharing::Exclusive);
+    // Behind a link nothing is written, but what can't be written is refused as anywhere else.
+    if (status->readOnly)
+        throw Failure(FailureNumber::PathFileAccessError);
+    return files.Open(path, OpenFor::Reading, Sharing::Exclusive);
 }
 
 QByteArray MakeRoom(qint64 bytes)

@@ -143,7 +143,7 @@ TEST_F(DatabasePageTest, AsksForAFile)
     EXPECT_EQ(request.filterIndex, 2);
     EXPECT_EQ(request.defaultExtension, u".mdb"_s);
     EXPECT_EQ(request.fileName, u"*.mdb"_s);
-    EXPECT_FALSE(request.mustExist);
+    EXPECT_TRUE(request.mayBeMissing);
     EXPECT_FALSE(request.several);
     EXPECT_EQ(Page().txtDatabaseFile.Text(), shop);
     EXPECT_EQ(Page().OpenDBPath, u"C:\\Data"_s);

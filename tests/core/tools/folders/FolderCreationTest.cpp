@@ -76,6 +76,17 @@ TEST_F(FolderCreation, NamesAreMendedAndNested)
         (QStringList{u"a_b"_s, u"Mail_ 1_2"_s, u"Sales"_s, u"Sales\\2004"_s, u"Sales\\2004\\Q1"_s, u"x"_s}));
 }
 
+TEST_F(FolderCreation, NoEntryLeadsOutOfTheDestination)
+{
+    machine.files.PutFolder(u"C:\\there"_s);
+    List({u"..\\..\\escaped"_s, u"x\\..\\..\\..\\there"_s, u"..\\there"_s});
+    PressCreate();
+    EXPECT_EQ(Folders(),
+              (QStringList{u"__"_s, u"__\\__"_s, u"__\\__\\escaped"_s, u"__\\there"_s, u"x"_s, u"x\\__"_s,
+                           u"x\\__\\__"_s, u"x\\__\\__\\__"_s, u"x\\__\\__\\__\\there"_s}));
+    EXPECT_EQ(machine.files.Tree(u"C:\\"_s).filter(u"escaped"_s).size(), 1);
+}
+
 TEST_F(FolderCreation, RemoveExtCutsFourCharactersWhateverTheyAre)
 {
     Area().chkExtension.SetChecked(true);

@@ -132,7 +132,8 @@ TEST_F(SplitterPageTest, AFileOverTwoGigabytesIsRefused)
         LengthyFiles files(machine.journal, machine.clock, length);
         files.PutFile(u"C:\\W\\big.iso"_s);
         SplitterTool tool({files, machine.hive, machine.clock, machine.sound, machine.shell, machine.dialogs,
-                           machine.events, machine.clipboard, machine.screen, machine.program});
+                           machine.events, machine.clipboard, machine.screen, machine.program,
+                           machine.databases});
         machine.dialogs.ExpectOpenFile(u"C:\\W\\big.iso"_s);
         machine.dialogs.ExpectBox(
             {u"This file is over 2 GB and for big to split, tip! use winzip or something to split up"_s,
