@@ -48,7 +48,8 @@ struct MemoryMachine {
     MemoryNetwork network{journal};
 
     /// The same as the tools see it; good for as long as this lives.
-    Machine machine{files, hive, clock, sound, shell, dialogs, events, clipboard, screen, program, databases, network};
+    Machine machine{files,  hive,      clock,  sound,   shell,     dialogs,
+                    events, clipboard, screen, program, databases, network};
 };
 
 } // namespace tressel
