@@ -56,7 +56,8 @@ ConsoleMachine::ConsoleMachine(FileSystem &fileSystem, Clock &systemClock, Progr
 
 Machine ConsoleMachine::AsMachine()
 {
-    return {files, hive, clock, sound, shell, dialogs, events, clipboard, screen, program, databases};
+    return {files,  hive,      clock,  sound,   shell,     dialogs,
+            events, clipboard, screen, program, databases, network};
 }
 
 } // namespace tressel

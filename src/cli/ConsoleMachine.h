@@ -7,6 +7,7 @@
 #include "machine/Dialogs.h"
 #include "machine/Events.h"
 #include "machine/Machine.h"
+#include "machine/Network.h"
 #include "machine/Program.h"
 #include "machine/Screen.h"
 #include "machine/Shell.h"
@@ -35,6 +36,14 @@ class NoClipboard : public Clipboard {
 public:
     void SetText(const QString &) override { }
     QString Text() const override { return {}; }
+};
+
+/// Nothing is fetched for a command line.
+class NoNetwork : public Network {
+public:
+    bool IsOnline() override { return false; }
+    std::optional<QString> FetchText(const QString &) override { return QString(); }
+    void Cancel() override { }
 };
 
 class NoScreen : public Screen {
@@ -115,6 +124,7 @@ private:
     NoShell shell;
     NoClipboard clipboard;
     NoScreen screen;
+    NoNetwork network;
 };
 
 } // namespace tressel

@@ -12,6 +12,7 @@
 #include "support/MemoryEvents.h"
 #include "support/MemoryFileSystem.h"
 #include "support/MemoryHive.h"
+#include "support/MemoryNetwork.h"
 #include "support/MemoryProgram.h"
 #include "support/MemoryScreen.h"
 #include "support/MemoryShell.h"
@@ -44,9 +45,11 @@ struct MemoryMachine {
     MemoryScreen screen;
     MemoryProgram program{journal};
     MemoryDatabases databases{journal};
+    MemoryNetwork network{journal};
 
     /// The same as the tools see it; good for as long as this lives.
-    Machine machine{files, hive, clock, sound, shell, dialogs, events, clipboard, screen, program, databases};
+    Machine machine{files,  hive,      clock,  sound,   shell,     dialogs,
+                    events, clipboard, screen, program, databases, network};
 };
 
 } // namespace tressel

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "base/Version.h"
 #include "forms/FormContext.h"
 #include "forms/OptionForm.h"
 #include "language/Session.h"
@@ -22,7 +23,7 @@ public:
     explicit ToolBench(const Machine &machine, RunWatch *heardBy = nullptr)
         : settings(machine)
         , clickSound(machine, options.OptSound)
-        , program{machine, settings, session, clickSound, heardBy ? *heardBy : silence}
+        , program{machine, settings, session, clickSound, heardBy ? *heardBy : silence, version}
     {
     }
 
@@ -37,6 +38,7 @@ public:
     OptionForm options;
     ClickSound clickSound;
     RunWatch silence;
+    VersionBlock version;
     FormContext program;
     Form form{QStringLiteral("frmMain")};
     WorkArea area{form};

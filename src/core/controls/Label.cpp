@@ -34,6 +34,12 @@ void Label::SetBold(bool isBold)
     NoteChanged();
 }
 
+void Label::SetFontFamily(const QString &family)
+{
+    fontFamily = family;
+    NoteChanged();
+}
+
 void Label::UserClicks()
 {
     UserAct([this] { Click.Raise(); });

@@ -25,6 +25,10 @@ public:
     bool IsBold() const { return bold; }
     void SetBold(bool isBold);
 
+    /// The family of its font; empty for the window's own.
+    const QString &FontFamily() const { return fontFamily; }
+    void SetFontFamily(const QString &family);
+
     Event<> Change;
     Event<> Click;
     Event<> Resize; ///< the label grew or shrank with its text
@@ -36,6 +40,7 @@ public:
 
 private:
     QString caption;
+    QString fontFamily;
     bool bold = false;
     ColourNumber foreColor = NumberOf(SystemColour::ButtonText);
 };

@@ -21,6 +21,11 @@ void PictureBox::UserMovesMouse(int buttons, int x)
     UserAct([&] { MouseMove.Raise(buttons, x); });
 }
 
+void PictureBox::UserPressesMouse()
+{
+    UserAct([this] { MouseDown.Raise(); });
+}
+
 void PictureBox::UserReleasesMouse()
 {
     UserAct([this] { MouseUp.Raise(); });

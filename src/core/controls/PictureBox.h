@@ -21,11 +21,13 @@ public:
     /// The buttons held (leftButton or a sum with others; 0 for none) and the mouse's place in the box,
     /// in twips from its left edge.
     Event<int, int> MouseMove;
+    Event<> MouseDown; ///< the left button went down
     Event<> MouseUp;
     Event<> Click;
 
     // For faces.
     void UserMovesMouse(int buttons, int x);
+    void UserPressesMouse();
     void UserReleasesMouse();
     void UserClicks();
 

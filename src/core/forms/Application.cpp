@@ -20,7 +20,7 @@ Application::Application(const Machine &onMachine, std::function<void(Form &)> f
     , machine(onMachine)
     , formMade(std::move(formMadeHook))
     , clickSound(machine, optionForm.OptSound)
-    , context{machine, settings, session, clickSound, watch ? *watch : silence}
+    , context{machine, settings, session, clickSound, watch ? *watch : silence, version}
 {
 }
 
@@ -86,22 +86,29 @@ MainForm &Application::frmMain()
 {
     if (mainForm)
         return *mainForm;
-    return Keep(mainForm, std::make_unique<MainForm>(context, frmOption()));
+    auto made = std::make_unique<MainForm>(context, frmOption());
+    made->AboutWanted.Handle([this] { frmAbout().Show(); });
+    return Keep(mainForm, std::move(made));
 }
 
 TipForm &Application::frmTip()
 {
     if (tipForm)
         return *tipForm;
-    return Keep(tipForm,
-                std::make_unique<TipForm>(
-                    context, [this](int value) { frmAbout().chkLoadTipsAtStartup.SetValue(value); },
-                    [this] { frmMain().Show(); }));
+    return Keep(
+        tipForm,
+        std::make_unique<TipForm>(
+            context,
+            TipForm::Others{
+                .tipsSwitched = [this](int value) { frmAbout().chkLoadTipsAtStartup.SetValue(value); },
+                .showAbout = [this] { frmAbout().Show(); },
+                .unloaded = [this] { frmMain().Show(); },
+            }));
 }
 
 AboutForm &Application::frmAbout()
 {
-    return aboutForm ? *aboutForm : Keep(aboutForm, std::make_unique<AboutForm>(context));
+    return aboutForm ? *aboutForm : Keep(aboutForm, std::make_unique<AboutForm>(context, frmOption()));
 }
 
 template <typename F> F &Application::Keep(std::unique_ptr<F> &place, std::unique_ptr<F> made)

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "base/Version.h"
 #include "forms/AboutForm.h"
 #include "forms/FormContext.h"
 #include "forms/MainForm.h"
@@ -39,6 +40,7 @@ public:
 
     Session session;
     Settings settings;
+    VersionBlock version; ///< as it was built
 
 private:
     void Main();

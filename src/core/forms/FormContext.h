@@ -11,6 +11,7 @@ class ClickSound;
 class RunWatch;
 class Settings;
 struct Session;
+struct VersionBlock;
 
 /// What every form of the program takes: the one root's things, of which there is one each. All of it
 /// outlives the forms.
@@ -20,6 +21,7 @@ struct FormContext {
     Session &session;
     const ClickSound &clickSound;
     RunWatch &watch; ///< hears what the tools' runs do
+    const VersionBlock &version;
 };
 
 } // namespace tressel

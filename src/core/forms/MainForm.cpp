@@ -65,8 +65,7 @@ MainForm::MainForm(const FormContext &program, OptionForm &allOptions)
     , PicStrip(*this, u"PicStrip"_s)
     , PicHold(*this, u"PicHold"_s)
     , PicStatus(*this, u"PicStatus"_s)
-    , PicUpdate(*this, u"PicUpdate"_s)
-    , lblUpdate(*this, u"lblUpdate"_s, u"New version"_s)
+    , update(context, program.version)
     , FrameXPMenu{&browse.page,   &rename.page,       &numbered.page, &FrameXPMenu3,
                   &database.page, &emptyFolders.page, &FrameXPMenu6,  &splitter.page}
 {
@@ -77,6 +76,7 @@ MainForm::MainForm(const FormContext &program, OptionForm &allOptions)
     TieSideBar();
     TieLayout();
     Load.Handle([this] { LoadForm(); });
+    Activate.Handle([this] { update.CheckForUpdate(); });
     QueryUnload.Handle([this](bool &) { SaveSecondStore(); });
     Unloading.Handle([this](bool &refused) { UnloadForm(refused); });
     Unloaded.Handle([this] { EndProgram(); });
@@ -90,17 +90,6 @@ void MainForm::SetFirstValues()
     PicStrip.SetWidth(barWidth);
 
     btnGBToolbarOption.SetEnabled(false);
-    btnGBToolbarUpdate.SetEnabled(false);
-    btnGBToolbarAbout.SetEnabled(false);
-
-    const QString notice = u"Clcik here for new update"_s;
-    PicUpdate.SetVisible(false);
-    PicUpdate.SetToolTip(notice);
-    PicUpdate.SetBackColor(0x0000FF); // red
-    lblUpdate.SetToolTip(notice);
-    lblUpdate.SetForeColor(0x00FFFF); // yellow
-    lblUpdate.SetBold(true);
-    PicUpdate.SetHandPointer(true);
     Picture4.SetVisible(false);
 }
 
@@ -124,6 +113,8 @@ void MainForm::TieToolbar()
     btnGBToolbarCreate.Click.Handle([this] { btnGBToolbarCreate_Click(); });
     btnGBToolbarLoadList.Click.Handle([this] { btnGBToolbarLoadList_Click(); });
     btnGBToolbarBrowse.Click.Handle([this] { btnGBToolbarBrowse_Click(); });
+    btnGBToolbarUpdate.Click.Handle([this] { btnGBToolbarUpdate_Click(); });
+    btnGBToolbarAbout.Click.Handle([this] { btnGBToolbarAbout_Click(); });
     btnGBToolbarExit.Click.Handle([this] { btnGBToolbarExit_Click(); });
 }
 
@@ -172,6 +163,18 @@ void MainForm::btnGBToolbarBrowse_Click()
                                            FolderExists(machine.files, present) ? present : QString());
     if (!folder.isEmpty())
         area.txtStrtPath.SetText(folder);
+}
+
+void MainForm::btnGBToolbarUpdate_Click()
+{
+    clickSound.Play();
+    update.OpenDownloadPage();
+}
+
+void MainForm::btnGBToolbarAbout_Click()
+{
+    clickSound.Play();
+    AboutWanted.Raise();
 }
 
 void MainForm::btnGBToolbarExit_Click()

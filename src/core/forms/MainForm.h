@@ -23,6 +23,7 @@
 #include "tools/numbered/NumberedPage.h"
 #include "tools/rename/RenamePage.h"
 #include "tools/splitter/SplitterPage.h"
+#include "tools/update/UpdateCheck.h"
 
 #include <array>
 
@@ -85,10 +86,11 @@ public:
     PictureBox PicStrip; ///< the split bar: all that stands left of it follows its left edge
     PictureBox PicHold; ///< the grip on the split bar
     PictureBox PicStatus;
-    PictureBox PicUpdate; ///< the notice of a newer version
-    Label lblUpdate;
+    UpdateCheck update; ///< its notice stands in the status band
 
     const std::array<Frame *, 8> FrameXPMenu; ///< the pages by their numbers
+
+    Event<> AboutWanted; ///< the About button was pressed
 
     // MainFormAppearance.cpp
 
@@ -136,6 +138,8 @@ private:
     void btnGBToolbarCreate_Click();
     void btnGBToolbarLoadList_Click();
     void btnGBToolbarBrowse_Click();
+    void btnGBToolbarUpdate_Click();
+    void btnGBToolbarAbout_Click();
     void btnGBToolbarExit_Click();
     void chkExtension_Click();
 

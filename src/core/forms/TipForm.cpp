@@ -27,8 +27,7 @@ const QString builtInTips =
 
 } // namespace
 
-TipForm::TipForm(const FormContext &context, std::function<void(int)> tipsSwitched,
-                 std::function<void()> unloaded)
+TipForm::TipForm(const FormContext &context, Others toOthers)
     : Form(u"frmTip"_s)
     , Picture1(*this, u"Picture1"_s)
     , Image1(*this, u"Image1"_s)
@@ -40,12 +39,16 @@ TipForm::TipForm(const FormContext &context, std::function<void(int)> tipsSwitch
     , chkLoadTipsAtStartup(*this, u"chkLoadTipsAtStartup"_s, u"&Show Tips at Startup"_s)
     , files(context.machine.files)
     , program(context.machine.program)
+    , others(std::move(toOthers))
 {
     SetCaption(u"Tip of the Day"_s);
-    // The window that it opens isn't there yet.
-    cmdAbout.SetEnabled(false);
     Load.Handle([this] { LoadForm(); });
-    Unloaded.Handle(std::move(unloaded));
+    Unloaded.Handle([this] { others.unloaded(); });
+    TieControls(context);
+}
+
+void TipForm::TieControls(const FormContext &context)
+{
     cmdNextTip.Click.Handle([this, &clickSound = context.clickSound] {
         clickSound.Play();
         NextTip();
@@ -54,33 +57,39 @@ TipForm::TipForm(const FormContext &context, std::function<void(int)> tipsSwitch
         clickSound.Play();
         Unload();
     });
-    chkLoadTipsAtStartup.Click.Handle(
-        [this, &settings = context.settings, tipsSwitched = std::move(tipsSwitched)] {
-            settings.Write(keys::ShowTips, QString::number(chkLoadTipsAtStartup.Value()));
-            tipsSwitched(chkLoadTipsAtStartup.Value());
-        });
+    cmdAbout.Click.Handle([this, &clickSound = context.clickSound] {
+        clickSound.Play();
+        others.showAbout();
+    });
+    chkLoadTipsAtStartup.Click.Handle([this, &settings = context.settings] {
+        settings.Write(keys::ShowTips, QString::number(chkLoadTipsAtStartup.Value()));
+        others.tipsSwitched(chkLoadTipsAtStartup.Value());
+    });
 }
 
 void TipForm::LoadForm()
 {
-    if (LoadTips(JoinPath(files, program.Folder(), u"TIPOFDAY.TXT"_s))) {
-        cmdNextTip.SetEnabled(true);
-        NextTip();
-    } else {
-        cmdNextTip.SetEnabled(false);
+    const bool failed = LoadTips(JoinPath(files, program.Folder(), u"TIPOFDAY.TXT"_s));
+    cmdNextTip.SetEnabled(!failed);
+    if (failed)
         lblTipText.SetCaption(builtInTips);
-    }
+    else
+        NextTip();
 }
 
 bool TipForm::LoadTips(const QString &path)
 {
-    if (!FileExists(files, path))
-        return false;
-    LineReader reader(files, path, NameBytes::Escaped, largestProgramText);
-    while (const auto line = reader.Next())
-        tips += *line;
-    reader.Close();
-    return true;
+    if (path.isEmpty() || !FileExists(files, path))
+        return true;
+    try {
+        LineReader reader(files, path, NameBytes::Escaped, largestProgramText);
+        while (const auto line = reader.Next())
+            tips += *line;
+        reader.Close();
+    } catch (const Failure &) {
+        return true;
+    }
+    return false;
 }
 
 void TipForm::DisplayCurrentTip()

@@ -20,10 +20,14 @@ struct FormContext;
 /// The small window that can open before the main one and shows one line of TIPOFDAY.TXT at a time.
 class TipForm : public Form {
 public:
-    /// `tipsSwitched` is called with the check box's value after each click on it, `unloaded` when the
-    /// window has gone, in whatever way.
-    TipForm(const FormContext &context, std::function<void(int)> tipsSwitched,
-            std::function<void()> unloaded);
+    /// What the window asks of the others.
+    struct Others {
+        std::function<void(int)> tipsSwitched; ///< called with the check box's value after each click on it
+        std::function<void()> showAbout;
+        std::function<void()> unloaded; ///< called when the window has gone, in whatever way
+    };
+
+    TipForm(const FormContext &context, Others others);
 
     Frame Picture1; ///< holds the picture
     Frame Image1;
@@ -35,14 +39,17 @@ public:
     CheckBox chkLoadTipsAtStartup;
 
 private:
+    void TieControls(const FormContext &context);
     void LoadForm();
+    /// True if the file can't be used: there is none, or it can't be read.
     bool LoadTips(const QString &path);
     void DisplayCurrentTip();
     void NextTip();
 
     FileSystem &files;
     const Program &program;
-    QStringList tips;
+    const Others others;
+    QStringList tips; ///< filled once
     std::int32_t currentTip = 0;
 };
 

@@ -11,6 +11,7 @@ class Databases;
 class Dialogs;
 class Events;
 class FileSystem;
+class Network;
 class Program;
 class Screen;
 class SettingsHive;
@@ -31,6 +32,7 @@ struct Machine {
     Screen &screen;
     Program &program;
     Databases &databases;
+    Network &network;
 };
 
 } // namespace tressel

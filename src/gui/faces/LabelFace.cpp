@@ -30,6 +30,11 @@ void LabelFace::Show()
         font.setBold(true);
         view.setFont(font);
     }
+    if (!label.FontFamily().isEmpty() && view.font().family() != label.FontFamily()) {
+        QFont font = view.font();
+        font.setFamily(label.FontFamily());
+        view.setFont(font);
+    }
     label.TakeWidth(ToTwips(view.sizeHint().width()));
     ShowForeColor();
 }

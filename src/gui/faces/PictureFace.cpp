@@ -34,6 +34,9 @@ bool PictureFace::eventFilter(QObject *watched, QEvent *event)
         Hand([&] { box.UserMovesMouse(buttons, x); });
         return true;
     }
+    if (event->type() == QEvent::MouseButtonPress
+        && static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton)
+        Hand([this] { box.UserPressesMouse(); });
     if (event->type() == QEvent::MouseButtonRelease) {
         const auto *release = static_cast<QMouseEvent *>(event);
         const bool isClick =

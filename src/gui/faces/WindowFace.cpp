@@ -198,9 +198,10 @@ void WindowFace::TellGeometry()
 
 void WindowFace::TellActivation()
 {
-    const bool fromAnother = updates.lastActive && updates.lastActive != this;
+    const bool isFirst = !updates.lastActive;
     updates.lastActive = this;
-    if (!std::exchange(activationTold, false) && fromAnother)
+    // Back from another window, be it this program's or another one's.
+    if (!std::exchange(activationTold, false) && !isFirst)
         form.UserActivates();
 }
 

@@ -18,7 +18,8 @@ DesktopMachine::DesktopMachine(Program &runningProgram, SettingsHive &settingsHi
 
 Machine DesktopMachine::AsMachine()
 {
-    return {files, hive, clock, sound, shell, dialogs, events, clipboard, screen, program, databases};
+    return {files,  hive,      clock,  sound,   shell,     dialogs,
+            events, clipboard, screen, program, databases, network};
 }
 
 } // namespace tressel

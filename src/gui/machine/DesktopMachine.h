@@ -10,6 +10,7 @@
 #include "machine/QtClipboard.h"
 #include "machine/QtDialogs.h"
 #include "machine/QtEvents.h"
+#include "machine/QtNetwork.h"
 #include "machine/QtScreen.h"
 #include "machine/posix/JetDatabases.h"
 #include "machine/posix/PosixClock.h"
@@ -40,6 +41,7 @@ private:
     QtDialogs dialogs;
     QtEvents events;
     QtClipboard clipboard;
+    QtNetwork network;
     JetDatabases databases;
 };
 

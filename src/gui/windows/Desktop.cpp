@@ -8,9 +8,12 @@
 #include "widgets/OwnKinds.h"
 #include "widgets/ProgramIcons.h"
 #include "widgets/SystemColours.h"
+#include "windows/AboutWindow.h"
 #include "windows/MainWindow.h"
 #include "windows/SplitBar.h"
 #include "windows/TipWindow.h"
+
+#include <QWindow>
 
 #include <algorithm>
 
@@ -47,6 +50,8 @@ std::unique_ptr<QWidget> WindowOf(const Form &form)
         return std::make_unique<MainWindow>(*mainForm);
     if (dynamic_cast<const TipForm *>(&form))
         return std::make_unique<TipWindow>();
+    if (dynamic_cast<const AboutForm *>(&form))
+        return std::make_unique<AboutWindow>();
     return nullptr;
 }
 
@@ -70,6 +75,19 @@ void Desktop::MakeWindow(Form &form)
         machine.screen.SetMainWindow(window.get());
     auto face = std::make_unique<WindowFace>(form, *window, makers, machine.updates);
     shown.push_back({std::move(window), std::move(face)});
+    if (form.Name() == u"frmAbout"_s)
+        form.Activate.Also([this] { PutAboutBeforeMain(); });
+}
+
+void Desktop::PutAboutBeforeMain()
+{
+    const WindowFace *about = FaceOf(u"frmAbout"_s);
+    const WindowFace *main = FaceOf(u"frmMain"_s);
+    QWindow *owner = main ? main->Window().windowHandle() : nullptr;
+    if (!owner)
+        return;
+    about->Window().winId(); // It may never have been shown.
+    about->Window().windowHandle()->setTransientParent(owner);
 }
 
 const WindowFace *Desktop::FaceOf(const QString &formName) const

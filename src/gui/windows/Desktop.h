@@ -37,6 +37,8 @@ private:
     };
 
     void MakeWindow(Form &form);
+    /// The main window owns the About window, which so stays before it.
+    void PutAboutBeforeMain();
 
     Program &program;
     SettingsHive &hive;

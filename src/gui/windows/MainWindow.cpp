@@ -9,6 +9,7 @@
 #include "widgets/IsButtonWidget.h"
 #include "widgets/ProgramIcons.h"
 #include "widgets/SideBarWidget.h"
+#include "windows/ClickPlaces.h"
 #include "windows/ElidedLabel.h"
 #include "windows/HintedViews.h"
 #include "windows/Parts.h"
@@ -207,11 +208,8 @@ QWidget *MainWindow::MakeStatus()
     constexpr int noticeDistance = 20;
     auto *line = Part<ElidedLabel>(u"lblStatusLine"_s);
 
-    auto *notice = Part<QWidget>(u"PicUpdate"_s);
-    auto *noticeRow = Row(0);
-    noticeRow->setContentsMargins(gapSmall, 0, gapSmall, 0);
-    noticeRow->addWidget(Part<QLabel>(u"lblUpdate"_s));
-    notice->setLayout(noticeRow);
+    auto *notice = Part<NoticeBox>(u"PicUpdate"_s);
+    notice->SetLabel(Part<ElidedLabel>(u"lblUpdate"_s));
 
     auto *row = Row(0);
     row->setContentsMargins(gap, gapSmall, gap, gapSmall);

@@ -7,6 +7,8 @@
 #include "widgets/ProgramIcons.h"
 #include "windows/Parts.h"
 
+#include <QScrollArea>
+
 namespace tressel {
 
 using namespace Qt::StringLiterals;
@@ -42,15 +44,22 @@ QLabel *MakeHeading()
     return heading;
 }
 
-QLabel *MakeText()
+/// The tip; one that is too long for the window scrolls.
+QScrollArea *MakeText()
 {
     constexpr int roomForFourLongLines = 136;
     auto *text = WrappedLabel(u"lblTipText"_s);
     Enlarge(*text, 1.1, false);
     text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    text->setMinimumHeight(roomForFourLongLines);
     text->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    return text;
+    auto *area = new QScrollArea;
+    area->setObjectName(u"layoutTip"_s);
+    area->setAccessibleName(u"Tip"_s);
+    area->setWidget(text);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setMinimumHeight(roomForFourLongLines);
+    return area;
 }
 
 } // namespace

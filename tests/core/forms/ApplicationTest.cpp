@@ -111,46 +111,6 @@ TEST_F(Start, TextInANumericKeyStopsTheStart)
     EXPECT_THROW(application.Start(), ProcessEnded);
 }
 
-TEST_F(Start, TipBoxIsStoredAtOnceAndMirrored)
-{
-    application.Start();
-    application.frmTip().chkLoadTipsAtStartup.UserToggles();
-    EXPECT_FALSE(application.frmAbout().chkLoadTipsAtStartup.IsChecked());
-    EXPECT_EQ(application.settings.ReadInt32(keys::ShowTips), 0);
-}
-
-TEST_F(Start, TipsComeFromTheFileInTurn)
-{
-    machine.files.PutFile(u"C:\\Tressel\\TIPOFDAY.TXT"_s, "one\r\ntwo\r\nthree\r\n");
-    application.Start();
-    TipForm &tip = application.frmTip();
-    QStringList seen{tip.lblTipText.Caption()};
-    for (int press = 0; press < 3; ++press) {
-        tip.cmdNextTip.UserClicks();
-        seen += tip.lblTipText.Caption();
-    }
-    EXPECT_EQ(seen, (QStringList{u"one"_s, u"two"_s, u"three"_s, u"one"_s}));
-}
-
-TEST_F(Start, WithoutAFileAllBuiltInTipsShow)
-{
-    application.Start();
-    EXPECT_FALSE(application.frmTip().cmdNextTip.IsEnabled());
-    EXPECT_EQ(application.frmTip().lblTipText.Caption().count(u'\n'), 4);
-    EXPECT_TRUE(application.frmTip().lblTipText.Caption().startsWith(u"1. If you will create a folder"_s));
-}
-
-TEST_F(Start, TipButtonsAreHeard)
-{
-    application.Start();
-    application.frmTip().cmdNextTip.SetEnabled(true);
-    application.frmTip().cmdNextTip.UserClicks();
-    EXPECT_EQ(machine.journal.Count(u"Play"_s), 1);
-    application.frmOption().OptSound.Select(1);
-    application.frmTip().cmdOK.UserClicks();
-    EXPECT_EQ(machine.journal.Count(u"Play"_s), 1);
-}
-
 TEST_F(Start, FailureThatNobodyHandlesEndsTheProcess)
 {
     TipsOff();

@@ -42,8 +42,8 @@ const Row rows[] = {
     {Is<IsButton>, u"btnGBToolbarLoadList", u"Load List"},
     {Is<IsButton>, u"btnGBToolbarBrowse", u"Browse"},
     {Is<IsButton>, u"btnGBToolbarOption", u"Option", u"", State::Resting},
-    {Is<IsButton>, u"btnGBToolbarUpdate", u"Update", u"", State::Resting},
-    {Is<IsButton>, u"btnGBToolbarAbout", u"About", u"", State::Resting},
+    {Is<IsButton>, u"btnGBToolbarUpdate", u"Update"},
+    {Is<IsButton>, u"btnGBToolbarAbout", u"About"},
     {Is<IsButton>, u"btnGBToolbarExit", u"Exit"},
     {Is<Frame>, u"FrmeSep(0)", u""},
     {Is<Frame>, u"FrmeSep(1)", u""},
@@ -267,10 +267,10 @@ TEST_F(MainFormTest, PagesStandUnderTheirNumbers)
 
 TEST_F(MainFormTest, TheUpdateNoticeIsYellowOnRed)
 {
-    EXPECT_EQ(form.PicUpdate.BackColor(), 0x0000FFU);
-    EXPECT_EQ(form.lblUpdate.ForeColor(), 0x00FFFFU);
-    EXPECT_TRUE(form.lblUpdate.IsBold());
-    EXPECT_TRUE(form.PicUpdate.HasHandPointer());
+    EXPECT_EQ(form.update.PicUpdate.BackColor(), 0x0000FFU);
+    EXPECT_EQ(form.update.lblUpdate.ForeColor(), 0x00FFFFU);
+    EXPECT_TRUE(form.update.lblUpdate.IsBold());
+    EXPECT_TRUE(form.update.PicUpdate.HasHandPointer());
 }
 
 TEST_F(MainFormTest, TheTimerFiresTenTimesASecond)

@@ -213,6 +213,24 @@ private Q_SLOTS:
         QCOMPARE(told, QStringList({u"first"_s, u"second"_s, u"first"_s}));
     }
 
+    void ComingBackFromAWindowOfNoFormActivatesToo()
+    {
+        Form form(u"frmMain"_s);
+        int activations = 0;
+        form.Activate.Handle([&] { ++activations; });
+        Bound bound(form);
+        bound.Bind();
+        QVERIFY(QTest::qWaitForWindowActive(&bound.window));
+        QCOMPARE(activations, 1);
+        QWidget stranger;
+        stranger.show();
+        stranger.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&stranger));
+        bound.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&bound.window));
+        QCOMPARE(activations, 2);
+    }
+
     void TheKeyboardComesBackToWhatWasDisabled()
     {
         Form form(u"f"_s);

@@ -295,7 +295,7 @@ private Q_SLOTS:
     {
         DesktopStage stage;
         stage.Start();
-        stage.Form().PicUpdate.SetVisible(true);
+        stage.Form().update.PicUpdate.SetVisible(true);
         const auto &line = stage.Face<QLabel>(u"lblStatusLine"_s);
         const auto &notice = stage.Face<QWidget>(u"PicUpdate"_s);
         for (const QString &text : {u"Ready"_s, u"Finished, folders created successfully"_s, u"x"_s}) {

@@ -44,7 +44,7 @@ protected:
     MemoryMachine machine;
     ListingTool tool{Machine{files, machine.hive, machine.clock, machine.sound, machine.shell,
                              machine.dialogs, machine.events, machine.clipboard, machine.screen,
-                             machine.program, machine.databases}};
+                             machine.program, machine.databases, machine.network}};
 };
 
 TEST_F(RealDiscListingTest, ATreeOfTwoThousandLevels)

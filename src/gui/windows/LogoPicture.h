@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QWidget>
+
+namespace tressel {
+
+/// One state of the logo: the program's picture, or the same pressed in.
+class LogoPicture : public QWidget {
+public:
+    LogoPicture(const QString &name, bool isPressed);
+
+    static constexpr QSize extent{80, 80};
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    const bool pressed;
+};
+
+} // namespace tressel
