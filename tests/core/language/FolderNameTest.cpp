@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 #include "language/FolderPaths.h"
-
 #include "support/Text.h"
 
 #include <gtest/gtest.h>
