@@ -32,6 +32,7 @@ MainForm::MainForm(const FormContext &program, OptionForm &allOptions)
     , settings(program.settings)
     , session(program.session)
     , optionForm(allOptions)
+    , catalogue(program.catalogue)
     , options(allOptions.Live())
     , clickSound(program.clickSound)
     , FrmeToolbar(*this, u"FrmeToolbar"_s)
@@ -76,6 +77,7 @@ MainForm::MainForm(const FormContext &program, OptionForm &allOptions)
     TiePathRow();
     TieSideBar();
     TieLayout();
+    optionForm.Serve(*this);
     Load.Handle([this] { LoadForm(); });
     QueryUnload.Handle([this](bool &) { SaveSplitterPage(); });
     Unloading.Handle([this](bool &refused) { UnloadForm(refused); });
@@ -89,7 +91,6 @@ void MainForm::SetFirstValues()
     SetLeastSize(narrowest, lowest);
     PicStrip.SetWidth(barWidth);
 
-    btnGBToolbarOption.SetEnabled(false);
     btnGBToolbarUpdate.SetEnabled(false);
     btnGBToolbarAbout.SetEnabled(false);
 
@@ -124,6 +125,7 @@ void MainForm::TieToolbar()
     btnGBToolbarCreate.Click.Handle([this] { btnGBToolbarCreate_Click(); });
     btnGBToolbarLoadList.Click.Handle([this] { btnGBToolbarLoadList_Click(); });
     btnGBToolbarBrowse.Click.Handle([this] { btnGBToolbarBrowse_Click(); });
+    btnGBToolbarOption.Click.Handle([this] { btnGBToolbarOption_Click(); });
     btnGBToolbarExit.Click.Handle([this] { btnGBToolbarExit_Click(); });
 }
 
@@ -172,6 +174,12 @@ void MainForm::btnGBToolbarBrowse_Click()
                                            FolderExists(machine.files, present) ? present : QString());
     if (!folder.isEmpty())
         area.txtStrtPath.SetText(folder);
+}
+
+void MainForm::btnGBToolbarOption_Click()
+{
+    clickSound.Play();
+    optionForm.Show();
 }
 
 void MainForm::btnGBToolbarExit_Click()

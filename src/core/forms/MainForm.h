@@ -28,6 +28,7 @@
 
 namespace tressel {
 
+class Catalogue;
 class OptionForm;
 class Steps;
 struct FormContext;
@@ -43,6 +44,7 @@ private:
     Settings &settings;
     Session &session;
     OptionForm &optionForm;
+    const Catalogue &catalogue;
     LiveOptions options;
     const ClickSound &clickSound;
 
@@ -136,6 +138,7 @@ private:
     void btnGBToolbarCreate_Click();
     void btnGBToolbarLoadList_Click();
     void btnGBToolbarBrowse_Click();
+    void btnGBToolbarOption_Click();
     void btnGBToolbarExit_Click();
     void chkExtension_Click();
 
@@ -149,6 +152,7 @@ private:
     void TakeCommandLine();
     void FillSplitSizes();
     void RestoreSplitterPage();
+    void RestoreLanguage();
     void RestoreItemVisibility();
 
     // MainFormAppearance.cpp
@@ -169,8 +173,5 @@ private:
     std::array<QString, menuCount> menus; ///< kept from session to session, and nothing else
     QString customColor; ///< which palette the side bar has: "1", "2" or none of the two
 };
-
-/// The look that an entry of optButtonStyle stands for.
-ButtonStyle StyleOfEntry(int entry);
 
 } // namespace tressel
