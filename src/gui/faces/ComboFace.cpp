@@ -84,7 +84,10 @@ bool ComboFace::eventFilter(QObject *watched, QEvent *event)
             }
         }
     }
-    return ChoiceFace::eventFilter(watched, event);
+    bool isTaken = false;
+    if (IsKey(*event, Qt::Key_F12))
+        Hand([&] { isTaken = box.UserPressesKey(keyF12); });
+    return isTaken || ChoiceFace::eventFilter(watched, event);
 }
 
 void ComboFace::Show()
@@ -108,14 +111,6 @@ void ComboFace::Show()
         edit->setSelection(selectedFrom, selectedLength);
     else
         edit->setCursorPosition(cursor);
-}
-
-bool ComboFace::eventFilter(QObject *watched, QEvent *event)
-{
-    bool isTaken = false;
-    if (IsKey(*event, Qt::Key_F12))
-        Hand([&] { isTaken = box.UserPressesKey(keyF12); });
-    return isTaken || ChoiceFace::eventFilter(watched, event);
 }
 
 } // namespace tressel

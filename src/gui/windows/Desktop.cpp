@@ -9,7 +9,9 @@
 #include "widgets/ProgramIcons.h"
 #include "widgets/SystemColours.h"
 #include "windows/MainWindow.h"
+#include "windows/OptionWindow.h"
 #include "windows/SplitBar.h"
+#include "windows/Swatch.h"
 #include "windows/TipWindow.h"
 
 #include <algorithm>
@@ -38,6 +40,7 @@ FaceMakers Makers()
     AddOwnKinds(makers);
     makers.Add<PictureBox, SplitBar, SplitBarFace>(looks);
     makers.Add<PictureBox, SplitGrip, SplitGripFace>(looks);
+    makers.Add<PictureBox, Swatch, SwatchFace>(looks);
     return makers;
 }
 
@@ -45,6 +48,8 @@ std::unique_ptr<QWidget> WindowOf(const Form &form)
 {
     if (const auto *mainForm = dynamic_cast<const MainForm *>(&form))
         return std::make_unique<MainWindow>(*mainForm);
+    if (dynamic_cast<const OptionForm *>(&form))
+        return std::make_unique<OptionWindow>();
     if (dynamic_cast<const TipForm *>(&form))
         return std::make_unique<TipWindow>();
     return nullptr;
