@@ -7,7 +7,7 @@
 #include "windows/OptionPages.h"
 #include "windows/Parts.h"
 
-#include <QKeyEvent>
+#include <QShortcut>
 
 namespace tressel {
 
@@ -39,21 +39,15 @@ OptionWindow::OptionWindow()
     column->addLayout(ButtonRow({u"btnGBOK"_s, u"btnGBCancel"_s, u"btnGBApply"_s}));
     setLayout(column);
     resize(sizeHint());
+    PressOn(Qt::Key_Return, u"btnGBOK"_s);
+    PressOn(Qt::Key_Enter, u"btnGBOK"_s);
+    PressOn(Qt::Key_Escape, u"btnGBCancel"_s);
 }
 
-void OptionWindow::keyPressEvent(QKeyEvent *event)
+void OptionWindow::PressOn(const QKeySequence &keys, const QString &button)
 {
-    if (event->matches(QKeySequence::Cancel))
-        Press(u"btnGBCancel"_s);
-    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        Press(u"btnGBOK"_s);
-    else
-        QWidget::keyPressEvent(event);
-}
-
-void OptionWindow::Press(const QString &button) const
-{
-    findChild<IsButtonWidget *>(button)->Press();
+    connect(new QShortcut(keys, this), &QShortcut::activated, this,
+            [this, button] { findChild<IsButtonWidget *>(button)->Press(); });
 }
 
 } // namespace tressel

@@ -8,16 +8,13 @@
 namespace tressel {
 
 /// The options dialog: a list of pages, the page, and the buttons below. Enter is OK and Escape is Cancel
-/// wherever nothing else takes the key.
+/// wherever the keyboard is.
 class OptionWindow : public QWidget {
 public:
     OptionWindow();
 
-protected:
-    void keyPressEvent(QKeyEvent *event) override;
-
 private:
-    void Press(const QString &button) const;
+    void PressOn(const QKeySequence &keys, const QString &button);
 };
 
 } // namespace tressel
