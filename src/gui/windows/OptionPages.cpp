@@ -93,7 +93,7 @@ QGroupBox *MakeAnimation()
     grid->addWidget(height, 0, 1);
     grid->addWidget(LabelFor(u"lblWidth"_s, width), 1, 0);
     grid->addWidget(width, 1, 1);
-    grid->addWidget(PageButton(u"btnGBDefault"_s), 2, 1, Qt::AlignRight);
+    grid->addWidget(PageButton(u"btnGBDefault"_s), 2, 0, 1, 2, Qt::AlignRight);
     grid->setRowStretch(3, 1);
     return Group(u"FrmeAnimation"_s, grid);
 }
