@@ -22,11 +22,12 @@ namespace tressel {
 
 /// A computer in memory for tests: it keeps a journal of what it was asked, and does what the test set up.
 /// At its start it has the drive C: with the program folder C:\Tressel in it, which has a database with the
-/// table Products, and an empty hive.
+/// table Products and a list of no languages, and an empty hive.
 struct MemoryMachine {
     MemoryMachine()
     {
         files.PutFolder(program.folder);
+        files.PutFile(program.folder + QStringLiteral("\\Lang\\Language.dat"));
         databases.PutTexts(program.folder + QStringLiteral("\\data.mdb"), QStringLiteral("Products"),
                            QStringLiteral("Name"), {QStringLiteral("Chair"), QStringLiteral("Table")});
     }

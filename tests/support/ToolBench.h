@@ -6,6 +6,7 @@
 #include "base/Version.h"
 #include "forms/FormContext.h"
 #include "forms/OptionForm.h"
+#include "language/Catalogue.h"
 #include "language/Session.h"
 #include "settings/Settings.h"
 #include "tools/ClickSound.h"
@@ -22,8 +23,10 @@ class ToolBench {
 public:
     explicit ToolBench(const Machine &machine, RunWatch *heardBy = nullptr)
         : settings(machine)
-        , clickSound(machine, options.OptSound)
-        , program{machine, settings, session, clickSound, heardBy ? *heardBy : silence, version}
+        , catalogue(machine,
+                    [this](const QString &name) { return name == options.Name() ? &options : nullptr; })
+        , options(machine, settings, catalogue)
+        , program{machine, settings, session, clickSound, catalogue, heardBy ? *heardBy : silence, version}
     {
     }
 
@@ -35,8 +38,9 @@ public:
 
     Settings settings;
     Session session;
+    Catalogue catalogue;
     OptionForm options;
-    ClickSound clickSound;
+    const ClickSound &clickSound = options.clickSound;
     RunWatch silence;
     VersionBlock version;
     FormContext program;

@@ -3,17 +3,17 @@
 
 #pragma once
 
-#include "controls/Control.h"
+#include "controls/Captioned.h"
 
 namespace tressel {
 
 /// A box with a tick. Its value is a number at the boundary: 0 unchecked, 1 checked, 2 greyed.
-class CheckBox : public Control {
+class CheckBox : public Captioned {
 public:
     CheckBox(Form &form, const QString &name, QString caption = {});
 
-    const QString &Caption() const { return caption; }
-    void SetCaption(const QString &text);
+    const QString &Caption() const override { return caption; }
+    void SetCaption(const QString &text) override;
 
     int Value() const { return value; }
     bool IsChecked() const { return value == 1; }

@@ -8,7 +8,7 @@
 namespace tressel {
 
 Frame::Frame(Form &form, const QString &name, QString text)
-    : Control(form, name)
+    : Captioned(form, name)
     , caption(std::move(text))
 {
 }

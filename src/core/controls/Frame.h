@@ -3,18 +3,18 @@
 
 #pragma once
 
+#include "controls/Captioned.h"
 #include "controls/Colours.h"
-#include "controls/Control.h"
 
 namespace tressel {
 
 /// A holder of other controls: a titled frame, a page or a band of the window.
-class Frame : public Control {
+class Frame : public Captioned {
 public:
     Frame(Form &form, const QString &name, QString caption = {});
 
-    const QString &Caption() const { return caption; }
-    void SetCaption(const QString &text);
+    const QString &Caption() const override { return caption; }
+    void SetCaption(const QString &text) override;
 
     /// The colour of its ground.
     ColourNumber BackColor() const { return backColor; }

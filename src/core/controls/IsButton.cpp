@@ -42,7 +42,7 @@ IsButton::IsButton(Form &form, const QString &name, QString caption)
 }
 
 IsButton::IsButton(Form &form, const QString &name, IsButtonProperties initial)
-    : Control(form, name)
+    : Captioned(form, name)
     , own(std::move(initial))
 {
     if (own.caption.isNull())

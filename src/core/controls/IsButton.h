@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "controls/Control.h"
+#include "controls/Captioned.h"
 #include "controls/IsButtonProperties.h"
 
 #include <QRect>
@@ -23,7 +23,7 @@ enum class MouseButton { None = 0, Left = 1, Right = 2, Middle = 4 };
 /// Two tool tips meet here. The form's (Control::ToolTip, the qualified name) is what any control has. The
 /// button takes it over while it is shown, so that the desktop doesn't show a second one, and hands it
 /// back when hidden.
-class IsButton : public Control {
+class IsButton : public Captioned {
 public:
     /// A button as the program's forms place them. Its caption is its name unless one is given.
     IsButton(Form &form, const QString &name, QString caption = {});
@@ -36,8 +36,8 @@ public:
     static QString Version();
     ButtonStyle Style() const { return own.style; }
     void SetStyle(ButtonStyle style);
-    const QString &Caption() const { return own.caption; }
-    void SetCaption(const QString &text);
+    const QString &Caption() const override { return own.caption; }
+    void SetCaption(const QString &text) override;
     const Picture &Icon() const { return own.icon; }
     void SetIcon(const Picture &picture);
     IconPlace IconAlign() const { return own.iconAlign; }

@@ -3,19 +3,19 @@
 
 #pragma once
 
+#include "controls/Captioned.h"
 #include "controls/Colours.h"
-#include "controls/Control.h"
 
 namespace tressel {
 
 /// A text that the user reads.
-class Label : public Control {
+class Label : public Captioned {
 public:
     Label(Form &form, const QString &name, QString caption = {});
 
-    const QString &Caption() const { return caption; }
+    const QString &Caption() const override { return caption; }
     /// Raises Change when the text differs.
-    void SetCaption(const QString &text);
+    void SetCaption(const QString &text) override;
 
     /// The colour of its text.
     ColourNumber ForeColor() const { return foreColor; }

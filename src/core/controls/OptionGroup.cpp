@@ -8,7 +8,7 @@
 namespace tressel {
 
 OptionButton::OptionButton(Form &form, const QString &name, QString text, OptionGroup &owner, int position)
-    : Control(form, name)
+    : Captioned(form, name)
     , caption(std::move(text))
     , group(owner)
     , index(position)

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "controls/Control.h"
+#include "controls/Captioned.h"
 
 #include <memory>
 #include <vector>
@@ -13,12 +13,12 @@ namespace tressel {
 class OptionGroup;
 
 /// One round button of a group.
-class OptionButton : public Control {
+class OptionButton : public Captioned {
 public:
     OptionButton(Form &form, const QString &name, QString caption, OptionGroup &group, int index);
 
-    const QString &Caption() const { return caption; }
-    void SetCaption(const QString &text);
+    const QString &Caption() const override { return caption; }
+    void SetCaption(const QString &text) override;
     bool IsSelected() const;
 
     // For faces.

@@ -19,8 +19,9 @@ Application::Application(const Machine &onMachine, std::function<void(Form &)> f
     : settings(onMachine)
     , machine(onMachine)
     , formMade(std::move(formMadeHook))
-    , clickSound(machine, optionForm.OptSound)
-    , context{machine, settings, session, clickSound, watch ? *watch : silence, version}
+    , catalogue(machine, [this](const QString &name) { return FormOfName(name); })
+    , optionForm(machine, settings, catalogue)
+    , context{machine, settings, session, optionForm.clickSound, catalogue, watch ? *watch : silence, version}
 {
 }
 
@@ -109,6 +110,13 @@ TipForm &Application::frmTip()
 AboutForm &Application::frmAbout()
 {
     return aboutForm ? *aboutForm : Keep(aboutForm, std::make_unique<AboutForm>(context, frmOption()));
+}
+
+Form *Application::FormOfName(const QString &name)
+{
+    if (name == frmOption().Name())
+        return &frmOption();
+    return name == u"frmAbout" ? static_cast<Form *>(&frmAbout()) : &frmMain();
 }
 
 template <typename F> F &Application::Keep(std::unique_ptr<F> &place, std::unique_ptr<F> made)

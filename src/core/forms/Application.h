@@ -9,9 +9,9 @@
 #include "forms/MainForm.h"
 #include "forms/OptionForm.h"
 #include "forms/TipForm.h"
+#include "language/Catalogue.h"
 #include "language/Session.h"
 #include "settings/Settings.h"
-#include "tools/ClickSound.h"
 #include "tools/RunWatch.h"
 
 #include <functional>
@@ -49,14 +49,15 @@ private:
     void ShowMainWindow();
     template <typename F> F &Keep(std::unique_ptr<F> &place, std::unique_ptr<F> made);
     void Adopt(Form &form);
+    Form *FormOfName(const QString &name);
     void EndAsFailed(const Failure &failure);
 
     Machine machine;
     std::function<void(Form &)> formMade;
     RunWatch silence; ///< what the runs tell is heard by nobody
+    Catalogue catalogue;
     OptionForm optionForm;
     bool optionFormMet = false; ///< somebody touched it, so that who draws it knows it
-    ClickSound clickSound;
     FormContext context;
     std::unique_ptr<AboutForm> aboutForm;
     std::unique_ptr<TipForm> tipForm;

@@ -7,6 +7,7 @@
 
 namespace tressel {
 
+class Catalogue;
 class ClickSound;
 class RunWatch;
 class Settings;
@@ -20,6 +21,7 @@ struct FormContext {
     Settings &settings;
     Session &session;
     const ClickSound &clickSound;
+    const Catalogue &catalogue;
     RunWatch &watch; ///< hears what the tools' runs do
     const VersionBlock &version;
 };

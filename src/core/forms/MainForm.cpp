@@ -32,6 +32,7 @@ MainForm::MainForm(const FormContext &program, OptionForm &allOptions)
     , settings(program.settings)
     , session(program.session)
     , optionForm(allOptions)
+    , catalogue(program.catalogue)
     , options(allOptions.Live())
     , clickSound(program.clickSound)
     , FrmeToolbar(*this, u"FrmeToolbar"_s)
@@ -75,6 +76,7 @@ MainForm::MainForm(const FormContext &program, OptionForm &allOptions)
     TiePathRow();
     TieSideBar();
     TieLayout();
+    optionForm.Serve(*this);
     Load.Handle([this] { LoadForm(); });
     Activate.Handle([this] { update.CheckForUpdate(); });
     QueryUnload.Handle([this](bool &) { SaveSecondStore(); });
@@ -89,7 +91,6 @@ void MainForm::SetFirstValues()
     SetLeastSize(narrowest, lowest);
     PicStrip.SetWidth(barWidth);
 
-    btnGBToolbarOption.SetEnabled(false);
     Picture4.SetVisible(false);
 }
 
@@ -115,6 +116,7 @@ void MainForm::TieToolbar()
     btnGBToolbarBrowse.Click.Handle([this] { btnGBToolbarBrowse_Click(); });
     btnGBToolbarUpdate.Click.Handle([this] { btnGBToolbarUpdate_Click(); });
     btnGBToolbarAbout.Click.Handle([this] { btnGBToolbarAbout_Click(); });
+    btnGBToolbarOption.Click.Handle([this] { btnGBToolbarOption_Click(); });
     btnGBToolbarExit.Click.Handle([this] { btnGBToolbarExit_Click(); });
 }
 
@@ -175,6 +177,12 @@ void MainForm::btnGBToolbarAbout_Click()
 {
     clickSound.Play();
     AboutWanted.Raise();
+}
+
+void MainForm::btnGBToolbarOption_Click()
+{
+    clickSound.Play();
+    optionForm.Show();
 }
 
 void MainForm::btnGBToolbarExit_Click()

@@ -29,6 +29,7 @@
 
 namespace tressel {
 
+class Catalogue;
 class OptionForm;
 class Steps;
 struct FormContext;
@@ -44,6 +45,7 @@ private:
     Settings &settings;
     Session &session;
     OptionForm &optionForm;
+    const Catalogue &catalogue;
     LiveOptions options;
     const ClickSound &clickSound;
 
@@ -140,6 +142,7 @@ private:
     void btnGBToolbarBrowse_Click();
     void btnGBToolbarUpdate_Click();
     void btnGBToolbarAbout_Click();
+    void btnGBToolbarOption_Click();
     void btnGBToolbarExit_Click();
     void chkExtension_Click();
 
@@ -152,6 +155,7 @@ private:
     void ShowFirstTree(Steps &steps);
     void TakeCommandLine();
     void RestoreWindowPlace();
+    void RestoreLanguage();
     void RestoreItemVisibility();
 
     // MainFormAppearance.cpp
@@ -172,8 +176,5 @@ private:
     std::array<QString, menuCount> menus; ///< kept from session to session, and nothing else
     QString customColor; ///< which palette the side bar has: "1", "2" or none of the two
 };
-
-/// The look that an entry of optButtonStyle stands for.
-ButtonStyle StyleOfEntry(int entry);
 
 } // namespace tressel

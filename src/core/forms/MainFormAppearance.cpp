@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
-#include "base/Numbers.h"
 #include "base/Steps.h"
+#include "forms/Appearance.h"
 #include "forms/MainForm.h"
 #include "forms/OptionForm.h"
 #include "settings/Settings.h"
@@ -15,9 +15,6 @@ namespace tressel {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The look of each entry of optButtonStyle. Kept: the two orders differ.
-constexpr std::array<int, 9> styleOfEntry{0, 2, 10, 5, 4, 8, 9, 7, 3};
 
 /// In which order the window's buttons are given their look.
 constexpr std::array<QStringView, 30> buttonOrder{
@@ -32,56 +29,11 @@ constexpr std::array<QStringView, 30> buttonOrder{
     u"btnGBErase",           u"btnGBBrowsePath",    u"btnGBRename",
     u"btnGBReplace",         u"btnGBExtension",     u"btnGBCancel"};
 
-/// The keys of one of the side bar's two fonts.
-struct FontKeys {
-    const KeyEntry &family;
-    const KeyEntry &size;
-    const KeyEntry &bold;
-    const KeyEntry &italic;
-    const KeyEntry &underline;
-    const KeyEntry &colour;
-};
-
-constexpr FontKeys titleKeys{keys::TitleBarFont,   keys::TitleBarSize,      keys::TitleBarBold,
-                             keys::TitleBarItalic, keys::TitleBarUnderline, keys::TitleBarColor};
-constexpr FontKeys captionKeys{keys::TitleCapFont,   keys::TitleCapSize,      keys::TitleCapBold,
-                               keys::TitleCapItalic, keys::TitleCapUnderline, keys::TitleCapTextCol};
-
-FontChoice ReadFont(Settings &settings, Steps &steps, const FontKeys &font, FontChoice choice)
-{
-    const auto readFamily = [&] { choice.family = settings.ReadText(font.family); };
-    const auto readBold = [&] { choice.bold = settings.ReadBoolean(font.bold); };
-    // The two fonts are read in orders of their own.
-    const bool isFamilyFirst = &font == &titleKeys;
-    if (isFamilyFirst)
-        steps.Do(readFamily);
-    else
-        steps.Do(readBold);
-    steps.Do([&] { choice.points = ToNumber(settings.Read(font.size)); });
-    if (isFamilyFirst)
-        steps.Do(readBold);
-    else
-        steps.Do(readFamily);
-    steps.Do([&] { choice.italic = settings.ReadBoolean(font.italic); });
-    steps.Do([&] { choice.underline = settings.ReadBoolean(font.underline); });
-    steps.Do([&] { choice.colour = static_cast<quint32>(settings.ReadInt32(font.colour)); });
-    return choice;
-}
-
 } // namespace
-
-ButtonStyle StyleOfEntry(int entry)
-{
-    return static_cast<ButtonStyle>(styleOfEntry.at(static_cast<size_t>(entry)));
-}
 
 void MainForm::ApplyStyleToMain()
 {
-    const int entry = frmOption().optButtonStyle.Selected();
-    if (entry < 0)
-        return;
-    for (IsButton *button : Buttons())
-        button->SetStyle(StyleOfEntry(entry));
+    GiveSelectedStyle(frmOption(), Buttons());
 }
 
 QList<IsButton *> MainForm::Buttons() const
@@ -141,14 +93,10 @@ void MainForm::RestoreSwatches(Steps &steps)
 void MainForm::ApplyPalette(const QString &choice)
 {
     customColor = choice;
-    if (customColor != u'1' && customColor != u'2')
-        return;
-    const int first = customColor == u'1' ? 0 : OptionForm::secondPalette;
-    SideBarColours colours;
-    for (int slot = 0; slot < static_cast<int>(colours.size()); ++slot)
-        colours[static_cast<size_t>(slot)] = frmOption().Swatch(first + slot).BackColor();
-    EyeDropper1.SetColors(colours);
-    settings.Write(keys::CustomColor, customColor);
+    if (customColor == u'1')
+        UsePalette(frmOption(), Palette::First, EyeDropper1, settings);
+    else if (customColor == u'2')
+        UsePalette(frmOption(), Palette::Second, EyeDropper1, settings);
 }
 
 } // namespace tressel

@@ -4,6 +4,7 @@
 #include "base/Steps.h"
 #include "forms/MainForm.h"
 #include "forms/OptionForm.h"
+#include "language/Catalogue.h"
 #include "machine/Paths.h"
 #include "machine/Program.h"
 #include "machine/Screen.h"
@@ -63,8 +64,10 @@ void MainForm::RestoreAppearance()
     splitter.FillSplitSizes();
     RestoreWindowPlace();
     splitter.Restore();
-    frmOption().EnsureLoaded();
+    RestoreLanguage();
     ApplyAppearance();
+    // The options were there before this window: only now is there something to stand over.
+    frmOption().CenterOverMain(frmOption());
     RestoreItemVisibility();
     for (int number = 1; number <= menuCount; ++number)
         menus[static_cast<size_t>(number - 1)] = settings.ReadText(keys::Menu.At(number));
@@ -109,6 +112,15 @@ void MainForm::RestoreWindowPlace()
     // Overruled again by the appearance.
     Move(settings.ReadInt32(keys::WindowLeft), Top());
     Move(Left(), settings.ReadInt32(keys::WindowTop));
+}
+
+void MainForm::RestoreLanguage()
+{
+    catalogue.FillLanguageList(frmOption().cmbLanguage);
+    frmOption().EnsureLoaded();
+    // A language that isn't in the list leaves the window in its own.
+    Steps steps;
+    steps.Do([&] { frmOption().cmbLanguage.SetListIndex(settings.ReadInt32(keys::Language)); });
 }
 
 void MainForm::RestoreItemVisibility()

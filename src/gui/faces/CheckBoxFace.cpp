@@ -3,6 +3,8 @@
 
 #include "faces/CheckBoxFace.h"
 
+#include "faces/LineBreaks.h"
+
 namespace tressel {
 
 CheckBoxFace::CheckBoxFace(CheckBox &control, QCheckBox &widget)
@@ -18,8 +20,8 @@ CheckBoxFace::CheckBoxFace(CheckBox &control, QCheckBox &widget)
 
 void CheckBoxFace::Show()
 {
-    if (view.text() != box.Caption())
-        view.setText(box.Caption());
+    if (const QString text = WithLineBreaks(box.Caption()); view.text() != text)
+        view.setText(text);
     // Only a greyed box has the third state, so that a click never leads to it.
     view.setTristate(box.Value() == 2);
     view.setCheckState(box.Value() == 2      ? Qt::PartiallyChecked

@@ -5,6 +5,7 @@
 
 #include "base/Twips.h"
 #include "faces/Keys.h"
+#include "faces/LineBreaks.h"
 
 #include <QGuiApplication>
 #include <QMouseEvent>
@@ -23,8 +24,8 @@ LabelFace::LabelFace(Label &control, QLabel &widget, const FaceLooks &faceLooks)
 
 void LabelFace::Show()
 {
-    if (view.text() != label.Caption())
-        view.setText(label.Caption());
+    if (const QString text = WithLineBreaks(label.Caption()); view.text() != text)
+        view.setText(text);
     if (label.IsBold() && !view.font().bold()) {
         QFont font = view.font();
         font.setBold(true);

@@ -3,6 +3,8 @@
 
 #include "faces/OptionFace.h"
 
+#include "faces/LineBreaks.h"
+
 #include <algorithm>
 
 namespace tressel {
@@ -22,8 +24,8 @@ OptionFace::OptionFace(OptionButton &control, QRadioButton &widget)
 
 void OptionFace::Show()
 {
-    if (view.text() != option.Caption())
-        view.setText(option.Caption());
+    if (const QString text = WithLineBreaks(option.Caption()); view.text() != text)
+        view.setText(text);
     ShowEntry();
     if (view.isChecked() == option.IsSelected())
         return;

@@ -73,6 +73,15 @@ int AlignmentOf(int textDrawFlags)
     return alignment;
 }
 
+/// Each line cut to the width. A carriage return in a caption breaks it, as language files have it.
+QString ElidedLines(const QFontMetrics &metrics, const QString &caption, int width)
+{
+    QStringList lines = caption.split(u'\r');
+    for (QString &line : lines)
+        line = metrics.elidedText(line, Qt::ElideRight, width, Qt::TextShowMnemonic);
+    return lines.join(u'\n');
+}
+
 /// Too wide a caption ends in "…". Nothing is cut at its upper and lower side, where a low button has less
 /// room than the letters need.
 void DrawCaption(QPainter &painter, const IsButton &button, const ButtonSurroundings &around,
@@ -85,11 +94,10 @@ void DrawCaption(QPainter &painter, const IsButton &button, const ButtonSurround
     painter.scale(around.scale, around.scale);
     painter.setFont(button.Font() ? ToFont(*button.Font()) : around.font);
     painter.setPen(TextColour(button, face));
-    const QString shown =
-        painter.fontMetrics().elidedText(button.Caption(), Qt::ElideRight, box.width(), Qt::TextShowMnemonic);
+    const QString shown = ElidedLines(painter.fontMetrics(), button.Caption(), box.width());
     const int mnemonic = around.underlinesMnemonic ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
-    painter.drawText(
-        box, AlignmentOf(button.TextDrawFlags()) | Qt::TextSingleLine | Qt::TextDontClip | mnemonic, shown);
+    const int lines = shown.contains(u'\n') ? 0 : Qt::TextSingleLine;
+    painter.drawText(box, AlignmentOf(button.TextDrawFlags()) | lines | Qt::TextDontClip | mnemonic, shown);
     painter.restore();
 }
 

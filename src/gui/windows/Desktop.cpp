@@ -10,7 +10,9 @@
 #include "widgets/SystemColours.h"
 #include "windows/AboutWindow.h"
 #include "windows/MainWindow.h"
+#include "windows/OptionWindow.h"
 #include "windows/SplitBar.h"
+#include "windows/Swatch.h"
 #include "windows/TipWindow.h"
 
 #include <QWindow>
@@ -41,6 +43,7 @@ FaceMakers Makers()
     AddOwnKinds(makers);
     makers.Add<PictureBox, SplitBar, SplitBarFace>(looks);
     makers.Add<PictureBox, SplitGrip, SplitGripFace>(looks);
+    makers.Add<PictureBox, Swatch, SwatchFace>(looks);
     return makers;
 }
 
@@ -48,6 +51,8 @@ std::unique_ptr<QWidget> WindowOf(const Form &form)
 {
     if (const auto *mainForm = dynamic_cast<const MainForm *>(&form))
         return std::make_unique<MainWindow>(*mainForm);
+    if (dynamic_cast<const OptionForm *>(&form))
+        return std::make_unique<OptionWindow>();
     if (dynamic_cast<const TipForm *>(&form))
         return std::make_unique<TipWindow>();
     if (dynamic_cast<const AboutForm *>(&form))

@@ -41,7 +41,7 @@ const Row rows[] = {
     {Is<IsButton>, u"btnGBToolbarCreate", u"Create"},
     {Is<IsButton>, u"btnGBToolbarLoadList", u"Load List"},
     {Is<IsButton>, u"btnGBToolbarBrowse", u"Browse"},
-    {Is<IsButton>, u"btnGBToolbarOption", u"Option", u"", State::Resting},
+    {Is<IsButton>, u"btnGBToolbarOption", u"Option"},
     {Is<IsButton>, u"btnGBToolbarUpdate", u"Update"},
     {Is<IsButton>, u"btnGBToolbarAbout", u"About"},
     {Is<IsButton>, u"btnGBToolbarExit", u"Exit"},

@@ -79,6 +79,7 @@ TEST_F(MainFormLoad, ReadsTheSettingsInItsOrder)
         + Below(u"Settings"_s,
                 {u"WindowLeft"_s, u"WindowTop"_s, u"SplitSize"_s, u"SplitCount"_s, u"SplitOption"_s,
                  u"DeleteParts"_s, u"OpenExplorer"_s, u"CopyToFloppy"_s})
+        + Below(u"Options"_s, {u"Language"_s})
         // The appearance, with the colours once more on top of the default ones, and the second look at
         // the place.
         + Below(u"Main"_s, {u"RightToLeft"_s}) + colours + colours + place

@@ -3,17 +3,30 @@
 
 #include "DesktopStage.h"
 
+#include <QDir>
+#include <QFile>
+
 namespace tressel {
 
 DesktopStage::DesktopStage()
 {
     program.folder = folder.Path();
     program.writableFolder = folder.Path();
+    PutLanguages();
     desktop = std::make_unique<Desktop>(program, hive);
     Put(keys::ShowTips, QStringLiteral("0"));
     Put(keys::Sound, QStringLiteral("1"));
     // The program folder of a test has no database, and a box of what is missing would wait for an answer.
     Put(keys::DatabaseFile, QString());
+}
+
+void DesktopStage::PutLanguages()
+{
+    // A program without a list of languages says so in a box at its start.
+    QDir(folder.Path()).mkdir(QStringLiteral("Lang"));
+    QFile list(Place(QStringLiteral("Lang/Language.dat")));
+    if (!list.open(QIODevice::WriteOnly))
+        qFatal("There is no room for a list of languages.");
 }
 
 void DesktopStage::Put(const KeyEntry &key, const QString &text)

@@ -48,6 +48,8 @@ public:
     MemorySettingsHive hive;
 
 private:
+    void PutLanguages();
+
     TemporaryFolder folder;
 
 public:
