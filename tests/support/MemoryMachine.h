@@ -48,9 +48,16 @@ struct MemoryMachine {
     MemoryDatabases databases{journal};
     MemoryNetwork network{journal};
 
+    /// The same with another disc, or with other settings; good for as long as this and they live.
+    Machine With(FileSystem &disc) { return With(disc, hive); }
+    Machine With(FileSystem &disc, SettingsHive &settings)
+    {
+        return {disc,   settings,  clock,  sound,   shell,     dialogs,
+                events, clipboard, screen, program, databases, network};
+    }
+
     /// The same as the tools see it; good for as long as this lives.
-    Machine machine{files,  hive,      clock,  sound,   shell,     dialogs,
-                    events, clipboard, screen, program, databases, network};
+    Machine machine = With(files);
 };
 
 } // namespace tressel

@@ -5,6 +5,7 @@
 
 #include "base/Steps.h"
 #include "base/Version.h"
+#include "forms/Appearance.h"
 #include "forms/FormContext.h"
 #include "forms/MainForm.h"
 #include "forms/NoticeText.h"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
+#include "forms/Appearance.h"
 #include "forms/Application.h"
 #include "support/MemoryMachine.h"
 #include "support/Text.h"

@@ -35,8 +35,7 @@ struct OneWindow {
     MemoryMachine rest;
     PosixSystemFacts facts;
     FileHive hive;
-    Application application{Machine{rest.files, hive, rest.clock, rest.sound, rest.shell, rest.dialogs,
-                                    rest.events, rest.clipboard, rest.screen, rest.program, rest.databases}};
+    Application application{rest.With(rest.files, hive)};
 };
 
 class TwoWindows : public testing::Test {

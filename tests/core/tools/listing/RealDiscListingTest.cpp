@@ -42,9 +42,7 @@ protected:
     TemporaryFolder folder;
     PosixFileSystem files;
     MemoryMachine machine;
-    ListingTool tool{Machine{files, machine.hive, machine.clock, machine.sound, machine.shell,
-                             machine.dialogs, machine.events, machine.clipboard, machine.screen,
-                             machine.program, machine.databases, machine.network}};
+    ListingTool tool{machine.With(files)};
 };
 
 TEST_F(RealDiscListingTest, ATreeOfTwoThousandLevels)

@@ -31,12 +31,7 @@ protected:
         tool.page.optCase.Select(RenamePage::Uppercase);
     }
 
-    Machine MachineOnDisc()
-    {
-        return {files,          machine.hive,    machine.clock,    machine.sound,
-                machine.shell,  machine.dialogs, machine.events,   machine.clipboard,
-                machine.screen, machine.program, machine.databases};
-    }
+    Machine MachineOnDisc() { return machine.With(files); }
     void Put(const QByteArray &name)
     {
         const int file = open(folder.Native(name).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);

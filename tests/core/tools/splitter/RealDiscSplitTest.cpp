@@ -20,12 +20,7 @@ namespace {
 
 class RealDiscSplit : public testing::Test {
 protected:
-    Machine MachineOnDisc()
-    {
-        return {files,          machine.hive,    machine.clock,    machine.sound,
-                machine.shell,  machine.dialogs, machine.events,   machine.clipboard,
-                machine.screen, machine.program, machine.databases};
-    }
+    Machine MachineOnDisc() { return machine.With(files); }
     QString Path(const QString &name) const { return folder.Path() + u'/' + name; }
     void Put(const QString &name, const QByteArray &contents)
     {

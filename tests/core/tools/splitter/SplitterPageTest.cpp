@@ -131,9 +131,7 @@ TEST_F(SplitterPageTest, AFileOverTwoGigabytesIsRefused)
     for (const qint64 length : {2LL << 30, 5LL << 30}) {
         LengthyFiles files(machine.journal, machine.clock, length);
         files.PutFile(u"C:\\W\\big.iso"_s);
-        SplitterTool tool({files, machine.hive, machine.clock, machine.sound, machine.shell, machine.dialogs,
-                           machine.events, machine.clipboard, machine.screen, machine.program,
-                           machine.databases});
+        SplitterTool tool(machine.With(files));
         machine.dialogs.ExpectOpenFile(u"C:\\W\\big.iso"_s);
         machine.dialogs.ExpectBox(
             {u"This file is over 2 GB and for big to split, tip! use winzip or something to split up"_s,
