@@ -16,6 +16,21 @@ LogoPicture::LogoPicture(const QString &name, bool isPressed)
     resize(extent);
 }
 
+void LogoPicture::showEvent(QShowEvent *event)
+{
+    // The picture that the mouse went down on is hidden now, and the release would go to nobody.
+    if (pressed)
+        grabMouse();
+    QWidget::showEvent(event);
+}
+
+void LogoPicture::hideEvent(QHideEvent *event)
+{
+    if (pressed)
+        releaseMouse();
+    QWidget::hideEvent(event);
+}
+
 void LogoPicture::paintEvent(QPaintEvent *)
 {
     constexpr int edge = 4;

@@ -15,6 +15,8 @@ public:
     static constexpr QSize extent{80, 80};
 
 protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

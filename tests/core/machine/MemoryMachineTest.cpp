@@ -23,7 +23,9 @@ TEST(MemoryFileSystem, PathsTolerateCaseDoubledAndClosingSeparators)
                                 u"Work\\Sub"_s,     u"\\Work\\Sub"_s,     u"C:\\Work\\.\\Sub\\..\\sub"_s};
     for (const QString &path : spellings)
         EXPECT_TRUE(FolderExists(machine.files, path)) << qPrintable(path);
-    EXPECT_EQ(machine.files.Tree(u"C:\\"_s), (QStringList{u"Tressel\\"_s, u"Work\\"_s, u"Work\\Sub\\"_s}));
+    EXPECT_EQ(machine.files.Tree(u"C:\\"_s),
+              (QStringList{u"Tressel\\"_s, u"Tressel\\Lang\\"_s, u"Tressel\\Lang\\Language.dat"_s,
+                           u"Work\\"_s, u"Work\\Sub\\"_s}));
 }
 
 TEST(MemoryFileSystem, RefusesTheCharactersThatItsNamesCannotHave)
@@ -32,7 +34,8 @@ TEST(MemoryFileSystem, RefusesTheCharactersThatItsNamesCannotHave)
     for (const QChar character : u"/:*?\"<>|\t"_s)
         EXPECT_EQ(NumberOf(machine.files.TryMakeFolder(u"C:\\a"_s + character)),
                   FailureNumber::InvalidProcedureCall);
-    EXPECT_EQ(machine.files.Tree(u"C:\\"_s), QStringList{u"Tressel\\"_s});
+    EXPECT_EQ(machine.files.Tree(u"C:\\"_s),
+              (QStringList{u"Tressel\\"_s, u"Tressel\\Lang\\"_s, u"Tressel\\Lang\\Language.dat"_s}));
 }
 
 TEST(MemoryFileSystem, ADriveWithoutItsMediumIsNotReady)
@@ -67,7 +70,9 @@ TEST(MemoryFileSystem, RenameMayChangeCaseAlone)
     MemoryMachine machine;
     machine.files.PutFile(u"C:\\readme.txt"_s, "x");
     machine.files.Rename(u"C:\\readme.txt"_s, u"C:\\README.txt"_s);
-    EXPECT_EQ(machine.files.Tree(u"C:\\"_s), (QStringList{u"README.txt"_s, u"Tressel\\"_s}));
+    EXPECT_EQ(machine.files.Tree(u"C:\\"_s),
+              (QStringList{u"README.txt"_s, u"Tressel\\"_s, u"Tressel\\Lang\\"_s,
+                           u"Tressel\\Lang\\Language.dat"_s}));
 }
 
 TEST(MemoryFileSystem, ReadOnlyFilesStay)

@@ -130,7 +130,9 @@ TEST_F(CaseRunTest, ThreeCharactersAreAPath)
     machine.files.PutFile(u"C:\\a"_s);
     page.txtCurrentPath.SetText(u"C:\\"_s);
     Press();
-    EXPECT_EQ(machine.files.Tree(u"C:\\"_s), (QStringList{u"A"_s, u"Tressel\\"_s, u"W\\"_s}));
+    EXPECT_EQ(machine.files.Tree(u"C:\\"_s),
+              (QStringList{u"A"_s, u"Tressel\\"_s, u"Tressel\\Lang\\"_s, u"Tressel\\Lang\\Language.dat"_s,
+                           u"W\\"_s}));
 }
 
 TEST_F(CaseRunTest, APathThatIsntThere)
