@@ -66,7 +66,7 @@ qsizetype Distance(const QString &from, const QString &to)
                 return text.at(static_cast<qsizetype>(at) - 1);
             };
             if (i == 0 || j == 0) {
-                table[i][j] = static_cast<qsizetype>(i + j);
+                table[i][j] = static_cast<qsizetype>(i) + static_cast<qsizetype>(j);
                 continue;
             }
             const qsizetype replaced = letter(from, i) == letter(to, j) ? 0 : 1;

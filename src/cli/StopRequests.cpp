@@ -4,6 +4,7 @@
 #include "StopRequests.h"
 
 #include <csignal>
+#include <initializer_list>
 
 namespace tressel {
 

@@ -79,7 +79,7 @@ bool ComboFace::eventFilter(QObject *watched, QEvent *event)
              {std::pair{Qt::Key_Up, -1}, std::pair{Qt::Key_Down, 1}, std::pair{Qt::Key_PageUp, -pageStep},
               std::pair{Qt::Key_PageDown, pageStep}}) {
             if (IsKey(*event, key)) {
-                Hand([&] { box.UserSteps(count); });
+                Hand([&, steps = count] { box.UserSteps(steps); });
                 return true;
             }
         }

@@ -141,7 +141,7 @@ std::optional<QList<Extent>> PosixOpenFile::Extents() const
     quint64 from = 0;
     for (;;) {
         std::ranges::fill(room, std::byte{0});
-        auto *map = new (room.data()) fiemap{};
+        auto *map = reinterpret_cast<fiemap *>(room.data());
         map->fm_start = from;
         map->fm_length = FIEMAP_MAX_OFFSET - from;
         map->fm_flags = FIEMAP_FLAG_SYNC;

@@ -102,11 +102,11 @@ ValueWriter::ValueWriter(const QLocale &written)
 {
 }
 
-ValueWriter::ValueWriter(QString decimalPoint, QString dates, QString times, QLocale written)
+ValueWriter::ValueWriter(QString decimalPoint, QString dates, QString times, const QLocale &written)
     : point(std::move(decimalPoint))
     , dateForm(std::move(dates))
     , timeForm(std::move(times))
-    , locale(std::move(written))
+    , locale(written)
 {
 }
 

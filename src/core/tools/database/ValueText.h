@@ -24,7 +24,7 @@ public:
     QString Text(const DatabaseValue &value) const;
 
 private:
-    ValueWriter(QString point, QString dateForm, QString timeForm, QLocale locale);
+    ValueWriter(QString point, QString dateForm, QString timeForm, const QLocale &locale);
     QString DateText(DateValue date) const;
 
     QString point;

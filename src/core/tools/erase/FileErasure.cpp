@@ -32,7 +32,8 @@ constexpr int numberOfLines = 2;
 
 std::int32_t BlocksToErase(qint64 length)
 {
-    return ToInt32(static_cast<double>(length / eraseBlock + 1));
+    const qint64 blocks = length / eraseBlock + 1;
+    return ToInt32(static_cast<double>(blocks));
 }
 
 FileErasure::FileErasure(const ToolContext &context, ErasePage &erasePage)
@@ -52,8 +53,10 @@ void FileErasure::EraseList()
     watch.Started(count);
     for (int turn = 0; turn < count; ++turn) {
         steps.Do([&] {
-            watch.Next(page.lstErase.Item(0));
-            WipeFileClean(page.lstErase.Item(0));
+            // The list's own text goes with its row, also in a run that comes in between.
+            const QString path = page.lstErase.Item(0);
+            watch.Next(path);
+            WipeFileClean(path);
         });
         steps.Do([&] { page.lstErase.RemoveItem(0); });
     }
@@ -66,13 +69,11 @@ void FileErasure::EraseList()
 
 void FileErasure::WipeFileClean(const QString &FileName)
 {
-    // The list's own text goes with its row, also in a run that comes in between.
-    const QString path = FileName;
     try {
         // A file that another program holds is left alone; held by ourselves it would shut out a second run.
-        machine.files.Open(path, OpenFor::Changing, Sharing::Exclusive)->Close();
+        machine.files.Open(FileName, OpenFor::Changing, Sharing::Exclusive)->Close();
         const int number = FreeNumber();
-        OpenFile &file = *(openFiles[number] = machine.files.Open(path, OpenFor::Changing));
+        OpenFile &file = *(openFiles[number] = machine.files.Open(FileName, OpenFor::Changing));
         const std::int32_t blocks = BlocksToErase(file.Length());
         page.ProgrBar.SetValue(restValue);
         page.ProgrBar.SetRange(0, blocks);
@@ -81,12 +82,12 @@ void FileErasure::WipeFileClean(const QString &FileName)
         Overwrite(file, blocks);
         file.Close();
         openFiles.erase(number);
-        LeaveTwoLines(path);
-        machine.files.RemoveFile(path);
+        LeaveTwoLines(FileName);
+        machine.files.RemoveFile(FileName);
         page.ProgrBar.SetValue(restValue);
-        watch.Did(Outcome::Removed, path);
+        watch.Did(Outcome::Removed, FileName);
     } catch (const Failure &failure) {
-        TellFailure(path, failure);
+        TellFailure(FileName, failure);
     }
 }
 

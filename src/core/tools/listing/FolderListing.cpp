@@ -251,7 +251,8 @@ void FolderListing::AppendBlock(const QString &path, const QList<FolderEntry> &e
     Steps steps([&](const Failure &failure) { problem = failure; });
     std::unique_ptr<LineWriter> writer;
     steps.Do([&] { writer = report.OpenToAppend(); });
-    auto [lines, lineSoFar] = StartOfBlock(path, Style());
+    const auto [lines, start] = StartOfBlock(path, Style());
+    QString lineSoFar = start;
     const auto write = [&](const QString &text) {
         if (writer)
             steps.Do([&] { writer->WriteLine(lineSoFar + text); });
