@@ -94,7 +94,8 @@ void PrepareSettings(const Machine &machine, const Wish &wish, const QString &pl
     settings.Write(keys::LastFile, QString::fromUtf8(TRESSEL_SAMPLE_LIST));
     settings.Write(keys::FilePath, u"/home/robin/New folders"_s);
     settings.Write(keys::LastDBPath, place);
-    settings.Write(keys::DatabaseFile, u"/home/robin/contacts.mdb"_s);
+    // A file that isn't there would be told in a box, with nobody to answer it.
+    settings.Write(keys::DatabaseFile, QString());
     settings.Write(keys::SearchPath, place);
     settings.Write(keys::LastNumPath, place);
     settings.Write(keys::IndxBar, wish.entry);

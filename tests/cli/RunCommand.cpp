@@ -70,13 +70,16 @@ private:
     int programSide = -1;
 };
 
+/// Opened before any rights are given up: nobody may enter the folder that it is built in.
+const int programFile = open(TRESSEL_CLI, O_RDONLY | O_CLOEXEC);
+
 [[noreturn]] void BecomeProgram(const std::vector<std::string> &arguments)
 {
     std::vector<char *> words{const_cast<char *>(TRESSEL_CLI)};
     for (const std::string &argument : arguments)
         words.push_back(const_cast<char *>(argument.c_str()));
     words.push_back(nullptr);
-    execv(TRESSEL_CLI, words.data());
+    fexecve(programFile, words.data(), environ);
     _exit(98);
 }
 
