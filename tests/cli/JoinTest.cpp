@@ -178,6 +178,21 @@ TEST_F(Join, APartThatCannotBeReadLeavesNothing)
     EXPECT_EQ(Below(u"C:\\Work"_s), parts);
 }
 
+TEST_F(Join, APartThatGrowsOrShrinksMeanwhileLeavesTheOldFile)
+{
+    memory.files.PutFile(target, "old");
+    for (const QByteArray &now : {QByteArray("two-and-more"), QByteArray("t")}) {
+        Put({"one-", "two-", "end"});
+        memory.files.DoBefore(Operation::ReadBytes, PathOf(1), 1,
+                              [&] { memory.files.PutFile(PathOf(2), now); });
+        const Ended ended = Of({u"--force"_s, u"--delete-parts"_s});
+        EXPECT_EQ(ended.status, SomethingFailed);
+        EXPECT_EQ(ended.err, "tressel-cli: C:\\Work\\a.bin.2: It changed while it was read\n");
+        EXPECT_EQ(Whole(), "old");
+        EXPECT_EQ(Below(u"C:\\Work"_s), QStringList{u"a.bin"_s} + parts);
+    }
+}
+
 TEST_F(Join, AStopBetweenTwoStepsLeavesNothing)
 {
     stops.signal = SIGINT;

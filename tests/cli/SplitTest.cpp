@@ -226,6 +226,48 @@ TEST_F(Split, AReadThatFailsLeavesNothing)
     EXPECT_EQ(Below(u"C:\\Work"_s), untouched);
 }
 
+TEST_F(Split, ASourceThatGrowsOrShrinksMeanwhileLeavesNothing)
+{
+    const QString source = u"C:\\Work\\a.bin"_s;
+    const QByteArray told = "tressel-cli: C:\\Work\\a.bin: It changed while it was read\n";
+    memory.files.DoBefore(Operation::ReadBytes, source, 2,
+                          [&] { memory.files.Open(source, OpenFor::Appending)->Write("more"); });
+    Ended ended = Of({u"--size"_s, u"1K"_s, u"--batch"_s});
+    EXPECT_EQ(ended.status, SomethingFailed);
+    EXPECT_EQ(ended.err, told);
+    EXPECT_EQ(Below(u"C:\\Work"_s), untouched);
+    memory.files.DoBefore(Operation::ReadBytes, source, 2,
+                          [&] { memory.files.Open(source, OpenFor::Changing)->Resize(1500); });
+    ended = Of({u"--size"_s, u"1K"_s, u"--batch"_s});
+    EXPECT_EQ(ended.err, told);
+    EXPECT_EQ(ended.out, "made 0 parts, 0 other files\n");
+    EXPECT_EQ(Below(u"C:\\Work"_s), untouched);
+}
+
+TEST_F(Split, APartThatAnotherPutsThereMeanwhileStays)
+{
+    memory.files.DoBefore(Operation::ReadBytes, u"C:\\Work\\a.bin"_s, 1,
+                          [&] { memory.files.PutFile(PathOf(2), "mine"); });
+    const Ended ended = Of({u"--size"_s, u"1K"_s});
+    EXPECT_EQ(ended.err, "tressel-cli: C:\\Work\\a.bin.2: File already exists\n");
+    EXPECT_EQ(Below(u"C:\\Work"_s), (QStringList{u"a.bin"_s, u"a.bin.2"_s}));
+    EXPECT_EQ(memory.files.Bytes(PathOf(2)), "mine");
+}
+
+TEST_F(Split, EachPartIsOnTheDiscBeforeTheNextButOneIsMade)
+{
+    memory.journal.Clear();
+    Of({u"--size"_s, u"1K"_s});
+    QStringList steps;
+    for (const JournalEntry &entry : memory.journal.Entries()) {
+        if (entry.what == u"WriteBytes" || entry.what == u"FlushFile" || entry.what == u"CloseFile")
+            steps += entry.what.left(5) + entry.about.right(2);
+    }
+    EXPECT_EQ(steps,
+              (QStringList{u"Write.1"_s, u"Write.2"_s, u"Flush.1"_s, u"Close.1"_s, u"Write.3"_s, u"Flush.2"_s,
+                           u"Close.2"_s, u"Flush.3"_s, u"Close.3"_s}));
+}
+
 TEST_F(Split, AStopBetweenTwoStepsLeavesNothing)
 {
     stops.signal = SIGTERM;

@@ -99,6 +99,8 @@ private:
     void CutAll();
     void WriteParts();
     void WritePart(OpenFile &source, qint64 number);
+    void CopyPart(OpenFile &source, qint64 number);
+    void WriteDownLast();
     void WriteOther(const QString &file, const QByteArray &bytes);
     void Close();
     void TakeBack();
@@ -118,6 +120,8 @@ private:
 
     QString at; ///< what is being worked on, for whatever fails
     std::unique_ptr<OpenFile> part; ///< the one that is being written
+    std::unique_ptr<OpenFile> last; ///< the one before it, on its way down to the medium
+    QString lastPath;
     QCryptographicHash whole{QCryptographicHash::Sha256};
     QByteArray checksums; ///< of the parts so far
     QByteArray room{copiedAtOnce, Qt::Uninitialized};
@@ -217,6 +221,7 @@ void Split::WriteParts()
     const auto source = files.Open(path, OpenFor::Reading);
     for (qint64 number = 1; number <= parts; ++number)
         WritePart(*source, number);
+    WriteDownLast();
     at = path;
     if (source->Length() != length)
         throw Failure(FailureNumber::DeviceIoError, u"It changed while it was read"_s);
@@ -224,19 +229,27 @@ void Split::WriteParts()
 
 void Split::WritePart(OpenFile &source, qint64 number)
 {
-    const QString partPath = PartName(path, number);
-    QCryptographicHash hash(QCryptographicHash::Sha256);
     console.BetweenSteps();
-    at = partPath;
-    part = files.Open(partPath, OpenFor::Creating);
+    at = PartName(path, number);
+    part = files.Open(at, OpenFor::Creating);
     ++madeParts;
+    CopyPart(source, number);
+    // Each part is waited for when the next one is written, so that the medium is never without work.
+    WriteDownLast();
+    last = std::move(part);
+    lastPath = PartName(path, number);
+}
+
+void Split::CopyPart(OpenFile &source, qint64 number)
+{
+    QCryptographicHash hash(QCryptographicHash::Sha256);
     for (qint64 left = LengthOf(number); left > 0;) {
         at = path;
         const auto wanted = static_cast<size_t>(std::min(left, copiedAtOnce));
         const auto bytes = QByteArray::fromRawData(room.data(), source.ReadInto({room.data(), wanted}));
         if (bytes.isEmpty())
             throw Failure(FailureNumber::DeviceIoError, u"It changed while it was read"_s);
-        at = partPath;
+        at = PartName(path, number);
         part->Write(bytes);
         if (hasChecksums) {
             hash.addData(bytes);
@@ -247,10 +260,18 @@ void Split::WritePart(OpenFile &source, qint64 number)
         console.ShowProgress(static_cast<double>(copied), static_cast<double>(length));
         console.BetweenSteps();
     }
-    part->Flush();
-    part->Close();
     if (hasChecksums)
         checksums += ChecksumLine(PartName(name, number), hash.result());
+}
+
+void Split::WriteDownLast()
+{
+    if (!last)
+        return;
+    at = lastPath;
+    last->Flush();
+    last->Close();
+    last.reset();
 }
 
 void Split::WriteOther(const QString &file, const QByteArray &bytes)
@@ -281,6 +302,7 @@ void Split::Close()
 void Split::TakeBack()
 {
     part.reset();
+    last.reset();
     const auto remove = [this](const QString &file) {
         try {
             files.RemoveFile(file);

@@ -22,6 +22,7 @@ struct MemoryDisc {
     MemoryDisc() { machine.files.PutFolder(root); }
     void Link(const QString &path, const QString &target) { machine.files.PutLink(path, target); }
     void Pipe(const QString &path) { machine.files.PutPipe(path); }
+    void GiveSecondName(const QString &path) { machine.files.SetNames(path, 2); }
     void Hide(const QString &path) { machine.files.SetHidden(path); }
 
     MemoryMachine machine;
@@ -36,6 +37,11 @@ struct RealDisc {
         ASSERT_EQ(symlink(target.toUtf8().constData(), path.toUtf8().constData()), 0);
     }
     void Pipe(const QString &path) { ASSERT_EQ(mkfifo(path.toUtf8().constData(), 0600), 0); }
+    void GiveSecondName(const QString &path)
+    {
+        const QByteArray name = path.toUtf8();
+        ASSERT_EQ(link(name.constData(), (name + ".second").constData()), 0);
+    }
     /// Nothing to do: the name begins with a dot.
     void Hide(const QString & /*path*/) { }
 

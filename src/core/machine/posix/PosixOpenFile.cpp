@@ -26,9 +26,19 @@ namespace {
 /// For files that don't tell their length, such as those of /proc.
 constexpr qint64 roomForUnknown = 1 << 16;
 
+/// The medium works on one such run of bytes while the next is written.
+constexpr qint64 sentAtOnce = 8 << 20;
+
 [[noreturn]] void ThrowError()
 {
     throw Failure(NumberOfError(errno));
+}
+
+/// Whether a file's bytes stand in a journal too, where nobody can tell what is left of them.
+bool IsInJournal(int file)
+{
+    int flags = 0;
+    return ioctl(file, FS_IOC_GETFLAGS, &flags) == 0 && (flags & FS_JOURNAL_DATA_FL) != 0;
 }
 
 QByteArray Room(qint64 length)
@@ -79,13 +89,25 @@ void PosixOpenFile::Write(const QByteArray &bytes)
 {
     qsizetype put = 0;
     do {
-        const ssize_t piece = Retried([&] {
-            return write(file.Number(), bytes.constData() + put, static_cast<size_t>(bytes.size() - put));
-        });
+        const auto next = static_cast<size_t>(std::min<qint64>(bytes.size() - put, sentAtOnce));
+        const ssize_t piece = Retried([&] { return write(file.Number(), bytes.constData() + put, next); });
         if (piece < 0)
             ThrowError();
         put += piece;
+        NoteWritten(piece);
     } while (put < bytes.size());
+}
+
+void PosixOpenFile::NoteWritten(qint64 bytes)
+{
+    writtenOnEnd += bytes;
+    if (writtenOnEnd < sentAtOnce)
+        return;
+    // A wish, like the position here: what can't begin early is written down by the flush.
+    const off_t end = lseek(file.Number(), 0, SEEK_CUR);
+    if (end >= writtenOnEnd)
+        sync_file_range(file.Number(), end - writtenOnEnd, writtenOnEnd, SYNC_FILE_RANGE_WRITE);
+    writtenOnEnd = 0;
 }
 
 qint64 PosixOpenFile::Position() const
@@ -100,6 +122,8 @@ void PosixOpenFile::Seek(qint64 position)
 {
     if (lseek(file.Number(), position, SEEK_SET) < 0)
         ThrowError();
+    // What is written over at once need not reach the medium before.
+    writtenOnEnd = 0;
 }
 
 qint64 PosixOpenFile::Length() const
@@ -136,6 +160,8 @@ std::optional<QList<Extent>> PosixOpenFile::Extents() const
     constexpr quint32 notItsOwnBytes = FIEMAP_EXTENT_UNKNOWN | FIEMAP_EXTENT_DELALLOC | FIEMAP_EXTENT_ENCODED
         | FIEMAP_EXTENT_DATA_ENCRYPTED | FIEMAP_EXTENT_NOT_ALIGNED | FIEMAP_EXTENT_DATA_INLINE
         | FIEMAP_EXTENT_DATA_TAIL | FIEMAP_EXTENT_SHARED;
+    if (IsInJournal(file.Number()))
+        return {};
     std::vector<std::byte> room(sizeof(fiemap) + atOnce * sizeof(fiemap_extent));
     QList<Extent> extents;
     quint64 from = 0;

@@ -35,8 +35,11 @@ public:
 private:
     /// How many bytes to make room for, to read at most so many.
     qint64 RoomFor(qint64 maximum) const;
+    /// Sends long runs of written bytes on their way to the medium, so that a flush finds little left.
+    void NoteWritten(qint64 bytes);
 
     Descriptor file;
+    qint64 writtenOnEnd = 0; ///< bytes that were written in a row and not sent on their way yet
 };
 
 } // namespace tressel
