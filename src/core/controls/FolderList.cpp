@@ -15,6 +15,11 @@ FolderList::FolderList(Form &form, const QString &name, FileSystem &fileSystem)
     path = volumes.isEmpty() ? QString(files.Separator()) : volumes.first().root;
 }
 
+const QStringList &FolderList::Items() const
+{
+    return Listed().rows;
+}
+
 void FolderList::SetPath(const QString &folder)
 {
     if (!FolderExists(files, folder))
@@ -25,19 +30,25 @@ void FolderList::SetPath(const QString &folder)
         wanted.chop(1);
     const bool isAnother = wanted != path;
     path = wanted;
-    ListAnew();
+    Refresh();
     if (isAnother)
         Change.Raise();
 }
 
 void FolderList::Refresh()
 {
-    ListAnew();
+    listing.reset();
+    Clear();
 }
 
 QString FolderList::SelectedPath() const
 {
-    return ListIndex() < 0 ? path : paths.at(ListIndex());
+    return ListIndex() < 0 ? path : PathOf(ListIndex());
+}
+
+int FolderList::PresentRow() const
+{
+    return Listed().presentRow;
 }
 
 void FolderList::UserActivates(int index)
@@ -45,29 +56,26 @@ void FolderList::UserActivates(int index)
     if (index < 0 || index >= ListCount())
         return;
     UserAct([&] {
-        const QString folder = paths.at(index);
+        const QString folder = PathOf(index);
         // A folder that has gone since it was listed, or can't be entered: the list stays where it is.
         if (FolderExists(files, folder))
             SetPath(folder);
     });
 }
 
-void FolderList::ListAnew()
+const FolderList::Listing &FolderList::Listed() const
+{
+    if (!listing)
+        listing = ListDisc();
+    return *listing;
+}
+
+FolderList::Listing FolderList::ListDisc() const
 {
     const QString root = DriveOf(files, path);
-    QStringList rows{root};
-    paths = {root};
-    depths = {0};
-    QString above = root;
-    const QStringList levels =
-        WithSeparator(files, path).mid(root.size()).split(files.Separator(), Qt::SkipEmptyParts);
-    for (const QString &level : levels) {
-        above = JoinPath(files, above, level);
-        rows += level;
-        paths += above;
-        depths += depths.last() + 1;
-    }
-    presentRow = static_cast<int>(rows.size()) - 1;
+    Listing listed{{root}};
+    listed.rows += path.mid(root.size()).split(files.Separator(), Qt::SkipEmptyParts);
+    listed.presentRow = static_cast<int>(listed.rows.size()) - 1;
 
     QList<FolderEntry> entries;
     try {
@@ -76,16 +84,21 @@ void FolderList::ListAnew()
         // A folder that can't be read shows no sub folders; the way out of it stays on show.
     }
     for (const FolderEntry &entry : entries) {
-        const QString below = JoinPath(files, path, entry.name);
-        const bool isFolder =
-            entry.kind == EntryKind::Folder || (entry.kind == EntryKind::Link && FolderExists(files, below));
-        if (!isFolder || entry.hidden)
-            continue;
-        rows += entry.name;
-        paths += below;
-        depths += presentRow + 1;
+        const bool isFolder = entry.kind == EntryKind::Folder
+            || (entry.kind == EntryKind::Link && FolderExists(files, JoinPath(files, path, entry.name)));
+        if (isFolder && !entry.hidden)
+            listed.rows += entry.name;
     }
-    SetItems(rows);
+    return listed;
+}
+
+QString FolderList::PathOf(int row) const
+{
+    const Listing &listed = Listed();
+    QString above = listed.rows.first();
+    for (int level = 1; level <= std::min(row, listed.presentRow); ++level)
+        above = JoinPath(files, above, listed.rows.at(level));
+    return row <= listed.presentRow ? above : JoinPath(files, above, listed.rows.at(row));
 }
 
 } // namespace tressel

@@ -9,7 +9,7 @@ const QString &ItemList::Item(int index) const
 {
     if (index < 0 || index >= ListCount())
         throw Failure(FailureNumber::SubscriptOutOfRange);
-    return items.at(index);
+    return Items().at(index);
 }
 
 void ItemList::AddItem(const QString &text)

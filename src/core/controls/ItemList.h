@@ -14,8 +14,8 @@ class ItemList : public Control {
 public:
     using Control::Control;
 
-    int ListCount() const { return static_cast<int>(items.size()); }
-    const QStringList &Items() const { return items; }
+    int ListCount() const { return static_cast<int>(Items().size()); }
+    virtual const QStringList &Items() const { return items; }
     /// Fails with 9 for an index outside the list.
     const QString &Item(int index) const;
     void AddItem(const QString &text);
