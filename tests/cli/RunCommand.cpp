@@ -70,6 +70,14 @@ private:
     int programSide = -1;
 };
 
+/// Leaves the process to be waited for, so that its number stays its own.
+bool HasEnded(pid_t process)
+{
+    siginfo_t ended = {};
+    return waitid(P_PID, static_cast<id_t>(process), &ended, WEXITED | WNOHANG | WNOWAIT) != 0
+        || ended.si_pid == process;
+}
+
 /// Opened before any rights are given up: nobody may enter the folder that it is built in.
 const int programFile = open(TRESSEL_CLI, O_RDONLY | O_CLOEXEC);
 
@@ -108,7 +116,7 @@ Outcome CommandPlace::RunCli(const std::vector<std::string> &arguments, uid_t as
     }
     if (!interruptAfter.empty() || interruptWhen) {
         const auto isTime = [this] { return interruptWhen ? interruptWhen() : fs::exists(interruptAfter); };
-        while (!isTime() && waitpid(child, nullptr, WNOHANG) == 0)
+        while (!isTime() && !HasEnded(child))
             sched_yield();
         kill(child, interruptWith);
     }

@@ -4,6 +4,7 @@
 // The built program cuts and joins on the real disc.
 
 #include "RunCommand.h"
+#include "support/OwnMounts.h"
 
 #include <array>
 #include <cstdlib>
@@ -34,6 +35,15 @@ protected:
         workingFolder = folder / "w";
     }
     std::set<std::string> Here() const { return Below("w"); }
+    /// Makes a file of nearly all the room that is left on its disc.
+    void TakeRoom(const std::string &name) const
+    {
+        constexpr std::uintmax_t rest = 1 << 20;
+        const fs::path path = Put(name, "");
+        const int file = open(path.c_str(), O_WRONLY | O_CLOEXEC);
+        posix_fallocate(file, 0, static_cast<off_t>(fs::space(path).available - rest));
+        close(file);
+    }
     /// Runs a command of the shell in the folder; true if it ended well.
     bool Shell(const std::string &command) const
     {
@@ -103,6 +113,66 @@ TEST_F(SplitProcess, AFileLimitLeavesNoPart)
     EXPECT_EQ(Here(), std::set<std::string>{"a"});
 }
 
+TEST_F(SplitProcess, AFileLimitUnderTheLastPartLeavesNoPart)
+{
+    Put("w/a", Pattern(100001));
+    // Three parts of 33,334, 33,334 and 33,333 bytes, and a batch file; or two and one that is longer.
+    longestFile = 33333;
+    EXPECT_EQ(RunCli({"split", "a", "--count", "3"}).status, 1);
+    EXPECT_EQ(Here(), std::set<std::string>{"a"});
+    Put("w/a", Pattern(100000));
+    const Outcome outcome = RunCli({"split", "a", "--count", "3", "--batch"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.err.find("a.3: Disk full"), std::string::npos) << outcome.err;
+    EXPECT_EQ(Here(), std::set<std::string>{"a"});
+}
+
+TEST_F(SplitProcess, ASmallDiscIsLookedAtBeforeTheFirstByte)
+{
+    const auto holds = HoldsAmongOwnMounts([this] {
+        if (!MountMemory((folder / "w").c_str(), 160 << 10))
+            return false;
+        Put("w/a", Pattern(90000));
+        const Outcome split = RunCli({"split", "a", "--count", "3"});
+        const bool isSplitRefused = split.status == 1
+            && split.err.find("bytes, and the parts take 90000\n") != std::string::npos
+            && Here() == std::set<std::string>{"a"};
+        fs::rename(folder / "w/a", folder / "w/b.1");
+        const Outcome join = RunCli({"join", "b"});
+        return isSplitRefused && join.status == 1
+            && join.err.find("bytes, and the file takes 90000\n") != std::string::npos
+            && Here() == std::set<std::string>{"b.1"};
+    });
+    if (!holds)
+        GTEST_SKIP() << "This system lets nobody have mounts of their own.";
+    EXPECT_TRUE(*holds);
+}
+
+TEST_F(SplitProcess, ADiscThatAnotherFillsMeanwhileIsLeftAsItWas)
+{
+    // Another program takes what is left as soon as the first part is there.
+    const auto holds = HoldsAmongOwnMounts([this] {
+        if (!MountMemory((folder / "w").c_str(), 64 << 20))
+            return false;
+        Put("w/a", "");
+        if (truncate((folder / "w/a").c_str(), 40 << 20) != 0)
+            return false;
+        interruptWhen = [this, isFull = false]() mutable {
+            if (!isFull && fs::exists(folder / "w/a.1")) {
+                isFull = true;
+                TakeRoom("w/z");
+            }
+            return false;
+        };
+        const Outcome outcome = RunCli({"split", "a", "--size", "64K", "--batch"});
+        return outcome.status == 1 && outcome.err.find(": Disk full\n") != std::string::npos
+            && outcome.out == "made 0 parts, 0 other files\n" && Here() == std::set<std::string>{"a", "z"};
+    });
+    if (!holds)
+        GTEST_SKIP() << "This system lets nobody have mounts of their own.";
+    EXPECT_TRUE(*holds);
+}
+
 TEST_F(SplitProcess, NamesThatDoNotFitLeaveNothing)
 {
     const std::string name(254, 'n');
@@ -138,7 +208,10 @@ TEST_F(SplitProcess, AFileOfAnotherIsCutWhereItCanBeRead)
     chmod((folder / "w/a").c_str(), 0444);
     fs::permissions(folder, fs::perms::all);
     fs::permissions(folder / "w", fs::perms::all);
-    EXPECT_EQ(RunCli({"split", "a", "--count", "2"}).status, 0);
+    constexpr uid_t nobody = 65534;
+    const Outcome outcome = RunCli({"split", "a", "--count", "2"}, geteuid() == 0 ? nobody : 0);
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    EXPECT_EQ(Contents(folder / "w/a.1") + Contents(folder / "w/a.2"), Pattern(100));
 }
 
 TEST_F(SplitProcess, ASignalLeavesNoPart)

@@ -147,6 +147,7 @@ void EmptyFoldersPage::EndSearch(const QString &root)
     const bool foundSome = ListRemove.ListCount() > 0;
     if (foundSome)
         SetFoundButtonsEnabled(true);
+    // Kept: a root that has gone by now is no one's to mend here; the failure leaves the event.
     DirListRemove.SetPath(root);
     if (!foundSome) {
         area.lblStatusLine.SetCaption(u"I'm Finished"_s);

@@ -173,6 +173,28 @@ TEST_F(EmptyFolderSearchTest, ARootThatCannotBeReadIsTold)
     EXPECT_EQ(page.btnGBToolbarSearch.Caption(), u"Find Dir"_s);
 }
 
+TEST_F(EmptyFolderSearchTest, ARootThatHasGoneIsToldAndThenEndsTheProgram)
+{
+    page.DirListRemove.SetPath(u"C:\\W"_s);
+    machine.files.PutLinkInPlaceOf(u"C:\\W"_s, u"C:\\none"_s);
+    machine.dialogs.ExpectBox({u"Cannot access C:\\W\\."_s, u"Error accessing drive"_s, BoxIcon::Critical});
+    QList<int> fatal;
+    bench.form.SetFatalHandler([&](const Failure &failure) { fatal += failure.Number(); });
+    page.btnGBToolbarSearch.UserClicks();
+    EXPECT_EQ(fatal, QList<int>{76});
+}
+
+TEST_F(EmptyFolderSearchTest, ARootThatGoesMeanwhileEndsTheProgramBehindTheSearch)
+{
+    machine.files.PutFolder(u"C:\\W\\a"_s);
+    machine.events.At(1, [&] { machine.files.PutLinkInPlaceOf(u"C:\\W"_s, u"C:\\none"_s); });
+    QList<int> fatal;
+    bench.form.SetFatalHandler([&](const Failure &failure) { fatal += failure.Number(); });
+    Search();
+    EXPECT_EQ(fatal, QList<int>{76});
+    EXPECT_EQ(page.btnGBToolbarSearch.Caption(), u"Find Dir"_s);
+}
+
 TEST_F(EmptyFolderSearchTest, AParentIsFoundByTheNextSearch)
 {
     machine.files.PutFolder(u"C:\\W\\a\\b\\c"_s);

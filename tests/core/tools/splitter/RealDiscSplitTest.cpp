@@ -8,6 +8,8 @@
 #include "machine/WholeFile.h"
 #include "machine/posix/PosixFileSystem.h"
 #include "support/AsNobody.h"
+#include "support/FullDisc.h"
+#include "support/OwnMounts.h"
 #include "support/TemporaryFolder.h"
 
 #include <sys/stat.h>
@@ -139,6 +141,93 @@ TEST_F(RealDiscSplit, AFileThatCannotBeWrittenIsAReadError)
     });
     EXPECT_TRUE(wasTold);
     EXPECT_EQ(Names(), QStringList{u"a"_s});
+}
+
+TEST_F(RealDiscSplit, AFullDiscAtEachWriteCleansNothing)
+{
+    constexpr int part = 40 << 10;
+    const QByteArray contents = QByteArray("0123456789abcdef").repeated(3 * part / 16);
+    for (int failing = 1; failing <= 3; ++failing) {
+        tool.page.cmbSplitSize.SetText(u"40"_s);
+        const auto holds = HoldsAmongOwnMounts([&] {
+            // Room for the file, the parts before this one, and half of it.
+            if (!MountMemory(folder.Native(""), contents.size() + (failing - 1) * part + part / 2))
+                return false;
+            Put(u"a"_s, contents);
+            Choose(u"a"_s);
+            tool.Split();
+            QStringList left{u"a"_s};
+            for (int made = 1; made <= failing; ++made)
+                left += u"a."_s + QString::number(made);
+            bool areWhole = Read(u"a"_s) == contents;
+            for (int made = 1; made < failing; ++made)
+                areWhole = areWhole && Read(left.at(made)) == contents.mid((made - 1) * part, part);
+            return tool.Count() == u"Split Count: Write Error"_s && tool.Status() == u"Wait working..."_s
+                && areWhole && Names() == left;
+        });
+        if (!holds)
+            GTEST_SKIP() << "This system lets nobody have mounts of their own.";
+        EXPECT_TRUE(*holds) << failing;
+    }
+}
+
+TEST_F(RealDiscSplit, AFullDiscUnderTheBatchFileIsToldAndTheRunEnds)
+{
+    const QByteArray contents(40 << 10, 'a');
+    const auto holds = HoldsAmongOwnMounts([&] {
+        if (!MountMemory(folder.Native(""), 2 * contents.size()))
+            return false;
+        Put(u"a"_s, contents);
+        Choose(u"a"_s);
+        tool.page.cmbSplitSize.SetText(u"40"_s);
+        machine.dialogs.ExpectBox(u"Unable to copy a.2 to  A:\\a.2"_s);
+        tool.Split();
+        return machine.dialogs.AllCame() && tool.Count() == u"Split Count: Finished (1 Files)"_s
+            && Read(u"a.1"_s) == contents;
+    });
+    if (!holds)
+        GTEST_SKIP() << "This system lets nobody have mounts of their own.";
+    EXPECT_TRUE(*holds);
+}
+
+TEST_F(RealDiscSplit, AFullDiscUnderAJoinLeavesItsPartsAndWhatWasWritten)
+{
+    for (const QString &name : {u"a.1"_s, u"a.2"_s, u"a.3"_s})
+        Put(name, QByteArray(3000, name.back().toLatin1()));
+    tool.page.cboFileName.UserEdits(Path(u"a"_s));
+    {
+        const FullDisc full(5000);
+        tool.Join();
+    }
+    EXPECT_EQ(tool.Count(), u"Join Count: Write Error"_s);
+    EXPECT_EQ(Read(u"a"_s), QByteArray(3000, '1') + QByteArray(2000, '2'));
+    EXPECT_EQ(Names(), (QStringList{u"a"_s, u"a.1"_s, u"a.2"_s, u"a.3"_s}));
+}
+
+TEST_F(RealDiscSplit, TheSourceMayGrowAndShrinkInMidRun)
+{
+    const QByteArray contents = QByteArray("0123456789").repeated(250);
+    Put(u"a"_s, contents);
+    Choose(u"a"_s);
+    machine.events.At(1, [&] { files.Open(Path(u"a"_s), OpenFor::Appending)->Write("more"); });
+    tool.Split();
+    EXPECT_EQ(Read(u"a.1"_s) + Read(u"a.2"_s) + Read(u"a.3"_s), contents + "more");
+    machine.events.At(1, [&] { files.Open(Path(u"a"_s), OpenFor::Changing)->Resize(1500); });
+    tool.Split();
+    EXPECT_EQ(tool.Count(), u"Split Count: Finished (2 Files)"_s);
+    EXPECT_EQ(Read(u"a.1"_s) + Read(u"a.2"_s), contents.left(1500));
+}
+
+TEST_F(RealDiscSplit, AFolderInAPartsPlaceIsAWriteErrorAndStays)
+{
+    Put(u"a"_s, QByteArray(2500, 'a'));
+    ASSERT_FALSE(files.TryMakeFolder(Path(u"a.2"_s)));
+    Put(u"a.2/inside"_s, "mine");
+    Choose(u"a"_s);
+    tool.Split();
+    EXPECT_EQ(tool.Count(), u"Split Count: Write Error"_s);
+    EXPECT_EQ(Read(u"a.2/inside"_s), "mine");
+    EXPECT_EQ(Names(), (QStringList{u"a"_s, u"a.1"_s, u"a.2"_s}));
 }
 
 TEST_F(RealDiscSplit, TheProcessKeepsItsFolder)
