@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "DesktopStage.h"
+#include "gui/DropOn.h"
 #include "gui/GuiTest.h"
 #include "gui/WhenUp.h"
 #include "widgets/IsButtonWidget.h"
@@ -9,12 +10,10 @@
 
 #include <QAccessible>
 #include <QCheckBox>
-#include <QDropEvent>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
-#include <QMimeData>
 #include <QTreeView>
 
 using namespace tressel;
@@ -36,18 +35,6 @@ void WillChoose(const QString &path)
 void Click(QWidget &widget)
 {
     QTest::mouseClick(&widget, Qt::LeftButton);
-}
-
-void DropOn(QWidget &widget, const QString &path)
-{
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(path)});
-    const QPoint middle = widget.rect().center();
-    QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&widget, &enter);
-    QVERIFY(enter.isAccepted());
-    QDropEvent drop(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&widget, &drop);
 }
 
 void WriteFile(const QString &path, const QByteArray &content)
@@ -122,7 +109,7 @@ private Q_SLOTS:
         QCOMPARE(names.rowCount(), 2);
         QCOMPARE(names.index(0, 0).data().toString(), u"Sales\\2024\\Q1"_s);
 
-        DropOn(stage.Face<QLineEdit>(u"txtStrtPath"_s), stage.Place(u"made"_s));
+        DropOn(stage.Face<QLineEdit>(u"txtStrtPath"_s), {stage.Place(u"made"_s)});
         stage.Settle();
         QCOMPARE(stage.Face<QLineEdit>(u"txtStrtPath"_s).text(), stage.Place(u"made"_s));
 
