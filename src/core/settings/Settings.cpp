@@ -111,11 +111,6 @@ QString Settings::ReadText(const KeyEntry &key, KeyReader reader) const
     return ToText(Read(key, reader));
 }
 
-std::int16_t Settings::ReadInt16(const KeyEntry &key, KeyReader reader) const
-{
-    return ToInt16(Read(key, reader));
-}
-
 std::int32_t Settings::ReadInt32(const KeyEntry &key, KeyReader reader) const
 {
     return ToInt32(Read(key, reader));

@@ -35,8 +35,7 @@ public:
     /// A key of the older product that is missing or empty is stored with its default by being read.
     Value Read(const KeyEntry &key, KeyReader reader = KeyReader::First) const;
     QString ReadText(const KeyEntry &key, KeyReader reader = KeyReader::First) const;
-    /// As a whole number. These two fail with 6 and 13 as the conversions in base/Numbers.h do.
-    std::int16_t ReadInt16(const KeyEntry &key, KeyReader reader = KeyReader::First) const;
+    /// As a whole number. Fails with 6 and 13 as the conversions in base/Numbers.h do.
     std::int32_t ReadInt32(const KeyEntry &key, KeyReader reader = KeyReader::First) const;
     /// As a yes or no: "True" and "False", or a number, of which 0 alone is no. Fails with 13 for another
     /// text.
