@@ -7,12 +7,6 @@ namespace tressel {
 
 using namespace Qt::StringLiterals;
 
-bool MemoryHive::HasKey(Root root, const QString &key)
-{
-    journal.Note(u"HasKey"_s, key);
-    return hive.HasKey(root, key);
-}
-
 std::optional<HiveValue> MemoryHive::Read(Root root, const QString &key, const QString &name)
 {
     journal.Note(u"ReadSetting"_s, key + u'\\' + name);

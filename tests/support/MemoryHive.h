@@ -18,8 +18,6 @@ public:
     {
     }
 
-    /// Journal: "HasKey" about the key.
-    bool HasKey(Root root, const QString &key) override;
     /// Journal: "ReadSetting" about key and name, with "\" between; no entry for the value.
     std::optional<HiveValue> Read(Root root, const QString &key, const QString &name) override;
     /// Journal: "WriteSetting" about key and name, the value as detail. The machine's root can't be written.

@@ -175,12 +175,6 @@ void Form::TakeGeometry(int newLeft, int newTop, int newWidth, int newHeight, Wi
     Dispatch([this] { Resize.Raise(); });
 }
 
-void Form::TakeBorder(int widthTwips, int heightTwips)
-{
-    borderWidth = widthTwips;
-    borderHeight = heightTwips;
-}
-
 void Form::UserActivates()
 {
     Dispatch([this] { Activate.Raise(); });

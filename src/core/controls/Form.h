@@ -45,9 +45,6 @@ public:
     int Top() const { return top; }
     int Width() const { return width; }
     int Height() const { return height; }
-    /// The size inside the window's border and title bar; the whole one until a face told theirs.
-    int InnerWidth() const { return width - borderWidth; }
-    int InnerHeight() const { return height - borderHeight; }
     void Move(int newLeft, int newTop);
     /// Raises Resize if the size differs.
     void SetSize(int newWidth, int newHeight);
@@ -105,8 +102,6 @@ public:
     /// The user's or the desktop's doing: takes place, size and state over without noting a change,
     /// and raises Resize if the size differs.
     void TakeGeometry(int newLeft, int newTop, int newWidth, int newHeight, WindowState newState);
-    /// What border and title bar take off the window's size, both sides together, in twips.
-    void TakeBorder(int widthTwips, int heightTwips);
     /// The user turned to this form from another one: raises Activate.
     void UserActivates();
 
@@ -127,8 +122,6 @@ private:
     int height = 0;
     int leastWidth = 0;
     int leastHeight = 0;
-    int borderWidth = 0;
-    int borderHeight = 0;
     WindowState state = WindowState::Normal;
     bool closeBox = true;
     bool visible = false;

@@ -116,10 +116,6 @@ public:
     /// rows and scrolling are as in a new side bar and redraw is on. The entries stay.
     void Reset();
 
-    /// Room of the page in twips, 0 before a face told it.
-    int PageWidth() const { return pageWidth; }
-    int PageHeight() const { return pageHeight; }
-
     Event<SideBarItem &> ItemSelected; ///< the user opened an entry; never raised by the program's doing
     Event<> StripResize; ///< the number of rows changed
     Event<> PageResize; ///< the room of the page changed

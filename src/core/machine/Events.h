@@ -23,20 +23,4 @@ public:
     virtual void SetBusyPointer(bool busy) = 0;
 };
 
-/// The busy pointer for as long as this object lives.
-class BusyPointer {
-public:
-    explicit BusyPointer(Events &events)
-        : events(events)
-    {
-        events.SetBusyPointer(true);
-    }
-    ~BusyPointer() { events.SetBusyPointer(false); }
-    BusyPointer(const BusyPointer &) = delete;
-    BusyPointer &operator=(const BusyPointer &) = delete;
-
-private:
-    Events &events;
-};
-
 } // namespace tressel

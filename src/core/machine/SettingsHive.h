@@ -33,7 +33,6 @@ public:
 
     virtual ~SettingsHive() = default;
 
-    virtual bool HasKey(Root root, const QString &key) = 0;
     virtual std::optional<HiveValue> Read(Root root, const QString &key, const QString &name) = 0;
     /// Makes the key if it isn't there. False if nothing can be written.
     virtual bool Write(Root root, const QString &key, const QString &name, const HiveValue &value) = 0;

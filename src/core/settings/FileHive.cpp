@@ -49,11 +49,6 @@ HiveTree &FileHive::Held()
     return *held;
 }
 
-bool FileHive::HasKey(Root root, const QString &key)
-{
-    return root == Root::Machine ? IsFactsKey(key) : Held().HasKey(key);
-}
-
 std::optional<HiveValue> FileHive::Read(Root root, const QString &key, const QString &name)
 {
     if (root == Root::User)

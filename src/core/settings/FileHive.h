@@ -39,7 +39,6 @@ public:
     /// The user's own folder for settings of this program; empty without a home.
     static QString DefaultFolder();
 
-    bool HasKey(Root root, const QString &key) override;
     std::optional<HiveValue> Read(Root root, const QString &key, const QString &name) override;
     /// True once the value is held in memory, false for the machine's root.
     bool Write(Root root, const QString &key, const QString &name, const HiveValue &value) override;

@@ -16,16 +16,6 @@ QString Tidied(const QString &key)
 
 } // namespace
 
-bool HiveTree::HasKey(const QString &key) const
-{
-    const QString path = Tidied(key);
-    if (keys.contains(path))
-        return true;
-    const QString above = path + QChar(u'\\');
-    const auto below = keys.lower_bound(above);
-    return below != keys.end() && below->first.startsWith(above, Qt::CaseInsensitive);
-}
-
 std::optional<HiveValue> HiveTree::Read(const QString &key, const QString &name) const
 {
     const auto values = keys.find(Tidied(key));
@@ -54,11 +44,6 @@ void HiveTree::Take(const HiveTree &changes)
         for (const auto &[name, value] : values)
             Write(key, name, value);
     }
-}
-
-bool MemorySettingsHive::HasKey(Root root, const QString &key)
-{
-    return Tree(root).HasKey(key);
 }
 
 std::optional<HiveValue> MemorySettingsHive::Read(Root root, const QString &key, const QString &name)

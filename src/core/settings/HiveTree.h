@@ -25,8 +25,6 @@ public:
     using Values = std::map<QString, HiveValue, NameLess>;
     using Keys = std::map<QString, Values, NameLess>;
 
-    /// True for a key that was made, and for each key above it.
-    bool HasKey(const QString &key) const;
     std::optional<HiveValue> Read(const QString &key, const QString &name) const;
     void MakeKey(const QString &key);
     /// Makes the key if it isn't there.
@@ -47,7 +45,6 @@ private:
 /// A hive that lives as long as the process.
 class MemorySettingsHive : public SettingsHive {
 public:
-    bool HasKey(Root root, const QString &key) override;
     std::optional<HiveValue> Read(Root root, const QString &key, const QString &name) override;
     bool Write(Root root, const QString &key, const QString &name, const HiveValue &value) override;
     void Flush() override { }

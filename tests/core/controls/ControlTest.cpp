@@ -57,18 +57,4 @@ TEST(PictureBox, TellsOfTheMouseUnlessDisabled)
     EXPECT_EQ(told.size(), 4);
 }
 
-TEST(Form, ItsInnerSizeIsTheWholeOneUntilABorderIsTold)
-{
-    Form form(u"form"_s);
-    form.SetSize(1000, 800);
-    EXPECT_EQ(form.InnerWidth(), 1000);
-    EXPECT_EQ(form.InnerHeight(), 800);
-    form.TakeBorder(60, 400);
-    EXPECT_EQ(form.InnerWidth(), 940);
-    EXPECT_EQ(form.InnerHeight(), 400);
-    form.SetSize(2000, 1800);
-    EXPECT_EQ(form.InnerWidth(), 1940);
-    EXPECT_EQ(form.InnerHeight(), 1400);
-}
-
 } // namespace

@@ -191,15 +191,13 @@ TEST(HiveText, CutAnywhereItIsToldOrHoldsWhatItStillHolds)
     }
 }
 
-TEST(HiveTree, AKeyIsThereIfItOrOneBelowItWasMade)
+TEST(HiveTree, KeysCompareWithoutCaseAndWithoutEmptyLevels)
 {
     HiveTree tree;
     tree.Write(u"A\\B C\\D"_s, u"n"_s, 1U);
-    EXPECT_TRUE(tree.HasKey(u"a\\b c\\d"_s));
-    EXPECT_TRUE(tree.HasKey(u"A\\b C"_s));
-    EXPECT_TRUE(tree.HasKey(u"\\a\\"_s));
-    EXPECT_FALSE(tree.HasKey(u"A\\B"_s));
-    EXPECT_FALSE(tree.HasKey(u"A\\B C\\D\\E"_s));
+    EXPECT_EQ(tree.Read(u"\\a\\b c\\\\d\\"_s, u"N"_s), HiveValue(1U));
+    EXPECT_FALSE(tree.Read(u"A\\B C"_s, u"n"_s));
+    EXPECT_FALSE(tree.Read(u"A\\B C\\D\\E"_s, u"n"_s));
 }
 
 } // namespace
