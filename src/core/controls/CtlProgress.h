@@ -3,9 +3,9 @@
 
 #pragma once
 
+#include "base/FontFace.h"
 #include "controls/Colours.h"
 #include "controls/Control.h"
-#include "controls/FontFace.h"
 
 #include <cstdint>
 #include <optional>

@@ -3,8 +3,8 @@
 
 #pragma once
 
+#include "base/FontFace.h"
 #include "controls/Colours.h"
-#include "controls/FontFace.h"
 #include "controls/Picture.h"
 
 #include <QString>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "controls/FontFace.h"
+#include "base/FontFace.h"
 #include "controls/Picture.h"
 
 #include <QList>

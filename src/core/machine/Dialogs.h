@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "base/FontFace.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -44,13 +46,8 @@ struct FileDialogAnswer {
     QString folder;
 };
 
-struct FontChoice {
-    QString family;
-    double points = 10;
-    bool bold = false;
-    bool italic = false;
-    bool underline = false;
-    bool strikeout = false;
+/// A font and the colour of what is written in it.
+struct FontChoice : FontFace {
     quint32 colour = 0; ///< 0x00BBGGRR
 };
 

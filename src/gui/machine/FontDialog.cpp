@@ -4,6 +4,7 @@
 #include "machine/FontDialog.h"
 
 #include "machine/PlainColours.h"
+#include "widgets/FontFaces.h"
 
 #include <QColorDialog>
 #include <QFontInfo>
@@ -19,12 +20,7 @@ FontDialog::FontDialog(const FontChoice &font, QWidget *parent)
     , colour(ToColour(font.colour))
 {
     setOption(DontUseNativeDialog);
-    QFont shown(font.family);
-    shown.setPointSizeF(font.points);
-    shown.setBold(font.bold);
-    shown.setItalic(font.italic);
-    shown.setUnderline(font.underline);
-    shown.setStrikeOut(font.strikeout);
+    QFont shown = ToFont(font);
     // The dialog knows styles only of real families, not of names that stand for one.
     shown.setFamily(QFontInfo(shown).family());
     setCurrentFont(shown);
@@ -40,9 +36,7 @@ FontDialog::FontDialog(const FontChoice &font, QWidget *parent)
 
 FontChoice FontDialog::Choice() const
 {
-    const QFont font = selectedFont();
-    return {font.family(),    font.pointSizeF(), font.bold(),     font.italic(),
-            font.underline(), font.strikeOut(),  ToNumber(colour)};
+    return {ToFontFace(selectedFont()), ToNumber(colour)};
 }
 
 void FontDialog::ChooseColour()

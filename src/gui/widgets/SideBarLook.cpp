@@ -14,7 +14,7 @@ namespace tressel {
 
 namespace {
 
-QFont FontOf(const FontChoice &choice, QFont font)
+QFont FontOf(const FontFace &choice, QFont font)
 {
     if (QFontDatabase::hasFamily(choice.family))
         font.setFamily(choice.family);

@@ -382,8 +382,7 @@ TEST_F(OptionColours, HidingAllEntriesLeavesAWayBack)
 
 TEST_F(OptionColours, FontsGoToTheBarAndTheStore)
 {
-    const FontChoice font{
-        .family = u"Serif"_s, .points = 12.5, .bold = true, .underline = true, .colour = 0x0000FF};
+    const FontChoice font{{.family = u"Serif"_s, .points = 12.5, .bold = true, .underline = true}, 0x0000FF};
     machine.dialogs.ExpectChooseFont(font);
     options.btnGBTextSidebarFont.UserClicks();
     EXPECT_EQ(bar.TitleFont().family, u"Serif"_s);

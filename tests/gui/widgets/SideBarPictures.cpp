@@ -77,8 +77,8 @@ QList<Picture> Pictures()
         {u"large-fonts-200"_s, tall, 2,
          [](SideBarStage &stage) {
              FirstStart(stage);
-             stage.bar.SetTitleFont({u"DejaVu Serif"_s, 15, false, true, false, false, 0x800000});
-             stage.bar.SetCaptionFont({u"DejaVu Sans"_s, 18, true, false, false, false, 0x000080});
+             stage.bar.SetTitleFont({{u"DejaVu Serif"_s, 15, false, true, false, false}, 0x800000});
+             stage.bar.SetCaptionFont({{u"DejaVu Sans"_s, 18, true, false, false, false}, 0x000080});
              stage.bar.Items()[2].SetSelected(true);
          }},
     };

@@ -7,7 +7,7 @@
 
 namespace tressel {
 
-/// A font as controls hold it.
+/// A font as controls and settings hold it.
 struct FontFace {
     QString family;
     double points = 10;
