@@ -74,6 +74,8 @@ MainForm::MainForm(const FormContext &program, OptionForm &allOptions)
     PlaceIcons();
     TieToolbar();
     TiePathRow();
+    TieTree();
+    TieListing();
     TieSideBar();
     TieLayout();
     optionForm.Serve(*this);
@@ -123,20 +125,18 @@ void MainForm::TieToolbar()
 void MainForm::TiePathRow()
 {
     area.chkExtension.Click.Handle([this] { chkExtension_Click(); });
+    area.txtStrtPath.Drop.Handle([this](const QStringList &paths) { txtStrtPath_Drop(paths); });
+}
+
+void MainForm::TieTree()
+{
+    area.TVList.NodeClick.Handle([this](int node) { TVList_NodeClick(node); });
+}
+
+void MainForm::TieListing()
+{
     listing.SaveRenameSettings.Handle([this] { rename.SaveRenameSettings(); });
     listing.ResetEmptyFolderPage.Handle([this] { emptyFolders.ResetFoundList(); });
-    area.txtStrtPath.Drop.Handle([this](const QStringList &paths) {
-        if (!paths.isEmpty())
-            area.txtStrtPath.SetText(paths.first());
-    });
-    area.TVList.NodeClick.Handle([this](int node) {
-        const QString text = area.TVList.Nodes().at(node).text;
-        SetCaption(text);
-        // What isn't there yet can't be opened, and nobody is told.
-        const QString start = area.txtStrtPath.Text();
-        if (const auto folder = FolderBelow(machine.files, start, text))
-            machine.shell.Open(*folder, start);
-    });
 }
 
 void MainForm::btnGBToolbarCreate_Click()
@@ -203,6 +203,22 @@ void MainForm::chkExtension_Click()
     }
     if (session.ListFromFileList)
         listFile.LoadList();
+}
+
+void MainForm::txtStrtPath_Drop(const QStringList &paths)
+{
+    if (!paths.isEmpty())
+        area.txtStrtPath.SetText(paths.first());
+}
+
+void MainForm::TVList_NodeClick(int node)
+{
+    const QString text = area.TVList.Nodes().at(node).text;
+    SetCaption(text);
+    // What isn't there yet can't be opened, and nobody is told.
+    const QString start = area.txtStrtPath.Text();
+    if (const auto folder = FolderBelow(machine.files, start, text))
+        machine.shell.Open(*folder, start);
 }
 
 } // namespace tressel

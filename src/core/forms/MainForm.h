@@ -136,6 +136,8 @@ private:
 
     void TieToolbar();
     void TiePathRow();
+    void TieTree();
+    void TieListing();
 
     void btnGBToolbarCreate_Click();
     void btnGBToolbarLoadList_Click();
@@ -145,6 +147,8 @@ private:
     void btnGBToolbarOption_Click();
     void btnGBToolbarExit_Click();
     void chkExtension_Click();
+    void txtStrtPath_Drop(const QStringList &paths);
+    void TVList_NodeClick(int node);
 
     // MainFormLoad.cpp: restoring, in its fixed order.
     void LoadForm();

@@ -40,7 +40,7 @@ void MainForm::RestoreTools(Steps &steps)
     steps.Do([&] { area.txtStrtPath.SetText(settings.ReadText(keys::FilePath)); });
     steps.Do([&] { area.chkExtension.SetValue(settings.ReadInt32(keys::FileExt)); });
     steps.Do([&] { area.chkButtonBar.SetValue(settings.ReadInt32(keys::ButtonBar)); });
-    steps.Do([&] { rename.txtCurrentPath.SetText(settings.ReadText(keys::LastPath)); });
+    rename.Restore(steps);
     steps.Do([&] { session.ListFile = settings.ReadText(keys::LastFile); });
     rename.ResetRenamePage(steps);
     browse.Restore(steps);

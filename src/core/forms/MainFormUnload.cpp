@@ -78,7 +78,7 @@ void MainForm::SaveSettings()
     settings.Write(keys::ButtonBar, QString::number(area.chkButtonBar.Value()));
     settings.Write(keys::Separate, QString::number(PicStrip.Width()));
     settings.Write(keys::LastFile, session.ListFile);
-    settings.Write(keys::LastPath, rename.txtCurrentPath.Text());
+    rename.Save();
     browse.Save();
     textLists.Save();
     database.SaveFolder();

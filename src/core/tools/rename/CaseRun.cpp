@@ -50,16 +50,7 @@ void CaseRun::RenameEntries()
         return;
     frame.StartProgress(count);
     const CaseRule rule = Rule();
-    for (const QString &name : names) {
-        frame.ComeTo(folder, name);
-        // Both renames also where the name doesn't change.
-        const QString newName = CasedName(name, rule);
-        frame.RenameToDetour(folder, name, newName);
-        frame.RenameFromDetour(folder, name, newName);
-        frame.CountFile();
-        if (frame.CancelRename)
-            return;
-    }
+    frame.RenameEach(folder, names, [&](const QString &name) { return CasedName(name, rule); });
 }
 
 CaseRule CaseRun::Rule() const

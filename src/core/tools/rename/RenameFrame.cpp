@@ -200,6 +200,21 @@ void RenameFrame::StartProgress(std::int16_t count)
     context.watch.Started(count);
 }
 
+void RenameFrame::RenameEach(RenameFolder &folder, const QStringList &names,
+                             const std::function<QString(const QString &)> &newNameOf)
+{
+    for (const QString &name : names) {
+        ComeTo(folder, name);
+        // Both renames also where the name doesn't change.
+        const QString newName = newNameOf(name);
+        RenameToDetour(folder, name, newName);
+        RenameFromDetour(folder, name, newName);
+        CountFile();
+        if (CancelRename)
+            return;
+    }
+}
+
 void RenameFrame::ComeTo(const RenameFolder &folder, const QString &name)
 {
     underWay = folder.PathOf(name);

@@ -55,6 +55,9 @@ public:
     bool HasEntries(std::int16_t count);
     /// Range and value of the bar for a run over so many entries.
     void StartProgress(std::int16_t count);
+    /// Gives each of the entries its new name and counts it. Cancel ends it after the entry under way.
+    void RenameEach(RenameFolder &folder, const QStringList &names,
+                    const std::function<QString(const QString &name)> &newNameOf);
     /// For each entry before it is touched: lets pending events run and steps the progress.
     void ComeTo(const RenameFolder &folder, const QString &name);
     /// The first and the second of the two renames that an entry goes through, by way of the new name with a

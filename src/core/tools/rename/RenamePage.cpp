@@ -113,6 +113,16 @@ void RenamePage::ShowExtensionFrame()
     fraAllExtensions.SetVisible(optExtensions.IsSelected(All));
 }
 
+void RenamePage::Restore(Steps &steps)
+{
+    steps.Do([&] { txtCurrentPath.SetText(context.settings.ReadText(keys::LastPath)); });
+}
+
+void RenamePage::Save()
+{
+    context.settings.Write(keys::LastPath, txtCurrentPath.Text());
+}
+
 void RenamePage::ResetRenamePage(Steps &steps)
 {
     frame.LoadRenameSettings(steps);

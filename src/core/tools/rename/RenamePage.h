@@ -25,6 +25,11 @@ class RenamePage {
 public:
     explicit RenamePage(const ToolContext &context);
 
+    /// Reads the path.
+    void Restore(Steps &steps);
+    /// Writes the path.
+    void Save();
+
     /// Puts the page at its start: what the settings hold, the program's folder where there is no path, and
     /// an empty bar, of which the status line tells too.
     void ResetRenamePage(Steps &steps);

@@ -64,16 +64,8 @@ void ReplaceRun::ReplaceInEntries()
     if (HasIllegalCharacter(to))
         throw Failure(illegalTo);
     frame.StartProgress(count);
-    for (const QString &name : names) {
-        frame.ComeTo(folder, name);
-        // Both renames also where the name doesn't change. A name that comes out empty stays at the first.
-        const QString newName = ReplacedName(name, from, to);
-        frame.RenameToDetour(folder, name, newName);
-        frame.RenameFromDetour(folder, name, newName);
-        frame.CountFile();
-        if (frame.CancelRename)
-            return;
-    }
+    // A name that comes out empty stays at the first of the two renames.
+    frame.RenameEach(folder, names, [&](const QString &name) { return ReplacedName(name, from, to); });
 }
 
 } // namespace tressel
