@@ -216,6 +216,12 @@ void IsButton::SetHeight(int twips)
     Resize();
 }
 
+void IsButton::About() const
+{
+    if (aboutWindow)
+        aboutWindow();
+}
+
 bool IsButton::OpenLink(Shell &shell, const QString &url)
 {
     return shell.Open(url, {});

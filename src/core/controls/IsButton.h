@@ -100,7 +100,7 @@ public:
     /// A full repaint.
     void Refresh() { NoteChanged(); }
     /// Opens the window that tells the control's name and version, if there is a face to do so.
-    void About() const { AboutAsked.Raise(); }
+    void About() const;
     /// Opens an address with the program that the desktop knows for it. False if there is none.
     static bool OpenLink(Shell &shell, const QString &url);
 
@@ -151,8 +151,8 @@ public:
     void TakeSize(int widthTwips, int heightTwips);
     /// The system can't draw its theme: gives the theme up for good, in favour of NonThemeStyle.
     void GiveUpTheme();
-    /// Raised by About(), for the face.
-    Event<> AboutAsked;
+    /// What About() does: the face given last shows the window.
+    void SetAboutWindow(std::function<void()> show) { aboutWindow = std::move(show); }
 
 private:
     template <typename Kind> void Write(Kind &property, const Kind &written, const QString &name);
@@ -173,6 +173,7 @@ private:
     bool hovered = false;
     MouseButton lastButton = MouseButton::None;
     bool designTime = false;
+    std::function<void()> aboutWindow;
 };
 
 } // namespace tressel

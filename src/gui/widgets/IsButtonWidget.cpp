@@ -70,7 +70,7 @@ void IsButtonWidget::SetControl(IsButton *newControl)
 {
     own = newControl ? nullptr : std::make_unique<OwnControl<IsButton>>(u"isButton"_s, *this);
     control = newControl ? newControl : &own->Control();
-    control->AboutAsked.Handle([self = QPointer(this)] {
+    control->SetAboutWindow([self = QPointer(this)] {
         if (self)
             ShowButtonAboutBox(*self);
     });

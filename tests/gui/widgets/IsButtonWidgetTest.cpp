@@ -61,6 +61,7 @@ private Q_SLOTS:
     void ShapeIsAMask();
     void SizeIsTheControls();
     void AboutTellsNameAndVersion();
+    void AControlThatComesBackIsShownAsBefore();
     void HandlerMayDeleteTheWidget();
     void LooksWarnAboutNothing();
     void FractionalPlacesStaySharp();
@@ -68,7 +69,7 @@ private Q_SLOTS:
 
 void IsButtonWidgetTest::init()
 {
-    Up();
+    QVERIFY(Up());
     warnings = 0;
 }
 
@@ -358,6 +359,17 @@ void IsButtonWidgetTest::AboutTellsNameAndVersion()
     QCOMPARE(close->Caption(), u"Close"_s);
     QTest::mouseClick(close, Qt::LeftButton);
     QVERIFY(!box->isVisible());
+}
+
+void IsButtonWidgetTest::AControlThatComesBackIsShownAsBefore()
+{
+    button->SetControl(nullptr);
+    button->SetControl(control.get());
+    button->SetControl(control.get());
+    QTest::mouseClick(button, Qt::LeftButton);
+    QCOMPARE(clicks, 1);
+    control->About();
+    QCOMPARE(window->findChildren<QDialog *>(u"isButtonAbout"_s).size(), 1);
 }
 
 void IsButtonWidgetTest::HandlerMayDeleteTheWidget()

@@ -61,6 +61,12 @@ protected:
     {
         machine.dialogs.ExpectBox({text, QStringLiteral("Tressel"), BoxIcon::Exclamation});
     }
+
+    /// The report that goes into the list.
+    const QString temporary = QStringLiteral("C:\\Tressel\\~TR24D0.tmp");
+    /// The first lines of a report of files.
+    const QList<QByteArray> header{"************************",
+                                   " Start Of File Listing: ", "************************"};
 };
 
 } // namespace tressel
