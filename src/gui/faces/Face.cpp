@@ -77,8 +77,11 @@ bool Face::FilterDrop(QEvent *event)
 {
     auto *drop = static_cast<QDropEvent *>(event);
     const QStringList paths = DroppedPaths(*drop->mimeData());
-    if (paths.isEmpty())
-        return false;
+    if (paths.isEmpty()) {
+        // A text that is dragged is no path, whatever the widget would make of it.
+        drop->ignore();
+        return true;
+    }
     // A copy, whatever the other program proposes: what is dropped stays where it was.
     drop->setDropAction(Qt::CopyAction);
     drop->accept();

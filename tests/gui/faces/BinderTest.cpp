@@ -64,7 +64,7 @@ private Q_SLOTS:
         page->setObjectName(u"cboFrom"_s);
         page->setEditable(true);
         tabs.addTab(page, u"one"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
 
         QCOMPARE(bound.face->Faces().ControlsWithoutFace(), QStringList());
         QCOMPARE(bound.face->Faces().WidgetsWithoutControl(), QStringList());
@@ -80,7 +80,7 @@ private Q_SLOTS:
         Bound bound(form);
         bound.Add<QLineEdit>(u"txtPath"_s);
         bound.Add<QSpinBox>(u"lblTitle"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QCOMPARE(bound.face->Faces().ControlsWithoutFace(), QStringList({u"txtstrSQL"_s, u"lblTitle"_s}));
         QCOMPARE(bound.face->Faces().WidgetsWithoutControl(), QStringList({u"lblTitle"_s}));
         QCOMPARE(bound.face->Faces().FaceOf(unseen), nullptr);
@@ -98,7 +98,7 @@ private Q_SLOTS:
         auto &other = bound.Add<QDialog>(u"frmOther"_s);
         auto *inside = new QLabel(&other);
         inside->setObjectName(u"lblElsewhere"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QCOMPARE(bound.face->Faces().WidgetsWithoutControl(), QStringList({u"txtPath"_s, u"lblPaht"_s}));
     }
 
@@ -126,7 +126,7 @@ private Q_SLOTS:
         row->addWidget(&group);
         column->addLayout(row);
         column->addWidget(&last);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         start.setFocus();
         QStringList order;
         for (int step = 0; step < 4; ++step) {
@@ -146,7 +146,7 @@ private Q_SLOTS:
         timer.Tick.Handle([&] { ++ticks; });
         timer.SetEnabled(false);
         Bound bound(form);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QCOMPARE(bound.face->Faces().ControlsWithoutFace(), QStringList());
         QCoreApplication::processEvents();
         QCOMPARE(ticks, 0);
@@ -165,7 +165,7 @@ private Q_SLOTS:
         Bound bound(form);
         bound.makers.Add<Label, Drawn, SelfDrawnFace<Label, Drawn, &Drawn::Refresh>>();
         auto &widget = bound.Add<Drawn>(u"lblTitle"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QCOMPARE(widget.control, &label);
         QVERIFY(widget.refreshed > 0);
     }
@@ -187,7 +187,7 @@ private Q_SLOTS:
         Bound bound(form);
         bound.makers.Add<Label, QLabel, Silent>();
         auto &widget = bound.Add<QLabel>(u"lblTitle"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QCOMPARE(widget.text(), QString());
         QVERIFY(dynamic_cast<Silent *>(bound.face->Faces().FaceOf(label)));
     }

@@ -31,13 +31,15 @@ struct Bound {
         return *widget;
     }
 
-    void Bind()
+    /// Ties the widgets and shows the window. False if it didn't come up.
+    [[nodiscard]] bool Bind()
     {
         face = std::make_unique<WindowFace>(form, window, makers, updates);
         form.Show();
         updates.Flush();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        const bool isUp = QTest::qWaitForWindowActive(&window);
         QCoreApplication::processEvents();
+        return isUp;
     }
 
     Form &form;

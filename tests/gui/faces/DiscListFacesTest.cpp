@@ -64,7 +64,7 @@ private Q_SLOTS:
         drives.Change.Handle([&] { ++changes; });
         Bound bound(form);
         auto &view = bound.Add<QComboBox>(u"DrvList"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QVERIFY(!view.isEditable());
         QCOMPARE(view.count(), 2);
         QCOMPARE(view.currentIndex(), 0);
@@ -94,7 +94,7 @@ private Q_SLOTS:
         bound.makers = FaceMakers(looks);
         auto &view = bound.Add<QListView>(u"DirList"_s);
         view.resize(300, 200);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QCOMPARE(Texts(*view.model()), QStringList({u"C:\\"_s, u"a"_s, u"b"_s, u"c"_s}));
         const int root = FirstColumnOf(Qt::green, view, 0);
         const int present = FirstColumnOf(Qt::green, view, 1);
@@ -127,7 +127,7 @@ private Q_SLOTS:
         Bound bound(form);
         auto &view = bound.Add<QListView>(u"FileList"_s);
         view.resize(300, 200);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         Open(view, 1);
         view.setCurrentIndex(view.model()->index(0, 0));
         QTest::keyClick(&view, Qt::Key_Enter);
@@ -145,7 +145,7 @@ private Q_SLOTS:
         Bound bound(form);
         auto &view = bound.Add<QListView>(u"ListBox(0)"_s);
         view.resize(300, 200);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QAbstractItemModel &model = *view.model();
         QCOMPARE(model.index(0, 0).data(Qt::CheckStateRole).toInt(), int(Qt::Unchecked));
         QCOMPARE(model.index(1, 0).data(Qt::CheckStateRole).toInt(), int(Qt::Checked));

@@ -8,6 +8,7 @@
 #include "controls/OptionGroup.h"
 #include "controls/ProgressBar.h"
 #include "controls/TextBox.h"
+#include "gui/Dropping.h"
 #include "gui/GuiTest.h"
 #include "gui/faces/Bound.h"
 
@@ -16,7 +17,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QRadioButton>
@@ -41,22 +41,6 @@ protected:
     }
 };
 
-/// Which steps are taken of dragging something that the other program would rather move.
-QList<QEvent::Type> DragAndDrop(QWidget &onto, QMimeData &dragged)
-{
-    QList<QEvent::Type> accepted;
-    constexpr Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
-    QDragEnterEvent enter(QPoint(5, 5), actions, &dragged, Qt::LeftButton, Qt::ShiftModifier);
-    QCoreApplication::sendEvent(&onto, &enter);
-    if (enter.isAccepted() && enter.dropAction() == Qt::CopyAction)
-        accepted += QEvent::DragEnter;
-    QDropEvent drop(QPointF(5, 5), actions, &dragged, Qt::LeftButton, Qt::ShiftModifier);
-    QCoreApplication::sendEvent(&onto, &drop);
-    if (drop.isAccepted() && drop.dropAction() == Qt::CopyAction)
-        accepted += QEvent::Drop;
-    return accepted;
-}
-
 } // namespace
 
 class FacesTest : public QObject {
@@ -71,7 +55,7 @@ private Q_SLOTS:
         label.Click.Handle([&] { ++clicks; });
         Bound bound(form);
         auto &widget = bound.Add<QLabel>(u"lblStatusLine"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
 
         QCOMPARE(widget.text(), u"<b>a & b</b>"_s);
         QCOMPARE(widget.textFormat(), Qt::PlainText);
@@ -89,7 +73,7 @@ private Q_SLOTS:
         Label label(form, u"lblStatusLine"_s);
         Bound bound(form);
         auto &widget = bound.Add<PaintCounter>(u"lblStatusLine"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QTRY_VERIFY(widget.paints > 0);
 
         const int paintsBefore = widget.paints;
@@ -112,7 +96,7 @@ private Q_SLOTS:
         box.Change.Handle([&] { ++changes; });
         Bound bound(form);
         auto &edit = bound.Add<QLineEdit>(u"txtStrtPath"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QCOMPARE(edit.text(), u"/home"_s);
         QCOMPARE(changes, 0);
 
@@ -131,7 +115,7 @@ private Q_SLOTS:
         box.Change.Handle([&] { ++changes; });
         Bound bound(form);
         auto &edit = bound.Add<QLineEdit>(u"txtStrtPath"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
 
         box.SetText(u"first"_s);
         bound.updates.Flush();
@@ -148,7 +132,7 @@ private Q_SLOTS:
         TextBox box(form, u"txtStrtPath"_s, u"abcdef"_s);
         Bound bound(form);
         auto &edit = bound.Add<QLineEdit>(u"txtStrtPath"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         edit.setSelection(2, 3);
 
         box.SetToolTip(u" Drag and drop "_s);
@@ -164,7 +148,7 @@ private Q_SLOTS:
         box.Change.Handle([&] { box.SetText(box.Text().trimmed()); });
         Bound bound(form);
         auto &edit = bound.Add<QLineEdit>(u"txtSplitCount"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         edit.setFocus();
         QTest::keyClicks(&edit, u"5 "_s);
         QCOMPARE(box.Text(), u"5"_s);
@@ -182,7 +166,7 @@ private Q_SLOTS:
         Bound bound(form);
         auto &edit = bound.Add<QLineEdit>(u"txtReport"_s);
         auto &text = bound.Add<QPlainTextEdit>(u"Text1"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
 
         QVERIFY(edit.isReadOnly() && text.isReadOnly());
         QCOMPARE(edit.placeholderText(), u"nothing yet"_s);
@@ -198,7 +182,7 @@ private Q_SLOTS:
         TextBox box(form, u"Text1"_s, u"one\ntwo\u00a0three"_s);
         Bound bound(form);
         auto &text = bound.Add<QPlainTextEdit>(u"Text1"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         text.moveCursor(QTextCursor::End);
         QTest::keyClicks(&text, u"!"_s);
         QCOMPARE(box.Text(), u"one\ntwo\u00a0three!"_s);
@@ -216,7 +200,7 @@ private Q_SLOTS:
         Bound bound(form);
         auto &a = bound.Add<QLineEdit>(u"txtA"_s);
         bound.Add<QLineEdit>(u"txtB"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         a.setFocus(Qt::OtherFocusReason);
         told.clear();
 
@@ -237,7 +221,7 @@ private Q_SLOTS:
         box.SetValue(2);
         Bound bound(form);
         auto &widget = bound.Add<QCheckBox>(u"chkExtension"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QCOMPARE(widget.text(), u"Remove Ext"_s);
         QCOMPARE(widget.checkState(), Qt::PartiallyChecked);
         QCOMPARE(clicks, 1);
@@ -270,7 +254,7 @@ private Q_SLOTS:
         auto &holder = bound.Add<QWidget>(u"layoutCount"_s);
         auto *count = new QRadioButton(&holder);
         count->setObjectName(u"optSplit(1)"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QVERIFY(size.isChecked() && !count->isChecked());
         QCOMPARE(count->text(), u"File Count"_s);
 
@@ -298,7 +282,7 @@ private Q_SLOTS:
         combo.Click.Handle([&] { ++clicks; });
         Bound bound(form);
         auto &widget = bound.Add<QComboBox>(u"cboFileName"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QVERIFY(widget.isEditable());
         QCOMPARE(widget.currentText(), u"free"_s);
         QCOMPARE(widget.currentIndex(), -1);
@@ -326,7 +310,7 @@ private Q_SLOTS:
         combo.SetText(u"typing"_s);
         Bound bound(form);
         auto &widget = bound.Add<QComboBox>(u"CboFilePath"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         widget.lineEdit()->setCursorPosition(3);
         combo.SetItems({u"other"_s, u"entries"_s});
         bound.updates.Flush();
@@ -345,7 +329,7 @@ private Q_SLOTS:
         combo.Click.Handle([&] { ++clicks; });
         Bound bound(form);
         auto &widget = bound.Add<QComboBox>(u"cmbLanguage"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QVERIFY(!widget.isEditable());
         QCOMPARE(widget.currentText(), u"Norsk"_s);
         QCOMPARE(clicks, 0);
@@ -363,7 +347,7 @@ private Q_SLOTS:
         auto &widget = bound.Add<QProgressBar>(u"ProgrBar"_s);
         progress.SetRange(0, 7);
         progress.SetValue(3.6);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QCOMPARE(widget.maximum(), 7);
         QCOMPARE(widget.value(), 4);
         progress.SetRange(0, 0);
@@ -389,7 +373,7 @@ private Q_SLOTS:
         pageTwo->setObjectName(u"FrmeTwo"_s);
         stack.addWidget(pageOne);
         stack.addWidget(pageTwo);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QCOMPARE(group.title(), u"Estimates"_s);
         QVERIFY(!group.isVisible());
         QCOMPARE(stack.currentWidget(), pageOne);
@@ -411,7 +395,7 @@ private Q_SLOTS:
         box.Drop.Handle([&](const QStringList &paths) { dropped = paths; });
         Bound bound(form);
         auto &edit = bound.Add<QLineEdit>(u"txtStrtPath"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QMimeData files;
         files.setData(
             u"text/uri-list"_s,
@@ -430,6 +414,26 @@ private Q_SLOTS:
         QCOMPARE(dropped, QStringList({u"/tmp/a b"_s, odd, u"/tmp/\\%"_s}));
     }
 
+    void WhatHoldsNoFilesIsRefused()
+    {
+        Form form(u"f"_s);
+        TextBox box(form, u"txtCurrentPath"_s);
+        box.SetTakesDrops(true);
+        int drops = 0;
+        box.Drop.Handle([&](const QStringList &) { ++drops; });
+        Bound bound(form);
+        auto &edit = bound.Add<QLineEdit>(u"txtCurrentPath"_s);
+        QVERIFY(bound.Bind());
+        QMimeData text;
+        text.setText(u"/srv/x"_s);
+        QMimeData address;
+        address.setUrls({QUrl(u"http://example.org/x"_s)});
+        for (QMimeData *dragged : {&text, &address})
+            QCOMPARE(DragAndDrop(edit, *dragged), QList<QEvent::Type>());
+        QCOMPARE(edit.text(), QString());
+        QCOMPARE(drops, 0);
+    }
+
     void DropReachesAnEditableCombo()
     {
         Form form(u"f"_s);
@@ -438,7 +442,7 @@ private Q_SLOTS:
         combo.Drop.Handle([&](const QStringList &paths) { combo.SetText(paths.constFirst()); });
         Bound bound(form);
         auto &widget = bound.Add<QComboBox>(u"CboFilePath"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QMimeData files;
         files.setData(u"text/uri-list"_s, "file:///srv/x\n");
         QVERIFY(widget.lineEdit()->acceptDrops());

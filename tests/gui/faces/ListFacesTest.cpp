@@ -46,7 +46,7 @@ private Q_SLOTS:
         list.Click.Handle([&] { ++clicks; });
         Bound bound(form);
         auto &view = bound.Add<QListView>(u"lstErase"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QVERIFY(view.uniformItemSizes());
         QCOMPARE(view.model()->rowCount(), 3);
         QCOMPARE(view.currentIndex().row(), 2);
@@ -75,7 +75,7 @@ private Q_SLOTS:
         Bound bound(form);
         auto &view = bound.Add<QListView>(u"lstErase"_s);
         view.resize(300, 200);
-        bound.Bind();
+        QVERIFY(bound.Bind());
 
         ClickRow(view, view.model()->index(1, 0));
         QCOMPARE(chosen, QList<int>({1}));
@@ -101,7 +101,7 @@ private Q_SLOTS:
         list.Click.Handle([&] { ++clicks; });
         Bound bound(form);
         auto &view = bound.Add<QListView>(u"lstErase"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         bound.window.setFocus();
         view.setFocus(Qt::TabFocusReason);
         QVERIFY(view.hasFocus());
@@ -119,7 +119,7 @@ private Q_SLOTS:
         Bound bound(form);
         auto &view = bound.Add<QListView>(u"lstErase"_s);
         view.resize(300, 200);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         PointAt(view, view.visualRect(view.model()->index(0, 0)).center());
         QTRY_COMPARE(view.toolTip(), u" a long name "_s);
         PointAt(view, QPoint(20, 190));
@@ -132,7 +132,7 @@ private Q_SLOTS:
         ListBox list(form, u"LstItem"_s);
         Bound bound(form);
         auto &view = bound.Add<QListView>(u"LstItem"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QSignalSpy inserted(view.model(), &QAbstractItemModel::rowsInserted);
         QSignalSpy reset(view.model(), &QAbstractItemModel::modelReset);
 
@@ -154,7 +154,7 @@ private Q_SLOTS:
             list.AddItem(QString::number(row));
         Bound bound(form);
         auto &view = bound.Add<QListView>(u"ListRemove"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         view.verticalScrollBar()->setValue(250);
         const int before = view.verticalScrollBar()->value();
         QVERIFY(before > 0);
@@ -181,7 +181,7 @@ private Q_SLOTS:
         bound.makers = FaceMakers(looks);
         auto &view = bound.Add<QTreeView>(u"TVList"_s);
         view.resize(300, 200);
-        bound.Bind();
+        QVERIFY(bound.Bind());
 
         const QModelIndex root = view.model()->index(0, 0);
         QCOMPARE(root.data().toString(), u"Create 2 Main Folders"_s);
@@ -212,7 +212,7 @@ private Q_SLOTS:
         tree.Expand(0);
         Bound bound(form);
         auto &view = bound.Add<QTreeView>(u"TVList"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QVERIFY(view.isExpanded(view.model()->index(0, 0)));
         view.setFocus();
         view.setCurrentIndex(view.model()->index(0, 0));

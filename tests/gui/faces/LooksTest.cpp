@@ -47,7 +47,7 @@ private Q_SLOTS:
         bound.makers = FaceMakers(PlainLooks());
         auto &holder = bound.Add<QFrame>(u"FrameXPMenu(0)"_s);
         auto &text = bound.Add<QLabel>(u"lblUpdate"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QVERIFY(!holder.autoFillBackground());
         QVERIFY(!text.testAttribute(Qt::WA_SetPalette));
 
@@ -71,7 +71,7 @@ private Q_SLOTS:
         label.Resize.Handle([&] { ++resizes; });
         Bound bound(form);
         auto &text = bound.Add<QLabel>(u"lblStatusLine"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QCOMPARE(label.Width(), text.sizeHint().width() * 15);
         QCOMPARE(resizes, 1);
         label.SetCaption(u"Finished, folders created successfully"_s);
@@ -96,7 +96,7 @@ private Q_SLOTS:
         strip.Click.Handle([&] { ++clicks; });
         Bound bound(form);
         auto &widget = bound.Add<QFrame>(u"PicStrip"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
 
         SendMouse(widget, QEvent::MouseButtonPress, {5, 5}, Qt::LeftButton, Qt::LeftButton);
         SendMouse(widget, QEvent::MouseMove, {15, 5}, Qt::NoButton, Qt::LeftButton);

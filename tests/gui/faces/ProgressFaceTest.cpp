@@ -20,7 +20,7 @@ private Q_SLOTS:
         ProgressBar progress(form, u"ProgressBar1"_s);
         Bound bound(form);
         auto &widget = bound.Add<QProgressBar>(u"ProgressBar1"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         constexpr double whole = 10.0 * 1024 * 1024 * 1024;
         for (const int percent : {0, 10, 25, 50, 99, 100}) {
             progress.SetRange(0, whole);
@@ -41,7 +41,7 @@ private Q_SLOTS:
         ProgressBar progress(form, u"ProgrBar"_s);
         Bound bound(form);
         auto &widget = bound.Add<QProgressBar>(u"ProgrBar"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QVERIFY(!widget.isTextVisible());
         progress.SetValue(40);
         bound.updates.Flush();

@@ -28,7 +28,7 @@ private Q_SLOTS:
         form.Move(1500, 750);
         form.SetSize(8120, 6825);
         Bound bound(form);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QVERIFY(bound.window.isVisible());
         QCOMPARE(bound.window.windowTitle(), u"Tressel v5.1450 - saved to ... /a/[*][*]b"_s);
         QCOMPARE(bound.window.pos(), QPoint(100, 50));
@@ -56,7 +56,7 @@ private Q_SLOTS:
         int resizes = 0;
         form.Resize.Handle([&] { ++resizes; });
         Bound bound(form);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         bound.window.resize(700, 510);
         bound.window.move(30, 40);
         QTRY_COMPARE(form.Width(), 10500);
@@ -74,7 +74,7 @@ private Q_SLOTS:
         Form form(u"frmMain"_s);
         form.SetSize(std::numeric_limits<int>::max(), 7500);
         Bound bound(form);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QCOMPARE(bound.window.size(), QSize(32767, 500));
         QCOMPARE(form.Width(), 32767 * 15);
     }
@@ -88,7 +88,7 @@ private Q_SLOTS:
                 form.SetSize(8120, form.Height());
         });
         Bound bound(form);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         bound.window.resize(300, 500);
         QTRY_COMPARE(bound.window.size(), QSize(542, 500));
         QCOMPARE(form.Width(), 8120);
@@ -98,7 +98,7 @@ private Q_SLOTS:
     {
         Form form(u"frmTip"_s);
         Bound bound(form);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QCOMPARE(form.Width(), 600 * 15);
         QCOMPARE(form.Height(), 400 * 15);
         QCOMPARE(bound.window.size(), QSize(600, 400));
@@ -109,7 +109,7 @@ private Q_SLOTS:
         Form form(u"frmMain"_s);
         form.SetSize(9000, 7500);
         Bound bound(form);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         form.SetState(WindowState::Maximised);
         bound.updates.Flush();
         QTRY_VERIFY(bound.window.isMaximized());
@@ -125,7 +125,7 @@ private Q_SLOTS:
         form.SetSize(9000, 6000);
         form.Move(1500, 1500);
         Bound bound(form);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         const QRect before = bound.window.geometry();
         bound.window.showFullScreen();
         QTRY_COMPARE(form.State(), WindowState::Maximised);
@@ -144,7 +144,7 @@ private Q_SLOTS:
         bool refuse = true;
         form.Unloading.Handle([&](bool &refused) { refused = refuse; });
         Bound bound(form);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QVERIFY(!bound.window.close());
         QVERIFY(bound.window.isVisible());
         QVERIFY(form.IsLoaded());
@@ -161,7 +161,7 @@ private Q_SLOTS:
         Bound bound(tip);
         QWidget mainWindow;
         WindowFace mainFace(main, mainWindow, bound.makers, bound.updates);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         tip.Unloading.Handle([&](bool &) { main.Show(); });
         bool lastClosed = false;
         connect(qApp, &QGuiApplication::lastWindowClosed, this, [&] { lastClosed = true; });
@@ -203,7 +203,7 @@ private Q_SLOTS:
         Bound bound(first);
         QWidget other;
         WindowFace otherFace(second, other, bound.makers, bound.updates);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         second.Show();
         bound.updates.Flush();
         QVERIFY(QTest::qWaitForWindowActive(&other));
@@ -219,7 +219,7 @@ private Q_SLOTS:
         int activations = 0;
         form.Activate.Handle([&] { ++activations; });
         Bound bound(form);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QVERIFY(QTest::qWaitForWindowActive(&bound.window));
         QCOMPARE(activations, 1);
         QWidget stranger;
@@ -242,7 +242,7 @@ private Q_SLOTS:
         auto &firstEdit = bound.Add<QLineEdit>(u"first"_s);
         auto &secondEdit = bound.Add<QLineEdit>(u"second"_s);
         auto &thirdEdit = bound.Add<QLineEdit>(u"third"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         const auto lock = [&](bool locked) {
             first.SetEnabled(!locked);
             second.SetEnabled(locked);
@@ -279,7 +279,7 @@ private Q_SLOTS:
         form.SetFatalHandler([&](const Failure &failure) { fatal = static_cast<int>(failure.number); });
         Bound bound(form);
         auto &widget = bound.Add<QLabel>(u"lblTitle"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QTest::mouseClick(&widget, Qt::LeftButton);
         QCOMPARE(fatal, 13);
     }

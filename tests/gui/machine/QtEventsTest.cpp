@@ -126,7 +126,7 @@ private Q_SLOTS:
         ListBox list(form, u"LstItem"_s);
         Bound bound(form);
         auto &view = bound.Add<QListView>(u"LstItem"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         BusyCursor cursor;
         QtEvents::Time now = 5s;
         QtEvents events(bound.updates, cursor, [&] { return now; });
@@ -141,7 +141,7 @@ private Q_SLOTS:
         ListBox list(form, u"LstItem"_s);
         Bound bound(form);
         auto &view = bound.Add<QListView>(u"LstItem"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         BusyCursor cursor;
         // Each look at the clock takes a microsecond: the rows take 33 ms in all.
         QtEvents::Time now = 5s;

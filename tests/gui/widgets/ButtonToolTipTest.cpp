@@ -15,7 +15,7 @@ class ButtonToolTipTest : public QObject, private ButtonStage {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { Up(); }
+    void init() { QVERIFY(Up()); }
     void cleanup() { Down(); }
 
     void ToolTipIsHandedOver();

@@ -31,7 +31,7 @@ private Q_SLOTS:
         Bound bound(form);
         AddOwnKinds(bound.makers);
         auto &widget = bound.Add<IsButtonWidget>(u"btnGBMake"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QCOMPARE(widget.property("text").toString(), u"Make"_s);
         QCOMPARE(widget.property("ToolTip").toString(), u" Make folders "_s);
         // The button shows its own tool tip; the toolkit has none to show besides.
@@ -59,7 +59,7 @@ private Q_SLOTS:
         Bound bound(form);
         AddOwnKinds(bound.makers);
         auto &widget = bound.Add<CtlProgressWidget>(u"ctlProgress1"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QCOMPARE(widget.toolTip(), u"so far"_s);
         progress.SetValue(50);
         bound.updates.Flush();
@@ -74,7 +74,7 @@ private Q_SLOTS:
         Bound bound(form);
         AddOwnKinds(bound.makers);
         auto &widget = bound.Add<SideBarWidget>(u"EyeDropper1"_s);
-        bound.Bind();
+        QVERIFY(bound.Bind());
         QCOMPARE(widget.Control(), &bar);
         bar.Items().Add(u"Item: 1"_s, u"Folders"_s);
         bound.updates.Flush();

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "DesktopStage.h"
-#include "gui/DropOn.h"
+#include "gui/Dropping.h"
 #include "gui/GuiTest.h"
 #include "gui/WhenUp.h"
 #include "widgets/IsButtonWidget.h"
@@ -55,10 +55,12 @@ public:
             rows += List().model()->index(row, 0).data().toString();
         return rows;
     }
-    void Drop(const QStringList &paths)
+    /// False if the list doesn't take them.
+    [[nodiscard]] bool Drop(const QStringList &paths)
     {
-        DropOn(*List().viewport(), paths);
+        const bool taken = DropPaths(*List().viewport(), paths);
         Settle();
+        return taken;
     }
     /// The page's own timer opens the button some time after the list has something.
     void PressErase()
@@ -83,8 +85,8 @@ private Q_SLOTS:
         const QString one = stage.PutFile(u"one"_s, QByteArray(12345, 'a'));
         const QString two = stage.PutFile(u"two"_s, {});
         const QString kept = stage.PutFile(u"kept"_s);
-        stage.Drop({one, two});
-        stage.Drop({one});
+        QVERIFY(stage.Drop({one, two}));
+        QVERIFY(stage.Drop({one}));
         QCOMPARE(stage.Rows(), QStringList({one, two}));
 
         QTest::mouseClick(stage.List().viewport(), Qt::LeftButton, {}, stage.PlaceOf(0));
@@ -103,7 +105,7 @@ private Q_SLOTS:
     void SuccessIsToldInRed()
     {
         EraseStage stage;
-        stage.Drop({stage.PutFile(u"one"_s)});
+        QVERIFY(stage.Drop({stage.PutFile(u"one"_s)}));
         QTRY_VERIFY(stage.Button().isEnabled());
         stage.Form().erase.Timer1.SetEnabled(false);
         stage.PressErase();
@@ -116,7 +118,7 @@ private Q_SLOTS:
         EraseStage stage;
         QVERIFY(QDir().mkpath(stage.Place(u"w/folder/inside"_s)));
         const QString folder = stage.Place(u"w/folder"_s);
-        stage.Drop({folder, stage.PutFile(u"one"_s)});
+        QVERIFY(stage.Drop({folder, stage.PutFile(u"one"_s)}));
         QString told;
         WhenUp<QMessageBox>([&](QMessageBox &box) {
             told = box.text();
@@ -134,7 +136,7 @@ private Q_SLOTS:
     {
         EraseStage stage;
         const QStringList paths{stage.PutFile(u"a"_s), stage.PutFile(u"b"_s), stage.PutFile(u"c"_s)};
-        stage.Drop(paths);
+        QVERIFY(stage.Drop(paths));
         QTest::mouseClick(stage.List().viewport(), Qt::LeftButton, {}, stage.PlaceOf(1));
         QTest::mouseDClick(stage.List().viewport(), Qt::LeftButton, {}, stage.PlaceOf(1));
         stage.Settle();
@@ -152,7 +154,7 @@ private Q_SLOTS:
     void TheButtonIsWorkedByTheKeyboard()
     {
         EraseStage stage;
-        stage.Drop({stage.PutFile(u"a"_s)});
+        QVERIFY(stage.Drop({stage.PutFile(u"a"_s)}));
         QTRY_VERIFY(stage.Button().isEnabled());
         stage.Button().setFocus();
         QTest::keyClick(&stage.Button(), Qt::Key_Space);
@@ -164,7 +166,7 @@ private Q_SLOTS:
     {
         EraseStage stage;
         const QString path = stage.PutFile(u"a"_s);
-        stage.Drop({path});
+        QVERIFY(stage.Drop({path}));
         QWidget &ground = *stage.List().viewport();
         const QPoint place = stage.PlaceOf(0);
         QMouseEvent move(QEvent::MouseMove, place, ground.mapToGlobal(place), Qt::NoButton, Qt::NoButton,

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "DesktopStage.h"
+#include "gui/Dropping.h"
 #include "gui/GuiTest.h"
 #include "widgets/IsButtonWidget.h"
 
@@ -45,13 +46,15 @@ struct RenameStage {
     DesktopStage stage;
 };
 
-void Fill(const QString &folder, int count)
+/// Puts links to nowhere there. False if it couldn't.
+bool Fill(const QString &folder, int count)
 {
-    QVERIFY(QDir().mkpath(folder));
+    bool isThere = QDir().mkpath(folder);
     for (int number = 0; number < count; ++number) {
         const QByteArray path = (folder + u"/name%1"_s.arg(number, 5, 10, QChar(u'0'))).toUtf8();
-        QCOMPARE(symlink("nowhere", path.constData()), 0);
+        isThere = isThere && symlink("nowhere", path.constData()) == 0;
     }
+    return isThere;
 }
 
 QStringList Names(const QString &folder)
@@ -81,7 +84,7 @@ private Q_SLOTS:
     void ThePageWorksFromTheKeyboardAlone()
     {
         TemporaryFolder folder;
-        Fill(folder.Path(), 3);
+        QVERIFY(Fill(folder.Path(), 3));
         RenameStage page(u"/"_s);
         QVERIFY(QTest::qWaitForWindowActive(&page.stage.Window()));
         auto &path = page.stage.Face<QLineEdit>(u"txtCurrentPath"_s);
@@ -109,11 +112,32 @@ private Q_SLOTS:
         QVERIFY(button->hasFocus());
     }
 
+    void ADropOnThePathGivesTheFolder()
+    {
+        const TemporaryFolder folder;
+        RenameStage window(folder.Path());
+        auto &path = window.stage.Face<QLineEdit>(u"txtCurrentPath"_s);
+        const QString below = folder.Path() + u"/sub"_s;
+        QVERIFY(DropPath(path, below));
+        window.stage.Settle();
+        QCOMPARE(path.text(), below);
+        QVERIFY(DropPath(path, below + u"/song.mp3"_s));
+        window.stage.Settle();
+        QCOMPARE(path.text(), below);
+        // What looks like a file is taken for one.
+        QVERIFY(DropPath(path, below + u"/data.old"_s));
+        window.stage.Settle();
+        QCOMPARE(path.text(), below);
+        QVERIFY(DropPath(path, folder.Path() + u"/data.old"_s));
+        window.stage.Settle();
+        QCOMPARE(path.text(), folder.Path());
+    }
+
     void ARunShowsItsProgressAndEndsAtOnceByCancel()
     {
         constexpr int count = 20'000;
         TemporaryFolder folder;
-        Fill(folder.Path(), count);
+        QVERIFY(Fill(folder.Path(), count));
         RenameStage page(folder.Path());
         QVERIFY(QTest::qWaitForWindowActive(&page.stage.Window()));
         page.stage.Face<QRadioButton>(u"optUppercase"_s).click();
@@ -148,7 +172,7 @@ private Q_SLOTS:
     {
         constexpr int count = 20'000;
         TemporaryFolder folder;
-        Fill(folder.Path(), count);
+        QVERIFY(Fill(folder.Path(), count));
         RenameStage first(folder.Path());
         RenameStage second(folder.Path());
         first.stage.Face<QRadioButton>(u"optUppercase"_s).click();

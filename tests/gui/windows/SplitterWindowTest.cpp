@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "DesktopStage.h"
+#include "gui/FileContents.h"
 #include "gui/GuiTest.h"
 #include "gui/WhenUp.h"
 
@@ -26,19 +27,6 @@ QByteArray Contents(qsizetype length)
     for (qsizetype index = 0; index < length; ++index)
         bytes[index] = static_cast<char>(index * 7 + index / 251);
     return bytes;
-}
-
-void Write(const QString &path, const QByteArray &contents)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(contents), contents.size());
-}
-
-QByteArray Read(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(can't be read)");
 }
 
 /// The window at the splitter's page, with no other program to be started.
@@ -78,7 +66,7 @@ private Q_SLOTS:
         SplitterStage stage;
         const QString file = stage.Place(u"my film.avi"_s);
         const QByteArray contents = Contents(12000);
-        Write(file, contents);
+        QVERIFY(WriteFile(file, contents));
         stage.Choose(file);
         QCOMPARE(stage.FileName().text(), file);
         QCOMPARE(stage.Text(u"lblEstFileCount(1)"_s), u"3"_s);
@@ -87,20 +75,21 @@ private Q_SLOTS:
         stage.Press(u"btnGBSplitFile"_s);
         QCOMPARE(stage.Text(u"lblStatusLine"_s), u"Finished"_s);
         QCOMPARE(stage.Text(u"lblFileCount"_s), u"Split Count: Finished (3 Files)"_s);
-        QCOMPARE(Read(file + u".1"_s) + Read(file + u".2"_s) + Read(file + u".3"_s), contents);
+        QCOMPARE(ContentsOf(file + u".1"_s) + ContentsOf(file + u".2"_s) + ContentsOf(file + u".3"_s),
+                 contents);
         QVERIFY(QFile::exists(file + u".bat"_s));
 
         QVERIFY(QFile::remove(file));
         stage.Press(u"btnGBJoinFile"_s);
         QCOMPARE(stage.Text(u"lblFileCount"_s), u"File Count: Finished (3 Files)"_s);
-        QCOMPARE(Read(file), contents);
+        QCOMPARE(ContentsOf(file), contents);
     }
 
     void CutIsChosenAndTypedByKeyboard()
     {
         SplitterStage stage;
         const QString file = stage.Place(u"a.bin"_s);
-        Write(file, Contents(3000));
+        QVERIFY(WriteFile(file, Contents(3000)));
         stage.FileName().setFocus();
         QTest::keyClicks(&stage.FileName(), file);
         auto &byCount = stage.Face<QRadioButton>(u"optSplit(1)"_s);
@@ -127,7 +116,7 @@ private Q_SLOTS:
     {
         SplitterStage stage;
         const QString file = stage.Place(u"a.bin"_s);
-        Write(file, Contents(30));
+        QVERIFY(WriteFile(file, Contents(30)));
         stage.Choose(file);
         auto &combo = stage.Face<QComboBox>(u"cboFileName"_s);
         QCOMPARE(combo.count(), 1);
@@ -142,7 +131,7 @@ private Q_SLOTS:
     {
         SplitterStage stage;
         const QString file = stage.Place(u"a.bin"_s);
-        Write(file, Contents(11 * 5120));
+        QVERIFY(WriteFile(file, Contents(11 * 5120)));
         stage.Choose(file);
         QString asked;
         WhenUp<QMessageBox>([&](QMessageBox &box) {
@@ -159,8 +148,8 @@ private Q_SLOTS:
     {
         SplitterStage stage;
         const QString file = stage.Place(u"a.bin"_s);
-        Write(file, "old");
-        Write(file + u".1"_s, "new");
+        QVERIFY(WriteFile(file, "old"));
+        QVERIFY(WriteFile(file + u".1"_s, "new"));
         stage.Choose(file + u".1"_s);
         QCOMPARE(stage.FileName().text(), file);
         QString asked;
@@ -171,14 +160,14 @@ private Q_SLOTS:
         stage.Press(u"btnGBJoinFile"_s);
         QCOMPARE(asked,
                  u"Output file (%1) already exists.\nAre you sure you want to overwrite it?"_s.arg(file));
-        QCOMPARE(Read(file), QByteArray("new"));
+        QCOMPARE(ContentsOf(file), QByteArray("new"));
     }
 
     void WithoutAFloppyDriveTheDiskIsMissing()
     {
         SplitterStage stage;
         const QString file = stage.Place(u"a.bin"_s);
-        Write(file, Contents(30));
+        QVERIFY(WriteFile(file, Contents(30)));
         stage.Choose(file);
         QTest::mouseClick(&stage.Face<QCheckBox>(u"chkCopyToFloppy"_s), Qt::LeftButton, {}, QPoint(8, 8));
         QVERIFY(stage.Face<QCheckBox>(u"chkCopyToFloppy"_s).isChecked());

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "DesktopStage.h"
-#include "gui/DropOn.h"
+#include "gui/Dropping.h"
+#include "gui/FileContents.h"
 #include "gui/GuiTest.h"
 #include "gui/WhenUp.h"
 #include "widgets/IsButtonWidget.h"
@@ -35,19 +36,6 @@ void WillChoose(const QString &path)
 void Click(QWidget &widget)
 {
     QTest::mouseClick(&widget, Qt::LeftButton);
-}
-
-void WriteFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
-}
-
-QByteArray ContentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(can't be read)");
 }
 
 /// The stops of the tab key from the window's first one on, each once.
@@ -98,7 +86,7 @@ private Q_SLOTS:
         DesktopStage stage;
         stage.Put(keys::IndxBar, u"2"_s);
         stage.Put(keys::FileExt, u"0"_s);
-        WriteFile(stage.Place(u"names.txt"_s), "; a comment\r\nSales\\2024\\Q1\r\nLetters\r\n");
+        QVERIFY(WriteFile(stage.Place(u"names.txt"_s), "; a comment\r\nSales\\2024\\Q1\r\nLetters\r\n"));
         QVERIFY(QDir(stage.Place({})).mkdir(u"made"_s));
         stage.Start();
 
@@ -109,7 +97,7 @@ private Q_SLOTS:
         QCOMPARE(names.rowCount(), 2);
         QCOMPARE(names.index(0, 0).data().toString(), u"Sales\\2024\\Q1"_s);
 
-        DropOn(stage.Face<QLineEdit>(u"txtStrtPath"_s), {stage.Place(u"made"_s)});
+        QVERIFY(DropPath(stage.Face<QLineEdit>(u"txtStrtPath"_s), stage.Place(u"made"_s)));
         stage.Settle();
         QCOMPARE(stage.Face<QLineEdit>(u"txtStrtPath"_s).text(), stage.Place(u"made"_s));
 
@@ -125,7 +113,7 @@ private Q_SLOTS:
         WillChoose(stage.Place(u"saved.txt"_s));
         Click(stage.Face<IsButtonWidget>(u"btnGBSaveFile"_s));
         stage.Settle();
-        QCOMPARE(ContentOf(stage.Place(u"saved.txt"_s)), QByteArray("Sales\\2024\\Q1\r\nLetters\r\n"));
+        QCOMPARE(ContentsOf(stage.Place(u"saved.txt"_s)), QByteArray("Sales\\2024\\Q1\r\nLetters\r\n"));
     }
 
     void TabKeyReachesEveryEnabledControlAndEachHasAName()
