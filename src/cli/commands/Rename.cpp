@@ -198,7 +198,9 @@ private:
 
 bool Renaming::MayBeDone(RenameFolder &folder)
 {
-    for (const QString &name : Wanted(arguments, folder)) {
+    const QStringList wanted = Wanted(arguments, folder);
+    changes.reserve(wanted.size());
+    for (const QString &name : wanted) {
         const QString changed = newName(name);
         if (changed != name)
             changes.append({name, changed});

@@ -5,6 +5,7 @@
 
 #include "machine/NameText.h"
 #include "machine/posix/FileKind.h"
+#include "machine/posix/NameOrder.h"
 #include "machine/posix/NativePath.h"
 #include "machine/posix/PosixFolderReader.h"
 #include "machine/posix/PosixOpenFile.h"
@@ -13,7 +14,6 @@
 #include "machine/posix/Retried.h"
 #include "machine/posix/SystemError.h"
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <climits>
@@ -23,7 +23,6 @@
 #include <sys/statvfs.h>
 #include <unistd.h>
 #include <utility>
-#include <vector>
 
 namespace tressel {
 
@@ -104,22 +103,6 @@ Descriptor OpenNearest(const QString &path)
             throw Failure(FailureNumber::DiskNotReady);
         nearest = above;
     }
-}
-
-void SortByName(QList<FolderEntry> &entries)
-{
-    std::vector<std::pair<QString, FolderEntry>> folded;
-    folded.reserve(static_cast<size_t>(entries.size()));
-    for (FolderEntry &entry : entries) {
-        QString name = entry.name.toCaseFolded();
-        folded.emplace_back(std::move(name), std::move(entry));
-    }
-    std::sort(folded.begin(), folded.end(), [](const auto &one, const auto &other) {
-        const int order = one.first.compare(other.first);
-        return order != 0 ? order < 0 : one.second.name < other.second.name;
-    });
-    std::transform(folded.begin(), folded.end(), entries.begin(),
-                   [](auto &pair) { return std::move(pair.second); });
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 
 #include "tools/listing/ReportLines.h"
 
+#include <QStringBuilder>
+
 namespace tressel {
 
 using namespace Qt::StringLiterals;
@@ -23,7 +25,7 @@ BlockStart StartOfBlock(const QString &folder, const ReportStyle &style)
 
 QString FileLine(const QString &name, const ReportStyle &style)
 {
-    return style.namesSetIn ? u"   "_s + name : name;
+    return style.namesSetIn ? QString(u"   "_s % name) : name;
 }
 
 QString EndOfBlock()

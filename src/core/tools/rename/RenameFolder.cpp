@@ -6,6 +6,8 @@
 #include "machine/FileSystem.h"
 #include "machine/Paths.h"
 
+#include <QStringBuilder>
+
 namespace tressel {
 
 RenameFolder::RenameFolder(FileSystem &fileSystem, const QString &folder)
@@ -45,7 +47,7 @@ bool RenameFolder::TellsCaseApart()
 
 QString RenameFolder::PathOf(const QString &name) const
 {
-    return base + name;
+    return base % name;
 }
 
 } // namespace tressel

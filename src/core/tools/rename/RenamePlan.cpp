@@ -8,6 +8,7 @@
 #include <QHash>
 
 #include <array>
+#include <map>
 #include <optional>
 
 namespace tressel {
@@ -39,55 +40,53 @@ std::optional<NameProblem> ProblemOf(const QString &name, QChar separator)
     return {};
 }
 
-/// Who has to do with one name.
-struct NamePlace {
-    const QString *present = nullptr; ///< the entry that has it
-    qsizetype leaver = -1; ///< the change by which the entry leaves it
-    qsizetype taker = -1; ///< the first change to it
-};
-
 /// Its arguments must outlive it: the keys of names are views of them.
 class Planner {
 public:
-    Planner(const QStringList &present, const QList<NameChange> &wanted, const NameRules &nameRules)
+    Planner(const QStringList &presentNames, const QList<NameChange> &wanted, const NameRules &nameRules)
         : rules(nameRules)
+        , present(presentNames)
         , changes(wanted)
         , holders(wanted.size(), -1)
     {
-        places.reserve(present.size() + wanted.size());
-        for (const QString &name : present)
-            places[Key(name)].present = &name;
-        for (qsizetype index = 0; index < changes.size(); ++index) {
-            if (IsChange(index))
-                places[Key(changes.at(index).from)].leaver = index;
-        }
     }
 
     RenamePlan Plan()
     {
-        for (qsizetype index = 0; index < changes.size(); ++index) {
-            if (IsChange(index))
-                Check(index);
-        }
-        if (plan.refused.isEmpty())
+        TakeNewNames();
+        FindHolders();
+        if (refused.empty())
             OrderSteps();
+        for (const auto &[change, why] : refused)
+            plan.refused.append(why);
         return std::move(plan);
     }
 
 private:
+    /// The first change to a name.
+    struct Taker {
+        qsizetype change = -1;
+    };
+
     bool IsChange(qsizetype index) const { return changes.at(index).from != changes.at(index).to; }
     QStringView Key(const QString &name);
-    void Check(qsizetype index);
+    QHash<QStringView, qsizetype> Leavers();
+    void TakeNewNames();
+    void FindHolders();
+    void Refuse(qsizetype index, NameProblem problem, const QString &other = {});
     void OrderSteps();
     void OrderChain(qsizetype first);
     QString FreeName();
 
     NameRules rules;
+    const QStringList &present;
     const QList<NameChange> &changes;
     QStringList folded; ///< what keys are views of where names are told apart without case
-    QHash<QStringView, NamePlace> places;
+    QHash<QStringView, Taker> takers; ///< by the names that they take
     QList<qsizetype> holders; ///< for each change, which other one leaves its new name; -1 for none
+    std::map<qsizetype, RefusedName> refused; ///< by the numbers of their changes
     QList<bool> ordered; ///< changes whose steps stand in the plan
+    QString freeName;
     RenamePlan plan;
 };
 
@@ -99,23 +98,59 @@ QStringView Planner::Key(const QString &name)
     return folded.constLast();
 }
 
-void Planner::Check(qsizetype index)
+void Planner::Refuse(qsizetype index, NameProblem problem, const QString &other)
 {
-    const NameChange &change = changes.at(index);
-    if (const auto problem = ProblemOf(change.to, rules.separator)) {
-        plan.refused.append({change, *problem, {}});
-        return;
+    refused.try_emplace(index, RefusedName{changes.at(index), problem, other});
+}
+
+void Planner::TakeNewNames()
+{
+    takers.reserve(changes.size());
+    for (qsizetype index = 0; index < changes.size(); ++index) {
+        if (!IsChange(index))
+            continue;
+        const QString &name = changes.at(index).to;
+        if (const auto problem = ProblemOf(name, rules.separator)) {
+            Refuse(index, *problem);
+            continue;
+        }
+        Taker &taker = takers[Key(name)];
+        if (taker.change < 0)
+            taker.change = index;
+        else
+            Refuse(index, NameProblem::Meets, changes.at(taker.change).from);
     }
-    NamePlace &place = places[Key(change.to)];
-    if (place.taker >= 0) {
-        plan.refused.append({change, NameProblem::Meets, changes.at(place.taker).from});
-        return;
+}
+
+/// The changes by the names that they leave.
+QHash<QStringView, qsizetype> Planner::Leavers()
+{
+    QHash<QStringView, qsizetype> leavers;
+    leavers.reserve(changes.size());
+    for (qsizetype index = 0; index < changes.size(); ++index) {
+        if (IsChange(index))
+            leavers.insert(Key(changes.at(index).from), index);
     }
-    place.taker = index;
-    if (place.leaver != index)
-        holders[index] = place.leaver;
-    if (place.present && place.leaver < 0)
-        plan.refused.append({change, NameProblem::Taken, *place.present});
+    return leavers;
+}
+
+void Planner::FindHolders()
+{
+    QHash<QStringView, qsizetype> leavers;
+    for (const QString &name : present) {
+        const QStringView key = Key(name);
+        const auto taker = takers.constFind(key);
+        if (taker == takers.cend())
+            continue;
+        // Most runs never come here.
+        if (leavers.isEmpty())
+            leavers = Leavers();
+        const qsizetype leaver = leavers.value(key, -1);
+        if (leaver < 0)
+            Refuse(taker->change, NameProblem::Taken, name);
+        else if (leaver != taker->change)
+            holders[taker->change] = leaver;
+    }
 }
 
 void Planner::OrderSteps()
@@ -145,13 +180,16 @@ void Planner::OrderChain(qsizetype first)
     plan.steps.append({aside.isNull() ? changes.at(first) : NameChange{aside, changes.at(first).to}, false});
 }
 
+/// A name that no entry has or gets. Each circle gives it back, so one is enough.
 QString Planner::FreeName()
 {
-    for (int number = 1;; ++number) {
+    const Qt::CaseSensitivity sensitivity = rules.withCase ? Qt::CaseSensitive : Qt::CaseInsensitive;
+    for (int number = 1; freeName.isNull(); ++number) {
         const QString name = u".rename-%1.tmp"_s.arg(number);
-        if (!places.contains(Key(name)))
-            return name;
+        if (!takers.contains(Key(name)) && !present.contains(name, sensitivity))
+            freeName = name;
     }
+    return freeName;
 }
 
 } // namespace

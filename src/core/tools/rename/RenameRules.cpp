@@ -21,16 +21,21 @@ const QString dot = u"."_s;
 /// In the order in which they are looked for.
 constexpr std::array<char16_t, 9> illegalCharacters{u'/', u'\\', u':', u'*', u'?', u'"', u'<', u'>', u'|'};
 
-// Not QString's own functions: those put a replacement character for a byte that isn't UTF-8.
+// QString's own functions are quick, but put a replacement character for a byte that isn't UTF-8.
+
+bool IsAscii(const QString &text)
+{
+    return std::ranges::all_of(text, [](QChar character) { return character.unicode() < 0x80; });
+}
 
 QString Upper(const QString &text)
 {
-    return QLocale::c().toUpper(text);
+    return IsAscii(text) ? text.toUpper() : QLocale::c().toUpper(text);
 }
 
 QString Lower(const QString &text)
 {
-    return QLocale::c().toLower(text);
+    return IsAscii(text) ? text.toLower() : QLocale::c().toLower(text);
 }
 
 /// Small letters, and the first character of what stands between white space a capital.
