@@ -66,8 +66,10 @@ void MainForm::RestoreAppearance()
     splitter.Restore();
     RestoreLanguage();
     ApplyAppearance();
-    // The options were there before this window: only now is there something to stand over.
-    frmOption().CenterOverMain(frmOption());
+    // The options were there before this window: only now is there something to stand over. A place that
+    // no number can tell must not end the load.
+    Steps steps;
+    steps.Do([&] { frmOption().CenterOverMain(frmOption()); });
     RestoreItemVisibility();
     for (int number = 1; number <= menuCount; ++number)
         menus[static_cast<size_t>(number - 1)] = settings.ReadText(keys::Menu.At(number));

@@ -12,6 +12,7 @@
 #include "machine/Dialogs.h"
 #include "machine/Screen.h"
 #include "settings/Settings.h"
+#include "tools/database/DatabaseFileDialog.h"
 
 #include <array>
 
@@ -68,16 +69,6 @@ OptionForm::OptionForm(const Machine &onMachine, Settings &allSettings, Catalogu
     , lstOptions(*this, u"lstOptions"_s)
     , PicAbout(*this, u"PicAbout"_s)
     , lblName{Label(*this, u"lblName(0)"_s), Label(*this, u"lblName(1)"_s)}
-    , PicBakground(*this, u"PicBakground"_s)
-    , FrmeInfo(*this, u"FrmeInfo"_s, u"Information"_s)
-    , lblHeaderInformation(
-          *this, u"lblHeaderInformation"_s,
-          u"Below you will find a small personal section for personal useage.  If you want to change any of "
-          "the information below, click on \"Change Info\"."_s)
-    , lblSystem(*this, u"lblSystem"_s, u"System:"_s)
-    , lblRegitered(*this, u"lblRegitered"_s, u"Registered to:"_s)
-    , btnGBChangeInfo(*this, u"btnGBChangeInfo"_s, u"&Change Info"_s)
-    , btnGBUpdateInfo(*this, u"btnGBUpdateInfo"_s, u"&Update Info"_s)
     , FrmeOption(*this, u"FrmeOption"_s, u"Settings Options"_s)
     , lblHeaderOption(
           *this, u"lblHeaderOption"_s,
@@ -134,7 +125,14 @@ OptionForm::OptionForm(const Machine &onMachine, Settings &allSettings, Catalogu
     , btnGBOK(*this, u"btnGBOK"_s, u"&OK"_s)
     , btnGBCancel(*this, u"btnGBCancel"_s, u"&Cancel"_s)
     , btnGBApply(*this, u"btnGBApply"_s, u"&Apply"_s)
+    , PicComingSoon(*this, u"PicComingSoon"_s)
+    , Label2(*this, u"Label2"_s,
+             u"This page is not finish yet but coming more function soon, check for update regularly"_s)
+    , lblDatabase(*this, u"lblDatabase"_s, u"Database:"_s)
+    , txtDBFilnavn(*this, u"txtDBFilnavn"_s)
+    , btnBrowse(*this, u"btnBrowse"_s, u"..."_s)
     , clickSound(onMachine, OptSound)
+    , information(*this, allSettings, clickSound)
     , machine(onMachine)
     , settings(allSettings)
     , catalogue(languageCatalogue)
@@ -156,9 +154,9 @@ void OptionForm::SetFirstValues()
     Text1.SetLocked(true);
     isButton1.SetVisible(false);
     isButton3.SetVisible(false);
-    btnGBUpdateInfo.SetVisible(false);
+    PicComingSoon.SetVisible(false);
     lblMessage.SetVisible(false);
-    for (Frame *page : {&FrmeInfo, &FrmeOption, &FrmeColor, &FrmeLicence})
+    for (Frame *page : {&information.FrmeInfo, &FrmeOption, &FrmeColor, &FrmeLicence})
         page->SetVisible(false);
 }
 
@@ -180,6 +178,7 @@ void OptionForm::TieHandlers()
     btnGBApply.Click.Handle([this] { btnGBApply_Click(); });
     btnGBOK.Click.Handle([this] { btnGBOK_Click(); });
     btnGBCancel.Click.Handle([this] { btnGBCancel_Click(); });
+    btnBrowse.Click.Handle([this] { btnBrowse_Click(); });
 }
 
 void OptionForm::LoadForm()
@@ -189,15 +188,17 @@ void OptionForm::LoadForm()
         lstOptions.AddItem(entry.toString());
     lstOptions.SetListIndex(About);
     PicAbout.SetTop(aboutTop);
-    PicBakground.SetLeft(backgroundLeft);
-    PicBakground.SetTop(backgroundTop);
-    for (Frame *page : {&FrmeInfo, &FrmeOption, &FrmeColor})
+    information.PicBakground.SetLeft(backgroundLeft);
+    information.PicBakground.SetTop(backgroundTop);
+    for (Frame *page : {&information.FrmeInfo, &FrmeOption, &FrmeColor})
         page->SetLeft(pageLeft);
     FrmeColor.SetTop(pageTop);
     FrmeLicence.SetTop(pageTop);
     lblName[0].SetCaption(ApplicationTitle);
     lblName[1].SetCaption(u"v%1.%2"_s.arg(MajorVersion).arg(MinorVersion));
-    CenterOverMain(*this);
+    Steps steps;
+    steps.Do([&] { CenterOverMain(*this); });
+    steps.Do([&] { information.FillSystemInfo(); });
     for (int index = 0; index < swatchCount; ++index)
         Swatch(index).SetToolTip(u" Click In color to changes to another color "_s);
 }
@@ -217,7 +218,8 @@ void OptionForm::lstOptions_Click()
         ShowAboutPage();
         break;
     case Information:
-        ShowPage(FrmeInfo);
+        ShowPage(information.FrmeInfo);
+        steps.Do([&] { information.FillSystemInfo(); });
         break;
     case OptionsSetting:
         ShowPage(FrmeOption);
@@ -236,20 +238,21 @@ void OptionForm::lstOptions_Click()
 
 void OptionForm::ShowAboutPage()
 {
-    FrmeInfo.SetVisible(false);
+    information.FrmeInfo.SetVisible(false);
     FrmeOption.SetVisible(false);
     FrmeLicence.SetVisible(false);
     PicAbout.SetVisible(true);
-    PicBakground.SetLeft(backgroundLeft);
-    PicBakground.SetTop(backgroundTop);
-    PicBakground.SetVisible(true);
+    information.HideBoxes();
+    information.PicBakground.SetLeft(backgroundLeft);
+    information.PicBakground.SetTop(backgroundTop);
+    information.PicBakground.SetVisible(true);
 }
 
 void OptionForm::ShowPage(const Frame &page)
 {
-    PicBakground.SetVisible(false);
+    information.HideBoxes();
     PicAbout.SetVisible(false);
-    for (Frame *each : {&FrmeInfo, &FrmeOption, &FrmeColor, &FrmeLicence})
+    for (Frame *each : {&information.FrmeInfo, &FrmeOption, &FrmeColor, &FrmeLicence})
         each->SetVisible(each == &page);
 }
 
@@ -265,6 +268,9 @@ void OptionForm::ReadAgain(Steps &steps)
 
 void OptionForm::cmbLanguage_Click()
 {
+    // What was stored where there was no list of languages chooses none of them.
+    if (cmbLanguage.ListIndex() < 0)
+        return;
     // The choice stands, whether or not its file is any good.
     if (catalogue.LoadLanguage(catalogue.FileOf(cmbLanguage.Text())) != 0)
         machine.dialogs.Show({u"Failed loading new language."_s, ApplicationTitle, BoxIcon::Critical});
@@ -313,6 +319,18 @@ void OptionForm::btnGBCancel_Click()
     Hide();
 }
 
+void OptionForm::btnBrowse_Click()
+{
+    clickSound.Play();
+    Steps steps;
+    steps.Do([&] {
+        const auto answer = machine.dialogs.OpenFile(
+            DatabaseFileRequest(u"Select Database File"_s, settings.ReadText(keys::OpenDBPath)));
+        if (answer)
+            txtDBFilnavn.SetText(answer->paths.value(0));
+    });
+}
+
 void OptionForm::StoreAnimation(Steps &steps)
 {
     steps.Do([&] { settings.Write(keys::AnimHeight, txtHeight.Text()); });
@@ -345,11 +363,23 @@ void OptionForm::ApplyButtonStyle()
 
 QList<IsButton *> OptionForm::Buttons()
 {
-    return {
-        &btnGBDefault,         &btnGBCancel,       &btnGBOK,         &btnGBApply,        &btnGBChangeInfo,
-        &btnGBUpdateInfo,      &btnGBColor1,       &btnGBColor2,     &btnGBColorDefault, &btnGBColorSystem,
-        &btnGBTextSidebarFont, &btnGBTextHeadFont, &btnGBImageSmall, &btnGBImageNone,    &btnGBHideSelItem,
-        &btnGBShowAllItem,     &btnGBIconRight};
+    return {&btnGBDefault,
+            &btnGBCancel,
+            &btnGBOK,
+            &btnGBApply,
+            &information.btnGBChangeInfo,
+            &information.btnGBUpdateInfo,
+            &btnGBColor1,
+            &btnGBColor2,
+            &btnGBColorDefault,
+            &btnGBColorSystem,
+            &btnGBTextSidebarFont,
+            &btnGBTextHeadFont,
+            &btnGBImageSmall,
+            &btnGBImageNone,
+            &btnGBHideSelItem,
+            &btnGBShowAllItem,
+            &btnGBIconRight};
 }
 
 void OptionForm::CenterOverMain(Form &form) const

@@ -12,6 +12,7 @@
 #include "controls/OptionGroup.h"
 #include "controls/PictureBox.h"
 #include "controls/TextBox.h"
+#include "forms/InformationPage.h"
 #include "machine/Machine.h"
 #include "tools/ClickSound.h"
 #include "tools/LiveOptions.h"
@@ -63,14 +64,6 @@ public:
 
     PictureBox PicAbout;
     std::array<Label, 2> lblName; ///< the program's name, and its version
-    PictureBox PicBakground; ///< lies over the facts while they are edited
-
-    Frame FrmeInfo;
-    Label lblHeaderInformation;
-    Label lblSystem;
-    Label lblRegitered;
-    IsButton btnGBChangeInfo;
-    IsButton btnGBUpdateInfo;
 
     Frame FrmeOption;
     Label lblHeaderOption;
@@ -120,7 +113,15 @@ public:
     IsButton btnGBCancel;
     IsButton btnGBApply;
 
+    // Kept: a page that was never finished. No entry of the list shows it.
+    PictureBox PicComingSoon;
+    Label Label2;
+    Label lblDatabase;
+    TextBox txtDBFilnavn;
+    IsButton btnBrowse;
+
     ClickSound clickSound; ///< the program's one, which the dialog switches on and off
+    InformationPage information;
 
 private:
     void SetFirstValues();
@@ -137,6 +138,7 @@ private:
     void btnGBApply_Click();
     void btnGBOK_Click();
     void btnGBCancel_Click();
+    void btnBrowse_Click();
     void StoreAnimation(Steps &steps);
     void StoreChoices(Steps &steps);
     void StoreOutlookColors(Steps &steps);

@@ -3,7 +3,7 @@
 
 #include "faces/CheckBoxFace.h"
 
-#include "faces/LineBreaks.h"
+#include "faces/Captions.h"
 
 namespace tressel {
 

@@ -4,8 +4,8 @@
 #include "faces/LabelFace.h"
 
 #include "base/Twips.h"
+#include "faces/Captions.h"
 #include "faces/Keys.h"
-#include "faces/LineBreaks.h"
 
 #include <QGuiApplication>
 #include <QMouseEvent>

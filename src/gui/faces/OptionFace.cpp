@@ -3,7 +3,7 @@
 
 #include "faces/OptionFace.h"
 
-#include "faces/LineBreaks.h"
+#include "faces/Captions.h"
 
 #include <algorithm>
 

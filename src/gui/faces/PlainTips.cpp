@@ -17,6 +17,11 @@ void ShowPlainTip(const QPoint &globalPlace, const QString &text, QWidget &widge
         globalPlace, looksMarkedUp ? QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped()) : text, &widget);
 }
 
+QString WholeAndTip(const QString &caption, const QString &toolTip)
+{
+    return toolTip.isEmpty() ? caption : caption + u'\n' + toolTip;
+}
+
 bool ShowCutRow(const QHelpEvent &event, QAbstractItemView &view)
 {
     const QModelIndex index = view.indexAt(event.pos());

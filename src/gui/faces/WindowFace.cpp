@@ -9,6 +9,10 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QScopedValueRollback>
+#include <QScreen>
+
+#include <algorithm>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +27,33 @@ constexpr QSize largest(32767, 32767);
 int Told(int twips, int pixels)
 {
     return ToPixels(twips) == pixels ? twips : ToTwips(pixels);
+}
+
+/// Where a window goes whose stored place may be that of a screen which has gone: to the nearest place on the
+/// nearest one, if too little of its upper edge to take hold of is on any.
+QRect OnAScreen(const QRect &wanted)
+{
+    constexpr QSize handle(64, 24);
+    const QRect edge(wanted.topLeft(), QSize(wanted.width(), handle.height()));
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    QRect nearest;
+    qint64 least = std::numeric_limits<qint64>::max();
+    for (const QScreen *screen : screens) {
+        const QRect room = screen->availableGeometry();
+        const QSize seen = (edge & room).size();
+        if (seen.width() >= std::min(handle.width(), wanted.width()) && seen.height() >= handle.height() / 2)
+            return wanted;
+        const QPoint way(std::clamp(edge.left(), room.left(), room.right()) - edge.left(),
+                         std::clamp(edge.top(), room.top(), room.bottom()) - edge.top());
+        if (const qint64 length = std::abs(qint64(way.x())) + std::abs(qint64(way.y())); length < least) {
+            least = length;
+            nearest = room;
+        }
+    }
+    const QSize size = wanted.size().boundedTo(nearest.size());
+    return {std::clamp(wanted.left(), nearest.left(), nearest.left() + nearest.width() - size.width()),
+            std::clamp(wanted.top(), nearest.top(), nearest.top() + nearest.height() - size.height()),
+            size.width(), size.height()};
 }
 
 } // namespace
@@ -120,7 +151,15 @@ void WindowFace::ShowGeometry()
         return;
     shownLeft = form.Left();
     shownTop = form.Top();
-    window.move(ToPixels(shownLeft), ToPixels(shownTop));
+    const QRect wanted(QPoint(ToPixels(shownLeft), ToPixels(shownTop)), size);
+    const QRect place = OnAScreen(wanted);
+    window.move(place.topLeft());
+    if (place == wanted)
+        return;
+    window.resize(place.size());
+    shownLeft = ToTwips(window.x());
+    shownTop = ToTwips(window.y());
+    form.TakeGeometry(shownLeft, shownTop, ToTwips(window.width()), ToTwips(window.height()), form.State());
 }
 
 void WindowFace::ShowState()

@@ -4,6 +4,7 @@
 #include "widgets/ButtonPainter.h"
 
 #include "controls/IsButton.h"
+#include "faces/Captions.h"
 #include "widgets/FontFaces.h"
 #include "widgets/PictureImages.h"
 #include "widgets/SystemColours.h"
@@ -73,13 +74,15 @@ int AlignmentOf(int textDrawFlags)
     return alignment;
 }
 
-/// Each line cut to the width. A carriage return in a caption breaks it, as language files have it.
-QString ElidedLines(const QFontMetrics &metrics, const QString &caption, int width)
+QFont CaptionFont(const IsButton &button, const QFont &containers)
 {
-    QStringList lines = caption.split(u'\r');
-    for (QString &line : lines)
-        line = metrics.elidedText(line, Qt::ElideRight, width, Qt::TextShowMnemonic);
-    return lines.join(u'\n');
+    return button.Font() ? ToFont(*button.Font()) : containers;
+}
+
+QString ShownCaption(const IsButton &button, const QFontMetrics &metrics)
+{
+    return ElidedLines(metrics, WithLineBreaks(button.Caption()), button.TextBox().width(),
+                       Qt::TextShowMnemonic);
 }
 
 /// Too wide a caption ends in "…". Nothing is cut at its upper and lower side, where a low button has less
@@ -92,9 +95,9 @@ void DrawCaption(QPainter &painter, const IsButton &button, const ButtonSurround
         return;
     painter.save();
     painter.scale(around.scale, around.scale);
-    painter.setFont(button.Font() ? ToFont(*button.Font()) : around.font);
+    painter.setFont(CaptionFont(button, around.font));
     painter.setPen(TextColour(button, face));
-    const QString shown = ElidedLines(painter.fontMetrics(), button.Caption(), box.width());
+    const QString shown = ShownCaption(button, painter.fontMetrics());
     const int mnemonic = around.underlinesMnemonic ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
     const int lines = shown.contains(u'\n') ? 0 : Qt::TextSingleLine;
     painter.drawText(box, AlignmentOf(button.TextDrawFlags()) | lines | Qt::TextDontClip | mnemonic, shown);
@@ -197,6 +200,12 @@ QImage DrawButton(IsButton &button, const ButtonSurroundings &around)
     DrawIcon(drawn, canvas, button, face, look ? look->Margin() : plainMargin);
     DrawFocusMark(canvas, button, around, face, look);
     return drawn;
+}
+
+bool ShowsWholeCaption(const IsButton &button, const QFont &containersFont)
+{
+    return ShownCaption(button, QFontMetrics(CaptionFont(button, containersFont)))
+        == WithLineBreaks(button.Caption());
 }
 
 QRegion ShapeOf(const IsButton &button, qreal scale)

@@ -36,4 +36,7 @@ QImage DrawButton(IsButton &button, const ButtonSurroundings &around);
 /// those that an edge touches belong to it, too.
 QRegion ShapeOf(const IsButton &button, qreal scale = 1);
 
+/// Whether the caption fits into its box, so that no ellipsis stands for a part of it.
+bool ShowsWholeCaption(const IsButton &button, const QFont &containersFont);
+
 } // namespace tressel

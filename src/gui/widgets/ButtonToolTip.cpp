@@ -4,6 +4,8 @@
 #include "widgets/ButtonToolTip.h"
 
 #include "controls/IsButton.h"
+#include "faces/Captions.h"
+#include "faces/PlainTips.h"
 #include "widgets/SystemColours.h"
 
 #include <QGuiApplication>
@@ -60,9 +62,9 @@ QFont Bold(QFont font)
 
 } // namespace
 
-ButtonToolTip::ButtonToolTip(const IsButton &button, QWidget &owner)
+ButtonToolTip::ButtonToolTip(const IsButton &button, QWidget &owner, const QString &caption)
     : QWidget(&owner, Qt::ToolTip | Qt::WindowStaysOnTopHint | Qt::FramelessWindowHint)
-    , text(button.ToolTip())
+    , text(WithLineBreaks(caption.isEmpty() ? button.ToolTip() : WholeAndTip(caption, button.ToolTip())))
     , title(button.ToolTipTitle())
     , icon(IconOf(button.ToolTipIcon(), owner))
     , balloon(button.ToolTipType() == ToolTipShape::Balloon)

@@ -20,8 +20,9 @@ class ButtonToolTip : public QWidget {
     Q_PROPERTY(QString title MEMBER title CONSTANT)
 
 public:
-    /// Takes the button's texts and colours as they are now.
-    ButtonToolTip(const IsButton &button, QWidget &owner);
+    /// Takes the button's texts and colours as they are now. `caption` is what stands above its text, for a
+    /// button whose caption isn't seen whole.
+    ButtonToolTip(const IsButton &button, QWidget &owner, const QString &caption = {});
 
     const QString &Text() const { return text; }
     const QString &Title() const { return title; }

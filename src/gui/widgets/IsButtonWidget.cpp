@@ -4,6 +4,7 @@
 #include "widgets/IsButtonWidget.h"
 
 #include "base/Twips.h"
+#include "faces/Captions.h"
 #include "machine/PlainColours.h"
 #include "widgets/ButtonAboutBox.h"
 #include "widgets/ButtonPainter.h"
@@ -60,7 +61,8 @@ IsButtonWidget::IsButtonWidget(QWidget *parent)
     setMouseTracking(true);
     setAttribute(Qt::WA_Hover);
     setMinimumSize(ToPixels(IsButton::leastSize), ToPixels(IsButton::leastSize));
-    setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+    // Where there is no room for the caption it ends in an ellipsis.
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     SetControl(nullptr);
 }
 
@@ -143,14 +145,12 @@ void IsButtonWidget::TellAssistance()
 
 QString IsButtonWidget::PlainCaption() const
 {
-    QString plain;
-    const QString &caption = control->Caption();
-    for (qsizetype place = 0; place < caption.size(); ++place) {
-        if (caption[place] == u'&' && ++place == caption.size())
-            break;
-        plain += caption[place];
-    }
-    return plain;
+    return WithoutMnemonic(control->Caption());
+}
+
+QString IsButtonWidget::CutCaption() const
+{
+    return ShowsWholeCaption(*control, font()) ? QString() : PlainCaption();
 }
 
 void IsButtonWidget::Press()
@@ -169,14 +169,15 @@ QSize IsButtonWidget::sizeHint() const
     constexpr int around = 12;
     constexpr int iconMargin = 5;
     const QFontMetrics metrics(Font());
-    QSize size(metrics.horizontalAdvance(PlainCaption()) + 2 * around, metrics.height() + around);
+    const QSize caption = metrics.size(0, WithLineBreaks(PlainCaption()));
+    QSize size(caption.width() + 2 * around, std::max(caption.height(), metrics.height()) + around);
     if (!control->Icon().IsNone()) {
         const int icon = control->IconSize() + 2 * iconMargin;
         const bool above =
             control->IconAlign() == IconPlace::Top || control->IconAlign() == IconPlace::Bottom;
-        size = above
-            ? QSize(std::max(size.width(), icon), control->IconSize() + iconMargin + metrics.height() + 6)
-            : QSize(size.width() + icon, std::max(size.height(), icon));
+        size = above ? QSize(std::max(size.width(), icon),
+                             control->IconSize() + iconMargin + size.height() - around + 6)
+                     : QSize(size.width() + icon, std::max(size.height(), icon));
     }
     return size.expandedTo(minimumSize());
 }
@@ -186,7 +187,7 @@ bool IsButtonWidget::event(QEvent *event)
     switch (event->type()) {
     case QEvent::ToolTip:
         if (!tip || !control->IsEnabled())
-            tip = std::make_unique<ButtonToolTip>(*control, *this);
+            tip = std::make_unique<ButtonToolTip>(*control, *this, CutCaption());
         tip->ShowAt(static_cast<QHelpEvent *>(event)->globalPos());
         return true;
     case QEvent::Shortcut: {
@@ -267,7 +268,7 @@ void IsButtonWidget::PointerCame()
     control->UserMovesMouse();
     if (!self || wasHovered || !control->IsHovered())
         return;
-    tip = std::make_unique<ButtonToolTip>(*control, *this);
+    tip = std::make_unique<ButtonToolTip>(*control, *this, CutCaption());
     update();
 }
 

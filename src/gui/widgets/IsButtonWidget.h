@@ -61,6 +61,8 @@ public:
 
     /// The caption without its "&".
     QString PlainCaption() const;
+    /// The same if an ellipsis stands for a part of it, else empty.
+    QString CutCaption() const;
     /// Presses and releases the button, as its mnemonic does.
     void Press();
     /// The tool tip as it was built when the pointer came; null before.

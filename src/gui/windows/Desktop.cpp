@@ -80,19 +80,19 @@ void Desktop::MakeWindow(Form &form)
         machine.screen.SetMainWindow(window.get());
     auto face = std::make_unique<WindowFace>(form, *window, makers, machine.updates);
     shown.push_back({std::move(window), std::move(face)});
-    if (form.Name() == u"frmAbout"_s)
-        form.Activate.Also([this] { PutAboutBeforeMain(); });
+    if (form.Name() == u"frmAbout"_s || form.Name() == u"frmOption"_s)
+        form.Activate.Also([this, &form] { PutBeforeMain(form); });
 }
 
-void Desktop::PutAboutBeforeMain()
+void Desktop::PutBeforeMain(const Form &form)
 {
-    const WindowFace *about = FaceOf(u"frmAbout"_s);
     const WindowFace *main = FaceOf(u"frmMain"_s);
     QWindow *owner = main ? main->Window().windowHandle() : nullptr;
     if (!owner)
         return;
-    about->Window().winId(); // It may never have been shown.
-    about->Window().windowHandle()->setTransientParent(owner);
+    QWidget &window = FaceOf(form.Name())->Window();
+    window.winId(); // It may never have been shown.
+    window.windowHandle()->setTransientParent(owner);
 }
 
 const WindowFace *Desktop::FaceOf(const QString &formName) const

@@ -37,8 +37,8 @@ private:
     };
 
     void MakeWindow(Form &form);
-    /// The main window owns the About window, which so stays before it.
-    void PutAboutBeforeMain();
+    /// The main window owns the small window of a form, which so stays before it.
+    void PutBeforeMain(const Form &form);
 
     Program &program;
     SettingsHive &hive;

@@ -3,6 +3,7 @@
 
 #include "windows/ElidedLabel.h"
 
+#include "faces/Captions.h"
 #include "faces/PlainTips.h"
 
 #include <QHelpEvent>
@@ -30,7 +31,7 @@ bool ElidedLabel::event(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip || ShownText() == text())
         return QLabel::event(event);
-    ShowPlainTip(static_cast<QHelpEvent *>(event)->globalPos(), text(), *this);
+    ShowPlainTip(static_cast<QHelpEvent *>(event)->globalPos(), WholeAndTip(text(), toolTip()), *this);
     return true;
 }
 
@@ -39,6 +40,33 @@ void ElidedLabel::paintEvent(QPaintEvent *)
     QPainter painter(this);
     style()->drawItemText(&painter, contentsRect(), static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter),
                           palette(), isEnabled(), ShownText(), foregroundRole());
+}
+
+int CaptionLabel::Flags() const
+{
+    return static_cast<int>(alignment()) | (buddy() ? Qt::TextShowMnemonic : 0);
+}
+
+QString CaptionLabel::ShownText() const
+{
+    return ElidedLines(fontMetrics(), text(), contentsRect().width(), Flags());
+}
+
+QSize CaptionLabel::minimumSizeHint() const
+{
+    constexpr int widestThatStays = 104;
+    return sizeHint().boundedTo(QSize(widestThatStays, QWIDGETSIZE_MAX));
+}
+
+void CaptionLabel::paintEvent(QPaintEvent *event)
+{
+    const QString shown = ShownText();
+    if (shown == text()) {
+        QLabel::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    style()->drawItemText(&painter, contentsRect(), Flags(), palette(), isEnabled(), shown, foregroundRole());
 }
 
 } // namespace tressel

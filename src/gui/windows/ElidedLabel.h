@@ -11,13 +11,28 @@ namespace tressel {
 class ElidedLabel : public QLabel {
 public:
     /// What is shown of the text.
-    QString ShownText() const;
+    virtual QString ShownText() const;
 
     QSize minimumSizeHint() const override;
 
 protected:
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+};
+
+/// The same for a caption, which keeps its line breaks and gives way to a field beside it only where it is
+/// long.
+class CaptionLabel : public ElidedLabel {
+public:
+    QString ShownText() const override;
+
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    int Flags() const;
 };
 
 } // namespace tressel

@@ -105,7 +105,8 @@ void MainWindow::changeEvent(QEvent *event)
 bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
     // A tip that the button has of its own goes before.
-    if (watched != create || event->type() != QEvent::ToolTip || !create->ToolTip().isEmpty())
+    if (watched != create || event->type() != QEvent::ToolTip || !create->ToolTip().isEmpty()
+        || !create->CutCaption().isEmpty())
         return QWidget::eventFilter(watched, event);
     const QString key = QKeySequence(createKeys.front()).toString(QKeySequence::NativeText);
     ShowPlainTip(static_cast<QHelpEvent *>(event)->globalPos(),

@@ -6,6 +6,8 @@
 #include "forms/OptionForm.h"
 #include "widgets/IsButtonWidget.h"
 #include "widgets/ProgramIcons.h"
+#include "windows/ElidedLabel.h"
+#include "windows/FieldsOver.h"
 #include "windows/Parts.h"
 #include "windows/Swatch.h"
 
@@ -53,15 +55,55 @@ QWidget *MakeAbout()
     return page;
 }
 
-QWidget *MakeInformation()
+/// A heading, and below it, drawn in, the lines of that kind.
+QLayout *MakeFacts(const QString &heading, const QList<QLabel *> &lines)
 {
+    auto *facts = Column(0);
+    facts->setContentsMargins(gapWindow, 0, 0, 0);
+    for (QLabel *line : lines)
+        facts->addWidget(line);
+    auto *column = Column(gapSmall);
+    column->addWidget(LabelFor(heading));
+    column->addLayout(facts);
+    return column;
+}
+
+QList<QLabel *> FactLabels(int first, int count)
+{
+    QList<QLabel *> labels;
+    for (int line = first; line < first + count; ++line) {
+        labels += Part<ElidedLabel>(u"lblInformation(%1)"_s.arg(line));
+        // Each has the room of a field, which lies over some of them.
+        labels.back()->setMinimumHeight(QLineEdit().sizeHint().height() + gapSmall);
+    }
+    return labels;
+}
+
+/// The page, and the plate with the boxes that lie over its last lines.
+struct InformationParts {
+    QWidget *page;
+    QWidget *boxes;
+};
+
+InformationParts MakeInformation()
+{
+    const QList<QLabel *> registered = FactLabels(3, 2);
     auto *column = Column(gapWide);
     column->addWidget(WrappedLabel(u"lblHeaderInformation"_s));
-    column->addWidget(Part<QLabel>(u"lblSystem"_s));
-    column->addWidget(Part<QLabel>(u"lblRegitered"_s));
+    column->addLayout(MakeFacts(u"lblSystem"_s, FactLabels(0, 3)));
+    column->addLayout(MakeFacts(u"lblRegitered"_s, registered));
     column->addStretch();
-    column->addLayout(ButtonRow({u"btnGBChangeInfo"_s, u"btnGBUpdateInfo"_s}));
-    return PageGroup(u"FrmeInfo"_s, column);
+    auto *change = PageButton(u"btnGBChangeInfo"_s);
+    auto *buttons = Row();
+    buttons->addStretch();
+    buttons->addWidget(change);
+    buttons->addWidget(PageButton(u"btnGBUpdateInfo"_s));
+    column->addLayout(buttons);
+    auto *boxes = new FieldsOver(
+        {Field(u"txtInformation(0)"_s, u"Owner"_s), Field(u"txtInformation(1)"_s, u"Organisation"_s)},
+        registered, change);
+    boxes->setObjectName(u"PicBakground"_s);
+    return {PageGroup(u"FrmeInfo"_s, column), boxes};
 }
 
 QLayout *MakeOptionButtons(const QString &name, int count, int columns)
@@ -202,22 +244,43 @@ QWidget *MakeLicence()
     return PageGroup(u"FrmeLicence"_s, column);
 }
 
+/// The page that no entry of the list shows.
+QWidget *MakeComingSoon()
+{
+    auto *field = Field(u"txtDBFilnavn"_s);
+    auto *row = Row();
+    row->addWidget(LabelFor(u"lblDatabase"_s, field));
+    row->addWidget(field, 1);
+    row->addWidget(DotsButton(u"btnBrowse"_s, u"Select Database File"_s));
+    auto *column = Column(gapWide);
+    column->addWidget(WrappedLabel(u"Label2"_s));
+    column->addLayout(row);
+    column->addStretch();
+    auto *page = Part<QWidget>(u"PicComingSoon"_s);
+    page->setLayout(column);
+    return page;
+}
+
 } // namespace
 
 QWidget *MakeOptionPages()
 {
+    auto *pages = new QWidget;
     auto *grid = new QGridLayout;
     grid->setContentsMargins(0, 0, 0, 0);
-    for (QWidget *page : {MakeAbout(), MakeInformation(), MakeSettings(), MakeLicence(), MakeColours()}) {
+    pages->setLayout(grid);
+    const auto add = [&](QWidget *page) {
         QSizePolicy policy = page->sizePolicy();
         policy.setRetainSizeWhenHidden(true);
         page->setSizePolicy(policy);
         page->setAutoFillBackground(true);
         grid->addWidget(page, 0, 0);
-    }
-    grid->addWidget(Part<QWidget>(u"PicBakground"_s), 0, 0, Qt::AlignLeft | Qt::AlignBottom);
-    auto *pages = new QWidget;
-    pages->setLayout(grid);
+    };
+    const InformationParts information = MakeInformation();
+    for (QWidget *page : {MakeComingSoon(), MakeAbout(), information.page, MakeSettings(), MakeLicence()})
+        add(page);
+    information.boxes->setParent(pages);
+    add(MakeColours());
     return pages;
 }
 

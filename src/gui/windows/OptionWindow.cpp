@@ -7,7 +7,11 @@
 #include "windows/OptionPages.h"
 #include "windows/Parts.h"
 
+#include <QEvent>
+#include <QScreen>
 #include <QShortcut>
+
+#include <algorithm>
 
 namespace tressel {
 
@@ -38,10 +42,28 @@ OptionWindow::OptionWindow()
     column->addLayout(upper, 1);
     column->addLayout(ButtonRow({u"btnGBOK"_s, u"btnGBCancel"_s, u"btnGBApply"_s}));
     setLayout(column);
-    resize(sizeHint());
+    KeepRoom();
+    resize(minimumSize());
     PressOn(Qt::Key_Return, u"btnGBOK"_s);
     PressOn(Qt::Key_Enter, u"btnGBOK"_s);
     PressOn(Qt::Key_Escape, u"btnGBCancel"_s);
+}
+
+bool OptionWindow::event(QEvent *event)
+{
+    // Another language has other captions.
+    if (event->type() == QEvent::LayoutRequest)
+        KeepRoom();
+    return QWidget::event(event);
+}
+
+void OptionWindow::KeepRoom()
+{
+    const QSize screenRoom = screen()->availableSize();
+    const int width = std::min(sizeHint().width(), screenRoom.width());
+    const int height =
+        layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width) : sizeHint().height();
+    setMinimumSize(width, std::min(height, screenRoom.height()));
 }
 
 void OptionWindow::PressOn(const QKeySequence &keys, const QString &button)

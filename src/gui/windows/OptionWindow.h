@@ -8,12 +8,16 @@
 namespace tressel {
 
 /// The options dialog: a list of pages, the page, and the buttons below. Enter is OK and Escape is Cancel
-/// wherever the keyboard is.
+/// wherever the keyboard is. It is never smaller than what its captions need, as far as the screen goes.
 class OptionWindow : public QWidget {
 public:
     OptionWindow();
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
+    void KeepRoom();
     void PressOn(const QKeySequence &keys, const QString &button);
 };
 

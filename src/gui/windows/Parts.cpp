@@ -4,6 +4,9 @@
 #include "windows/Parts.h"
 
 #include "widgets/IsButtonWidget.h"
+#include "windows/ElidedButtons.h"
+#include "windows/ElidedGroup.h"
+#include "windows/ElidedLabel.h"
 #include "windows/HintedViews.h"
 #include "windows/PageArea.h"
 
@@ -36,6 +39,16 @@ public:
 };
 
 } // namespace
+
+template <> QCheckBox *Part<QCheckBox>(const QString &name)
+{
+    return Part<ElidedButton<QCheckBox>>(name);
+}
+
+template <> QRadioButton *Part<QRadioButton>(const QString &name)
+{
+    return Part<ElidedButton<QRadioButton>>(name);
+}
 
 QHBoxLayout *Row(int spacing)
 {
@@ -107,7 +120,7 @@ QListView *List(const QString &name, const QString &spoken, const QString &words
 
 QLabel *LabelFor(const QString &name, QWidget *field)
 {
-    auto *label = Part<QLabel>(name);
+    auto *label = Part<CaptionLabel>(name);
     label->setBuddy(field);
     return label;
 }
@@ -154,7 +167,7 @@ QProgressBar *Progress(const QString &name, const QString &spoken)
 
 QGroupBox *Group(const QString &name, QLayout *content)
 {
-    auto *group = Part<QGroupBox>(name);
+    auto *group = Part<ElidedGroup>(name);
     content->setContentsMargins(groupSide, gapSmall, groupSide, gapSmall);
     group->setLayout(content);
     return group;

@@ -31,6 +31,10 @@ template <typename Widget> Widget *Part(const QString &name)
     return widget;
 }
 
+/// Captions that don't fit end in an ellipsis.
+template <> QCheckBox *Part<QCheckBox>(const QString &name);
+template <> QRadioButton *Part<QRadioButton>(const QString &name);
+
 /// A layout with the given distance between its items and nothing around them.
 QHBoxLayout *Row(int spacing = gap);
 QVBoxLayout *Column(int spacing = gap);

@@ -32,8 +32,8 @@ protected:
 
     MemoryMachine machine;
     ToolBench bench{machine.machine};
-    Form form{u"frmOption"_s};
-    InformationPage page{form, bench.program};
+    Form form{u"frmInformation"_s};
+    InformationPage page{form, bench.settings, bench.clickSound};
 };
 
 TEST_F(Information, EveryLineAndBoxStartsAsNoInfo)

@@ -63,9 +63,14 @@ TEST_F(MainFormLoad, ReadsTheSettingsInItsOrder)
     const QStringList place =
         Below(u"Main"_s, {u"MainWidth"_s, u"MainHeight"_s, u"MainLeft"_s, u"MainTop"_s});
     const QStringList colours = Below(u"Main"_s, Numbered(u"Color"_s, 11, 21));
-    const QStringList order = Below(u"Options"_s,
-                                    {u"ButtonStyle"_s, u"ShowDigit"_s, u"EnableAnimation"_s, u"DigitType"_s,
-                                     u"Sound"_s, u"Show Tips at Startup"_s, u"AnimHeight"_s, u"AnimWidth"_s})
+    const QStringList facts = Below(u"CurrentVersion"_s,
+                                    {u"ProductName"_s, u"CurrentVersion"_s, u"CurrentBuildNumber"_s,
+                                     u"CSDVersion"_s, u"RegisteredOwner"_s, u"RegisteredOrganization"_s});
+    // The options come up first, and show the facts.
+    const QStringList order = facts
+        + Below(u"Options"_s,
+                {u"ButtonStyle"_s, u"ShowDigit"_s, u"EnableAnimation"_s, u"DigitType"_s, u"Sound"_s,
+                 u"Show Tips at Startup"_s, u"AnimHeight"_s, u"AnimWidth"_s})
         // The main window: the pages, the first look at its place, the list.
         + Below(u"Main"_s, {u"SearchPath"_s, u"DatabaseFile"_s, u"SQLString"_s, u"Table"_s})
         + Below(u"Options"_s,

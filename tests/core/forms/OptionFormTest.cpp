@@ -57,10 +57,10 @@ TEST_F(OptionFormTest, FivePagesInTheirOrder)
         QStringList({u"About"_s, u"Information"_s, u"Options Setting"_s, u"Color Setting"_s, u"Licence"_s}));
     EXPECT_EQ(options.lstOptions.ListIndex(), 0);
     EXPECT_TRUE(options.PicAbout.IsVisible());
-    EXPECT_TRUE(options.PicBakground.IsVisible());
+    EXPECT_TRUE(options.information.PicBakground.IsVisible());
     EXPECT_EQ(options.PicAbout.Top(), 350);
-    EXPECT_EQ(options.PicBakground.Left(), 480);
-    EXPECT_EQ(options.PicBakground.Top(), 2880);
+    EXPECT_EQ(options.information.PicBakground.Left(), 480);
+    EXPECT_EQ(options.information.PicBakground.Top(), 2880);
     EXPECT_EQ(options.FrmeOption.Left(), 1800);
     EXPECT_EQ(options.FrmeColor.Left(), 1800);
     EXPECT_EQ(options.FrmeColor.Top(), 120);
@@ -74,12 +74,12 @@ TEST_F(OptionFormTest, FivePagesInTheirOrder)
 
 TEST_F(OptionFormTest, EachEntryShowsItsOwnPage)
 {
-    const std::array<Frame *, 4> pages{&options.FrmeInfo, &options.FrmeOption, &options.FrmeColor,
+    const std::array<Frame *, 4> pages{&options.information.FrmeInfo, &options.FrmeOption, &options.FrmeColor,
                                        &options.FrmeLicence};
     for (int page = 1; page <= 4; ++page) {
         Choose(page);
         EXPECT_FALSE(options.PicAbout.IsVisible());
-        EXPECT_FALSE(options.PicBakground.IsVisible());
+        EXPECT_FALSE(options.information.PicBakground.IsVisible());
         for (int each = 1; each <= 4; ++each)
             EXPECT_EQ(pages.at(static_cast<size_t>(each - 1))->IsVisible(), each == page) << page << each;
     }

@@ -5,11 +5,11 @@
 
 #include "base/Numbers.h"
 #include "base/Steps.h"
-#include "machine/Dialogs.h"
 #include "machine/FileSystem.h"
 #include "settings/Settings.h"
 #include "tools/ClickSound.h"
 #include "tools/WorkArea.h"
+#include "tools/database/DatabaseFileDialog.h"
 #include "tools/database/DelimitedList.h"
 #include "tools/folders/FolderTree.h"
 
@@ -123,15 +123,7 @@ QString DatabasePage::GetMdbFileName(const QString &StartDir)
     // The drive of the start folder must be there.
     if (!StartDir.isEmpty())
         context.machine.files.VolumeLabel(StartDir);
-    FileDialogRequest request;
-    request.title = u"Open file"_s;
-    request.folder = StartDir;
-    request.filter = u"All Files (*.*)|*.*|MDB Files (*.mdb)|*.mdb|"_s;
-    request.filterIndex = 2;
-    request.defaultExtension = u".mdb"_s;
-    request.fileName = u"*.mdb"_s;
-    request.mayBeMissing = true;
-    const auto answer = context.machine.dialogs.OpenFile(request);
+    const auto answer = context.machine.dialogs.OpenFile(DatabaseFileRequest(u"Open file"_s, StartDir));
     if (!answer)
         throw Failure(cancelled, u"Cancel was selected."_s);
     OpenDBPath = answer->folder;

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "faces/Captions.h"
+#include "faces/PlainTips.h"
+
+#include <QCheckBox>
+#include <QHelpEvent>
+#include <QRadioButton>
+#include <QStyleOptionButton>
+#include <QStylePainter>
+
+#include <algorithm>
+
+namespace tressel {
+
+/// A check box or round button. Where its caption doesn't fit it ends in an ellipsis, and the whole is in
+/// the tool tip.
+template <typename Button> class ElidedButton : public Button {
+public:
+    /// What is shown of the caption.
+    QString ShownText() const
+    {
+        return ElidedLines(this->fontMetrics(), this->text(), CaptionWidth(), Qt::TextShowMnemonic);
+    }
+
+    QSize minimumSizeHint() const override
+    {
+        constexpr int widestThatStays = 140;
+        return Button::minimumSizeHint().boundedTo(QSize(widestThatStays, QWIDGETSIZE_MAX));
+    }
+
+protected:
+    bool event(QEvent *event) override
+    {
+        if (event->type() != QEvent::ToolTip || ShownText() == this->text())
+            return Button::event(event);
+        ShowPlainTip(static_cast<QHelpEvent *>(event)->globalPos(),
+                     WholeAndTip(WithoutMnemonic(this->text()), this->toolTip()), *this);
+        return true;
+    }
+
+    void paintEvent(QPaintEvent *) override
+    {
+        QStylePainter painter(this);
+        QStyleOptionButton option;
+        this->initStyleOption(&option);
+        option.text = ShownText();
+        painter.drawControl(isRound ? QStyle::CE_RadioButton : QStyle::CE_CheckBox, option);
+    }
+
+private:
+    static constexpr bool isRound = std::is_same_v<Button, QRadioButton>;
+
+    /// The room that the indicator leaves.
+    int CaptionWidth() const
+    {
+        QStyleOptionButton option;
+        this->initStyleOption(&option);
+        return this->style()
+            ->subElementRect(isRound ? QStyle::SE_RadioButtonContents : QStyle::SE_CheckBoxContents, &option,
+                             this)
+            .width();
+    }
+};
+
+} // namespace tressel
