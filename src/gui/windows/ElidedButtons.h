@@ -20,6 +20,8 @@ namespace tressel {
 /// the tool tip.
 template <typename Button> class ElidedButton : public Button {
 public:
+    ElidedButton() { this->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed); }
+
     /// What is shown of the caption.
     QString ShownText() const
     {
@@ -28,7 +30,7 @@ public:
 
     QSize minimumSizeHint() const override
     {
-        constexpr int widestThatStays = 140;
+        constexpr int widestThatStays = 100;
         return Button::minimumSizeHint().boundedTo(QSize(widestThatStays, QWIDGETSIZE_MAX));
     }
 

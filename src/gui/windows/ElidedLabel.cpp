@@ -31,7 +31,8 @@ bool ElidedLabel::event(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip || ShownText() == text())
         return QLabel::event(event);
-    ShowPlainTip(static_cast<QHelpEvent *>(event)->globalPos(), WholeAndTip(text(), toolTip()), *this);
+    ShowPlainTip(static_cast<QHelpEvent *>(event)->globalPos(),
+                 WholeAndTip(buddy() ? WithoutMnemonic(text()) : text(), toolTip()), *this);
     return true;
 }
 
@@ -54,7 +55,7 @@ QString CaptionLabel::ShownText() const
 
 QSize CaptionLabel::minimumSizeHint() const
 {
-    constexpr int widestThatStays = 104;
+    constexpr int widestThatStays = 40;
     return sizeHint().boundedTo(QSize(widestThatStays, QWIDGETSIZE_MAX));
 }
 

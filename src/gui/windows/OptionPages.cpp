@@ -162,8 +162,8 @@ QLayout *MakeAnimationSide()
 QWidget *MakeSettings()
 {
     auto *sides = Row(gapWide);
-    sides->addLayout(MakeNumbersSide(), 1);
-    sides->addLayout(MakeAnimationSide(), 1);
+    sides->addLayout(MakeNumbersSide());
+    sides->addLayout(MakeAnimationSide());
     auto *column = Column();
     column->addWidget(WrappedLabel(u"lblHeaderOption"_s));
     column->addLayout(MakeLanguage());

@@ -125,7 +125,8 @@ TEST_F(EnglishTexts, AreThoseOfTheForms)
         const auto *captioned = dynamic_cast<const Captioned *>(control);
         ASSERT_TRUE(captioned || row.property == TextProperty::ToolTip) << row.index;
         const QString own = row.property == TextProperty::ToolTip ? control->ToolTip() : captioned->Caption();
-        if (!own.isEmpty()) {
+        // Those two tell how many there are, and a language can't.
+        if (!own.isEmpty() && control->Name() != u"lblstrSQL" && control->Name() != u"lblTable") {
             EXPECT_EQ(texts.value(row.index), own) << row.index;
         }
     }
