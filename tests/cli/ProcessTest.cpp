@@ -3,6 +3,7 @@
 
 #include "RunCommand.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <thread>
@@ -46,6 +47,38 @@ TEST_F(Process, WorkingFolderBehindALinkIsTheRealOne)
     fs::create_directory_symlink(folder / "w/Live", folder / "link");
     RunCli({"create", "--to", "link/../made", "a"});
     EXPECT_TRUE(fs::exists(folder / "w/made/a"));
+}
+
+TEST_F(Process, EveryCommandGoesThroughALinkBeforeItGoesUp)
+{
+    workingFolder = folder / "w/Live";
+    fs::create_directories(folder / "far/deep");
+    fs::create_directory_symlink(folder / "far/deep", folder / "w/Live/link");
+    // What a path that is only cut would lead to.
+    fs::create_directories(folder / "w/Live/x/wrong");
+    fs::create_directories(folder / "far/x/empty");
+    for (const char *file : {"far/x/name", "far/x/whole.1", "w/Live/x/name", "w/Live/x/whole.1"})
+        Put(file, "some bytes");
+    const std::string far = (folder / "far/x").string();
+    const std::vector<std::pair<std::vector<std::string>, std::string>> rows{
+        {{"create", "a", "--to", "link/../x"}, "make " + far + "/a\n"},
+        {{"report", "--folders-only", "link/../x"}, far + " \n" + far + "/empty \n"},
+        {{"series", "make", "--in=link/../x", "--base=D", "--from=1", "--to=1"}, "make " + far + "/D1\n"},
+        {{"series", "delete", "--in=link/../x", "--base=empty", "--from=0", "--to=0", "--digits=1"},
+         "remove " + far + "/empty\n"},
+        {{"rename", "case", "link/../x", "--upper", "--folders"}, "empty -> EMPTY\n"},
+        {{"split", "link/../x/name", "--size", "10"}, "make " + far + "/name.1\n"},
+        {{"join", "link/../x/whole"}, "make " + far + "/whole\n"},
+        {{"erase", "link/../x/name"}, "erase " + far + "/name\n"},
+        {{"empty", "remove", "link/../x"}, "remove " + far + "/empty\n"},
+    };
+    for (auto [words, action] : rows) {
+        if (words.front() != "report")
+            words.emplace_back("--dry-run");
+        EXPECT_EQ(RunCli(words).out, action) << words.front();
+    }
+    const std::string err = RunCli({"database", "link/../x/name"}).err;
+    EXPECT_NE(err.find(far + "/name"), std::string::npos) << err;
 }
 
 TEST_F(Process, FullStandardOutputIsAFailureOfEachCommand)
@@ -220,6 +253,78 @@ TEST_F(Process, ReportThatFindsNoRoomLeavesNoFile)
     EXPECT_NE(outcome.err.find("/r.txt: Disk full\n"), std::string::npos) << outcome.err;
     EXPECT_EQ(Below("").count("r.txt"), 0U);
     EXPECT_EQ(Below("").size(), 2000U + 5U);
+}
+
+TEST_F(Process, ReportThatIsEndedLeavesNothingInTheWayOfTheNextOne)
+{
+    for (int number = 0; number < 3000; ++number)
+        fs::create_directory(folder / "w" / std::to_string(number));
+    interruptWhen = [&] {
+        const auto isBegun = [](const fs::directory_entry &entry) {
+            return entry.path().filename().string().rfind("~tr", 0) == 0;
+        };
+        return std::any_of(fs::directory_iterator(folder), fs::directory_iterator(), isBegun);
+    };
+    for (const int signal : {SIGTERM, SIGKILL}) {
+        interruptWith = signal;
+        Outcome ended;
+        // The run may be over before the signal is sent.
+        for (int attempt = 0; attempt < 50 && ended.status != 143 && ended.status != -SIGKILL; ++attempt) {
+            fs::remove(folder / "r.txt");
+            ended = RunCli({"report", "w", "--output", "r.txt"});
+        }
+        EXPECT_EQ(ended.status, signal == SIGTERM ? 143 : -SIGKILL) << ended.err;
+        EXPECT_FALSE(fs::exists(folder / "r.txt"));
+    }
+    interruptWhen = {};
+    EXPECT_EQ(RunCli({"report", "w", "--output", "r.txt"}).out,
+              "listed 3002 folders, 0 files, unreadable 0\n");
+    EXPECT_NE(Contents(folder / "r.txt").find("/w/2999\r\n"), std::string::npos);
+}
+
+TEST_F(Process, NulsTellALineBreakInANameFromTwoNames)
+{
+    Put("w/Live/a\nb", "");
+    Put("w/Live/c", "");
+    const std::string live = (folder / "w/Live").string();
+    EXPECT_EQ(RunCli({"report", "--names-only", "--null", "w/Live"}).out,
+              std::string(" \0", 2) + live + '\0' + std::string("a\nb\0c\0 \0", 8));
+}
+
+TEST_F(Process, EntryOfFourCharactersWithoutThemIsTheDestinationAlone)
+{
+    EXPECT_EQ(RunCli({"create", "--to", "NEW", "--remove-ext", "abcd"}).out,
+              "made 1, already there 0, failed 0\n");
+    EXPECT_EQ(Below("NEW"), std::set<std::string>{});
+}
+
+TEST_F(Process, ListBeyondItsIndexSaysWhy)
+{
+    const Outcome outcome = RunCli({"create", "--to", "out", "--list", Put("l", Numbers(32768))});
+    EXPECT_EQ(outcome.err,
+              "tressel-cli: 32768 names are more than the 32767 that a list of folders takes\n"
+              "tressel-cli: nothing was made\n");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_FALSE(fs::exists(folder / "out"));
+}
+
+TEST_F(Process, EachFailureIsNamedOnceAlsoWhereItIsQuiet)
+{
+    fs::create_directories(folder / "out");
+    Put("out/one", "");
+    Put("out/two", "");
+    const std::string out = (folder / "out").string();
+    const std::string told = "tressel-cli: " + out
+        + "/one: Something that is no folder is in its place\n"
+          "tressel-cli: "
+        + out + "/two: Something that is no folder is in its place\n";
+    const Outcome loud = RunCli({"create", "--to", "out", "one", "free", "two"});
+    EXPECT_EQ(loud.err, told);
+    EXPECT_EQ(loud.out, "made 1, already there 0, failed 2\n");
+    const Outcome quiet = RunCli({"create", "--quiet", "--to", "out", "one", "two"});
+    EXPECT_EQ(quiet.err, told);
+    EXPECT_EQ(quiet.out, "");
+    EXPECT_EQ(quiet.status, 1);
 }
 
 TEST_F(Process, BashCompletesCommandsOptionsAndValues)
