@@ -32,6 +32,17 @@ QString TitleWithVersion()
     return ApplicationTitle + u" v"_s + QString::number(MajorVersion) + u'.' + QString::number(Revision);
 }
 
+/// Why a file is no list for a limit of our own; empty for any other failure.
+QString WhyNoList(FileSystem &files, const QString &path, const Failure &failure)
+{
+    const auto status = files.Status(path, Links::Follow);
+    if (status && status->kind == EntryKind::Other)
+        return u"It is no regular file"_s;
+    const bool isTooLarge =
+        failure.number == FailureNumber::OutOfMemory && failure.description != DescriptionOf(failure.number);
+    return isTooLarge ? failure.description : QString();
+}
+
 QString TailOfPath(const QString &path)
 {
     return Right(path, 70);
@@ -74,7 +85,7 @@ void FolderListFile::LoadReportList()
         area.lblStatusLine.SetCaption(u"Read list Wait..."_s);
         area.LstItem.Clear();
         session.ReportFile = settings.ReadText(keys::ReportFile);
-        LineReader reader(files, session.ReportFile, NameBytes::Raw);
+        LineReader reader = Taken(session.ReportFile, NameBytes::Raw);
         ReadLines(reader, [this](const QString &line) { return PathToEntry(files, line); });
         tree.FillFolderTree();
         // Kept: the caption quotes the list file, not the report that was read.
@@ -114,12 +125,26 @@ void FolderListFile::BeginList()
 
 void FolderListFile::ReadList()
 {
-    LineReader reader(files, session.ListFile, NameBytes::Escaped, largestList, purpose);
+    LineReader reader = Taken(session.ListFile, NameBytes::Escaped);
     ReadLines(reader, [](const QString &line) { return line; });
     tree.RefreshFolderTree();
     TellLoaded();
     area.lblStatusLine.SetCaption(u"Finished"_s);
     events.SetBusyPointer(false);
+}
+
+LineReader FolderListFile::Taken(const QString &path, NameBytes nameBytes)
+{
+    try {
+        return {files, path, nameBytes};
+    } catch (const Failure &failure) {
+        const QString reason = WhyNoList(files, path, failure);
+        if (!reason.isEmpty()) {
+            dialogs.Show({u"The list "_s + path + u" can't be loaded. "_s + reason + u'.', ApplicationTitle,
+                          BoxIcon::Exclamation});
+        }
+        throw;
+    }
 }
 
 void FolderListFile::ReadLines(LineReader &reader, const std::function<QString(const QString &)> &entryOf)

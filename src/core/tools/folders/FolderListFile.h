@@ -4,7 +4,7 @@
 #pragma once
 
 #include "base/Failure.h"
-#include "machine/FileSystem.h"
+#include "machine/NameText.h"
 #include "tools/ToolContext.h"
 
 #include <functional>
@@ -17,8 +17,9 @@ class LineReader;
 /// The list's text file: one folder name a line, lines that start with ";" and empty ones passed over.
 ///
 /// All four share a way with failures: a file that isn't there ends a routine without a word, a folder
-/// that isn't there is told in a box by the loaders, and anything else ends it without a word too. What
-/// was read so far, the status text and the pointer stay as they were at that moment.
+/// that isn't there is told in a box by the loaders, and anything else ends it without a word too, save
+/// for what no list can be here: a file of more than 64 MiB, a pipe, a device. What was read so far, the
+/// status text and the pointer stay as they were at that moment.
 class FolderListFile {
 public:
     FolderListFile(const ToolContext &context, FolderTree &tree);
@@ -32,12 +33,12 @@ public:
     /// Writes the list to session.ListFile, in place of what was there. A failure leaves the old file whole.
     void SaveList();
 
-    /// How session.ListFile is opened: Streaming where somebody has just named it and waits for it.
-    OpenFor purpose = OpenFor::Reading;
-
 private:
     void BeginList();
     void ReadList();
+    /// Takes a list in. One that is refused for a limit of our own is told in a box before the failure goes
+    /// on.
+    LineReader Taken(const QString &path, NameBytes nameBytes);
     /// `entryOf` makes the entry of a line.
     void ReadLines(LineReader &reader, const std::function<QString(const QString &)> &entryOf);
     void TellLoaded();

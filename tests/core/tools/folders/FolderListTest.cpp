@@ -114,6 +114,34 @@ TEST_F(TextList, FolderAsListFileIsNoListAndNoCrash)
     EXPECT_EQ(Status(), waiting);
 }
 
+TEST_F(TextList, WhatIsTooLargeForAListOrNoFileIsToldInABox)
+{
+    Start();
+    const auto boxAbout = [](const QString &path, const QString &reason) {
+        return MessageBox{u"The list "_s + path + u" can't be loaded. "_s + reason, u"Tressel"_s,
+                          BoxIcon::Exclamation};
+    };
+    machine.files.PutFile(listPath, QByteArray((64 << 20) + 1, 'x'));
+    machine.dialogs.ExpectOpenFile(listPath);
+    machine.dialogs.ExpectBox(boxAbout(listPath, u"The file is larger than 64 MiB."_s));
+    Form().textLists.btnGBLoadFile.UserClicks();
+    EXPECT_TRUE(machine.dialogs.AllCame());
+    EXPECT_TRUE(Entries().isEmpty());
+    EXPECT_EQ(Status(), waiting);
+
+    const QString pipe = u"C:\\Lists\\pipe"_s;
+    machine.files.PutPipe(pipe);
+    machine.dialogs.ExpectOpenFile(pipe);
+    machine.dialogs.ExpectBox(boxAbout(pipe, u"It is no regular file."_s));
+    Form().textLists.btnGBLoadFile.UserClicks();
+    application.settings.Write(keys::ReportFile, pipe);
+    machine.dialogs.ExpectBox(boxAbout(pipe, u"It is no regular file."_s));
+    Form().listFile.LoadReportList();
+    EXPECT_TRUE(machine.dialogs.AllCame());
+    // The reload at the start says nothing of what it doesn't take.
+    Form().listFile.StartList();
+}
+
 TEST_F(TextList, ReadFailureInTheMiddleEndsTheLoad)
 {
     Start();
@@ -129,6 +157,10 @@ TEST_F(TextList, OtherEncodingsAreRead)
     EXPECT_EQ(Entries(), QStringList{u"Été"_s});
     Load("\xC9t\xE9 \x80\n");
     EXPECT_EQ(Entries(), QStringList{u"Été €"_s});
+    Load(QByteArray("\xFF\xFE\xC9\0t\0\n\0", 8));
+    EXPECT_EQ(Entries(), QStringList{u"Ét"_s});
+    Load(QByteArray("\xFE\xFF\0\xC9\0t", 6));
+    EXPECT_EQ(Entries(), QStringList{u"Ét"_s});
 }
 
 TEST_F(TextList, StartTakes32000BytesAndNoMore)
