@@ -100,7 +100,16 @@ void WindowFace::Refresh()
 
 void WindowFace::ShowForm()
 {
-    const QScopedValueRollback guard(showing, true);
+    {
+        const QScopedValueRollback guard(showing, true);
+        ShowProperties();
+    }
+    // The desktop may have made something else of it.
+    TellGeometry();
+}
+
+void WindowFace::ShowProperties()
+{
     // Qt puts a mark of its own in place of "[*]" in a title.
     const QString title = QString(form.Caption()).replace(u"[*]"_s, u"[*][*]"_s);
     if (window.windowTitle() != title)
@@ -221,7 +230,8 @@ void WindowFace::TellSize()
 
 void WindowFace::TellGeometry()
 {
-    if (!window.isVisible())
+    // Half of what is being shown: a size that is new at a place that isn't.
+    if (showing || !window.isVisible())
         return;
     const Qt::WindowStates states = window.windowState();
     const WindowState state = states & Qt::WindowMinimized      ? WindowState::Minimised

@@ -38,6 +38,7 @@ protected:
 
 private:
     void ShowForm();
+    void ShowProperties();
     void ShowCloseBox();
     void ShowLeastSize();
     void ShowGeometry();
