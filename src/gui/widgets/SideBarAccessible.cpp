@@ -36,7 +36,7 @@ public:
 
     QString text(QAccessible::Text kind) const override
     {
-        return isValid() && kind == QAccessible::Name ? bar->EntryCaption(number) : QString();
+        return isValid() && kind == QAccessible::Name ? bar->EntryCaption(number).trimmed() : QString();
     }
 
     QRect rect() const override
@@ -144,7 +144,7 @@ public:
     QString text(QAccessible::Text kind) const override
     {
         const QString told = QAccessibleWidget::text(kind);
-        return told.isEmpty() && kind == QAccessible::Name ? bar.Caption() : told;
+        return told.isEmpty() && kind == QAccessible::Name ? bar.Caption().trimmed() : told;
     }
 
 private:

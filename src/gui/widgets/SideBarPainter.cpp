@@ -60,7 +60,7 @@ void SideBarPainter::PaintHeader()
     QRect text = header.adjusted(margin + markWidth, 0, -margin - markWidth, 0);
     if (!layout.MenuButton().isEmpty())
         text = Leading(text, text.width() - layout.MenuButton().width() + margin);
-    PaintText(text, view.Caption(), look.CaptionOn(ground));
+    PaintText(text, view.OpenEntry().Words(), look.CaptionOn(ground));
 }
 
 void SideBarPainter::PaintMenuButton()
@@ -122,7 +122,7 @@ void SideBarPainter::PaintRow(int number)
         text = Trailing(text, text.width() - SideBarLook::iconSize - margin);
     }
     painter.setFont(look.TitleFont());
-    PaintText(text, entry.caption, look.TitleOn(ground));
+    PaintText(text, entry.Words(), look.TitleOn(ground));
 }
 
 void SideBarPainter::PaintCell(int number)
@@ -138,7 +138,7 @@ void SideBarPainter::PaintCell(int number)
         return;
     painter.setFont(look.TitleFont());
     painter.setPen(look.TitleOn(ground));
-    painter.drawText(cell, Qt::AlignCenter, entry.caption.left(1).toUpper());
+    painter.drawText(cell, Qt::AlignCenter, entry.Words().left(1).toUpper());
 }
 
 void SideBarPainter::PaintFocus()

