@@ -15,12 +15,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The last thing before the end, when no window is left to tell it.
-void SaveSettings(FileHive &hive)
+/// The last thing before the end.
+void SaveSettings(FileHive &hive, Desktop *desktop)
 {
     const QString problem = hive.FlushAtEnd();
-    if (!problem.isEmpty())
-        qWarning("The settings of this run could not be saved. %s", qUtf8Printable(problem));
+    if (problem.isEmpty())
+        return;
+    qWarning("The settings of this run could not be saved. %s", qUtf8Printable(problem));
+    if (desktop)
+        desktop->TellUnsaved(problem);
 }
 
 } // namespace
@@ -39,8 +42,10 @@ int main(int count, char **arguments)
 
     const PosixSystemFacts facts;
     FileHive hive(FileHive::DefaultFolder(), facts);
-    PosixProgram program(count, arguments, [&hive] { SaveSettings(hive); });
+    Desktop *running = nullptr;
+    PosixProgram program(count, arguments, [&] { SaveSettings(hive, running); });
     Desktop desktop(program, hive);
+    running = &desktop;
     const EndSignals endSignals([&desktop] { desktop.End(); });
     desktop.Start();
     return QApplication::exec();

@@ -3,6 +3,7 @@
 
 #include "windows/Desktop.h"
 
+#include "machine/Dialogs.h"
 #include "machine/Program.h"
 #include "machine/SettingsHive.h"
 #include "widgets/OwnKinds.h"
@@ -15,6 +16,7 @@
 #include "windows/Swatch.h"
 #include "windows/TipWindow.h"
 
+#include <QGuiApplication>
 #include <QWindow>
 
 #include <algorithm>
@@ -69,6 +71,7 @@ Desktop::Desktop(Program &runningProgram, SettingsHive &settingsHive)
     , hive(settingsHive)
     , makers(Makers())
 {
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &sessionEnd, [this] { systemEnds = true; });
 }
 
 void Desktop::MakeWindow(Form &form)
@@ -104,6 +107,7 @@ const WindowFace *Desktop::FaceOf(const QString &formName) const
 
 void Desktop::End()
 {
+    systemEnds = true;
     const WindowFace *face = FaceOf(u"frmMain"_s);
     if (face && face->ShownForm().IsLoaded()) {
         Form &form = face->ShownForm();
@@ -112,6 +116,14 @@ void Desktop::End()
     }
     hive.Flush();
     program.End(0);
+}
+
+void Desktop::TellUnsaved(const QString &problem)
+{
+    if (systemEnds)
+        return;
+    machine.AsMachine().dialogs.Show(
+        {u"The settings of this run could not be saved.\n\n"_s + problem, {}, BoxIcon::Exclamation});
 }
 
 } // namespace tressel

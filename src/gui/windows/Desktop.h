@@ -8,6 +8,8 @@
 #include "forms/Application.h"
 #include "machine/DesktopMachine.h"
 
+#include <QObject>
+
 #include <memory>
 #include <vector>
 
@@ -23,6 +25,9 @@ public:
     void Start() { application.Start(); }
     /// The system asks the program to end: everything is written back as by the user's own way out.
     void End();
+    /// Tells the user in a box, after all windows, why the settings of the run couldn't be saved. Returns at
+    /// once where the system ends the program or the session, which nobody may keep waiting.
+    void TellUnsaved(const QString &problem);
 
     /// The window of a form and what ties the two; null if there is none, or none yet.
     const WindowFace *FaceOf(const QString &formName) const;
@@ -44,6 +49,8 @@ private:
     SettingsHive &hive;
     FaceMakers makers;
     std::vector<Shown> shown;
+    QObject sessionEnd; ///< hears of it before the windows do
+    bool systemEnds = false;
 };
 
 } // namespace tressel
