@@ -127,6 +127,8 @@ void TellObjects(JetFile &file, Output &output)
 void TellFields(JetFile &file, const std::u16string &table, Output &output)
 {
     const JetTable opened(file, PageOfTable(file, table));
+    output.Send(Packer(FrameKind::Opened));
+    output.TakeCount();
     for (const JetColumn &column : opened.Columns()) {
         const FieldFacts facts = FactsOf(file, column);
         output.Send(Packer(FrameKind::Field).Number16(facts.type).Number32(facts.size).Text(column.name));

@@ -18,6 +18,17 @@ inline QList<DatabaseObject> AllObjects(Databases &databases, const QString &fil
     return objects;
 }
 
+/// All fields of a table.
+inline QList<DatabaseField> AllFields(Databases &databases, const QString &file, const QString &table,
+                                      DatabaseRoad road = DatabaseRoad::Newer)
+{
+    QList<DatabaseField> fields;
+    const auto reader = databases.OpenFields(file, table, road);
+    while (const auto field = reader->Next())
+        fields += *field;
+    return fields;
+}
+
 /// All values of a field.
 inline QList<DatabaseValue> AllValues(Databases &databases, const QString &file, const QString &table,
                                       const QString &field)

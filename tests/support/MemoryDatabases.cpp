@@ -18,24 +18,34 @@ bool AreSame(const QString &one, const QString &other)
     return one.compare(other, Qt::CaseInsensitive) == 0;
 }
 
-class MemoryObjectReader : public ObjectReader {
+/// Gives out what it got, one by one.
+template <typename Reader, typename Item> class MemoryReader : public Reader {
 public:
-    MemoryObjectReader(MemoryDatabases &databases, QList<DatabaseObject> objects)
+    MemoryReader(MemoryDatabases &databases, QString step, QList<Item> items)
         : databases(databases)
-        , objects(std::move(objects))
+        , step(std::move(step))
+        , items(std::move(items))
     {
     }
-    std::optional<DatabaseObject> Next() override
+    int State() const override { return isOpen ? 1 : 0; }
+    void Close() override
     {
-        if (objects.isEmpty())
+        isOpen = false;
+        databases.NoteClose();
+    }
+    std::optional<Item> Next() override
+    {
+        if (items.isEmpty())
             return {};
-        databases.Obey(u"NextObject"_s);
-        return objects.takeFirst();
+        databases.Obey(step);
+        return items.takeFirst();
     }
 
 private:
     MemoryDatabases &databases;
-    QList<DatabaseObject> objects;
+    const QString step;
+    QList<Item> items;
+    bool isOpen = true;
 };
 
 /// Reads a field of a table that no longer changes.
@@ -49,6 +59,12 @@ public:
             this->table.fields, [&](const DatabaseField &each) { return AreSame(each.name, field); });
         if (found != this->table.fields.end())
             column = found - this->table.fields.begin();
+    }
+    int State() const override { return isOpen ? 1 : 0; }
+    void Close() override
+    {
+        isOpen = false;
+        databases.NoteClose();
     }
     std::optional<DatabaseValue> Next() override
     {
@@ -65,6 +81,7 @@ private:
     MemoryTable table;
     qsizetype column = -1;
     qsizetype row = 0;
+    bool isOpen = true;
 };
 
 } // namespace
@@ -115,13 +132,15 @@ std::unique_ptr<ObjectReader> MemoryDatabases::OpenSchema(const QString &file, D
     QList<DatabaseObject> objects;
     for (const MemoryTable &table : Find(file, road).tables)
         objects.append({table.name, table.kind});
-    return std::make_unique<MemoryObjectReader>(*this, objects);
+    return std::make_unique<MemoryReader<ObjectReader, DatabaseObject>>(*this, u"NextObject"_s, objects);
 }
 
-QList<DatabaseField> MemoryDatabases::Fields(const QString &file, const QString &table, DatabaseRoad road)
+std::unique_ptr<FieldListReader> MemoryDatabases::OpenFields(const QString &file, const QString &table,
+                                                             DatabaseRoad road)
 {
     Note(u"ListFields"_s, file, table);
-    return Find(file, table, road).fields;
+    return std::make_unique<MemoryReader<FieldListReader, DatabaseField>>(*this, u"NextField"_s,
+                                                                          Find(file, table, road).fields);
 }
 
 std::unique_ptr<FieldReader> MemoryDatabases::Read(const QString &file, const QString &table,
@@ -141,6 +160,12 @@ void MemoryDatabases::Obey(const QString &what)
     }
 }
 
+void MemoryDatabases::NoteClose()
+{
+    journal.Note(u"CloseDatabase"_s);
+    Obey(u"Close"_s);
+}
+
 void MemoryDatabases::Note(const QString &what, const QString &file, const QString &detail)
 {
     journal.Note(what, file, detail);
@@ -151,9 +176,9 @@ const MemoryDatabases::File &MemoryDatabases::Find(const QString &file, Database
 {
     const auto found = files.find(file.toCaseFolded());
     if (found == files.end())
-        throw Failure(databaseFailures::NoSuchFile, u"Could not find file '%1'."_s.arg(file));
+        throw Failure(databaseFailures::NoSuchFile, u"The file could not be found."_s);
     if (road == DatabaseRoad::Older && !found->isOldest)
-        throw Failure(databaseFailures::UnknownFormat, u"'%1' has another format."_s.arg(file));
+        throw Failure(databaseFailures::UnknownFormat, u"The file has another format."_s);
     return *found;
 }
 

@@ -39,19 +39,23 @@ public:
     /// Makes a file one of the oldest format, the only one that the older road can open.
     void MakeOldest(const QString &file);
 
-    /// The `nth` call (1 the next one) of "OpenSchema", "NextObject", "ListFields", "OpenTable" or
-    /// "NextValue" fails. An order that never came due fails the test.
+    /// The `nth` call (1 the next one) of "OpenSchema", "NextObject", "ListFields", "NextField", "OpenTable",
+    /// "NextValue" or "Close" fails. An order that never came due fails the test.
     void OrderFailure(const QString &what, int nth, const Failure &failure);
 
     // The journal has "OpenSchema", "ListFields" and "OpenTable" about the file, with table and field as
-    // detail.
+    // detail, and "CloseDatabase".
     std::unique_ptr<ObjectReader> OpenSchema(const QString &file, DatabaseRoad road) override;
-    QList<DatabaseField> Fields(const QString &file, const QString &table, DatabaseRoad road) override;
+    std::unique_ptr<FieldListReader> OpenFields(const QString &file, const QString &table,
+                                                DatabaseRoad road) override;
     std::unique_ptr<FieldReader> Read(const QString &file, const QString &table,
                                       const QString &field) override;
 
-    /// Fails if that was ordered. For the readers made by Read.
+    // For the readers.
+
+    /// Fails if that was ordered.
     void Obey(const QString &what);
+    void NoteClose();
 
 private:
     struct File {

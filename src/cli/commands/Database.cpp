@@ -39,9 +39,10 @@ void ListTables(Console &console, const QString &file)
 
 void ListFields(Console &console, const QString &file, const QString &table)
 {
-    for (const DatabaseField &field : console.machine.databases.Fields(file, table, DatabaseRoad::Newer)) {
-        console.Line(console.Shown(field.name) + u'\t' + FieldTypeOf(field.type).name + u'\t'
-                     + QString::number(field.size));
+    const auto reader = console.machine.databases.OpenFields(file, table, DatabaseRoad::Newer);
+    while (const auto field = reader->Next()) {
+        console.Line(console.Shown(field->name) + u'\t' + FieldTypeOf(field->type).name + u'\t'
+                     + QString::number(field->size));
     }
 }
 

@@ -110,35 +110,51 @@ struct BinaryValue {
 using DatabaseValue = std::variant<std::monostate, bool, std::int64_t, MoneyValue, float, double, DateValue,
                                    QString, GuidValue, DecimalValue, BinaryValue>;
 
-/// The objects of a file, one by one: its tables by name, then its views, then linked and system tables.
-class ObjectReader {
+/// Something that is read from an open file. The file is let go with the end of the reader, if not before.
+class DatabaseReader {
 public:
-    virtual ~ObjectReader() = default;
+    virtual ~DatabaseReader() = default;
+    /// Above 0 as long as the file is open.
+    virtual int State() const = 0;
+    /// Lets the file go; nothing can be read afterwards. May fail like every other call.
+    virtual void Close() = 0;
+};
+
+/// The objects of a file, one by one: its tables by name, then its views, then linked and system tables.
+class ObjectReader : public DatabaseReader {
+public:
     /// Nothing behind the last.
     virtual std::optional<DatabaseObject> Next() = 0;
 };
 
-/// One field of a table, row by row.
-class FieldReader {
+/// The fields of a table, one by one in their order.
+class FieldListReader : public DatabaseReader {
 public:
-    virtual ~FieldReader() = default;
+    /// Nothing behind the last.
+    virtual std::optional<DatabaseField> Next() = 0;
+};
+
+/// The values of one field of a table, row by row.
+class FieldReader : public DatabaseReader {
+public:
     /// The value in the next row, in the order in which the table gives them; nothing behind the last.
     /// Fails with databaseFailures::NoSuchField at the first row if the table has no such field.
     virtual std::optional<DatabaseValue> Next() = 0;
 };
 
-/// Database files, read only. Each function opens the file anew; it is closed with the end of the answer or
-/// of the reader. A damaged file is a failure and never more.
+/// Database files, read only. Each function opens the file anew. A damaged file is a failure and never more.
+/// What a failure says doesn't name the file: whoever tells of it knows which one that is.
 class Databases {
 public:
     virtual ~Databases() = default;
 
     /// Opens a file to see what it holds.
     virtual std::unique_ptr<ObjectReader> OpenSchema(const QString &file, DatabaseRoad road) = 0;
-    /// The fields of a table in their order. Fails with databaseFailures::NotReadable for a view and for a
-    /// linked table.
-    virtual QList<DatabaseField> Fields(const QString &file, const QString &table, DatabaseRoad road) = 0;
-    /// Opens a table to read one field. Fails as Fields does; an unknown field fails with the first row.
+    /// Opens a table to see its fields. Fails with databaseFailures::NotReadable for a view and for a linked
+    /// table.
+    virtual std::unique_ptr<FieldListReader> OpenFields(const QString &file, const QString &table,
+                                                        DatabaseRoad road) = 0;
+    /// Opens a table to read one field. Fails as OpenFields does; an unknown field fails with the first row.
     virtual std::unique_ptr<FieldReader> Read(const QString &file, const QString &table,
                                               const QString &field) = 0;
 };

@@ -6,6 +6,7 @@
 #include "widgets/IsButtonWidget.h"
 #include "widgets/ProgramIcons.h"
 #include "windows/Parts.h"
+#include "windows/WholeText.h"
 
 #include <QScrollArea>
 
@@ -48,10 +49,8 @@ QLabel *MakeHeading()
 QScrollArea *MakeText()
 {
     constexpr int roomForFourLongLines = 136;
-    auto *text = WrappedLabel(u"lblTipText"_s);
+    auto *text = Part<WholeText>(u"lblTipText"_s);
     Enlarge(*text, 1.1, false);
-    text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto *area = new QScrollArea;
     area->setObjectName(u"layoutTip"_s);
     area->setAccessibleName(u"Tip"_s);

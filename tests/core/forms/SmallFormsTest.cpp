@@ -6,6 +6,8 @@
 #include "support/MemoryMachine.h"
 #include "support/Text.h"
 
+#include <QFile>
+
 #include <gtest/gtest.h>
 
 using namespace tressel;
@@ -128,6 +130,30 @@ TEST_F(Tips, AFileThatCannotBeReadCountsAsNone)
     PutTips(QByteArray((4 << 20) + 1, 'x'));
     EXPECT_FALSE(StartedForm().cmdNextTip.IsEnabled());
     EXPECT_TRUE(Shown().startsWith(u"1. If you will"_s));
+}
+
+TEST_F(Tips, ThirtyComeWithTheProgram)
+{
+    QFile file(QString::fromLocal8Bit(TRESSEL_ASSETS "/TIPOFDAY.TXT"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    PutTips(file.readAll());
+    TipForm &form = StartedForm();
+    const QString first = Shown();
+    QStringList seen;
+    do {
+        EXPECT_GT(Shown().size(), 40);
+        EXPECT_TRUE(Shown().endsWith(u'.')) << qPrintable(Shown());
+        seen += Shown();
+        form.cmdNextTip.UserClicks();
+    } while (Shown() != first && seen.size() < 100);
+    EXPECT_EQ(seen.size(), 30);
+}
+
+TEST_F(Tips, ATipIsShownAsItStands)
+{
+    PutTips("  <b>two</b> blanks & a sign\t; no remark  ");
+    StartedForm();
+    EXPECT_EQ(Shown(), u"  <b>two</b> blanks & a sign\t; no remark  "_s);
 }
 
 TEST_F(Tips, TheBoxIsStoredAtOnceAndMirrored)

@@ -67,7 +67,7 @@ protected:
     void AskTable(const QString &table)
     {
         Ask([&] {
-            for (const DatabaseField &field : databases.Fields(path, table, DatabaseRoad::Newer)) {
+            for (const DatabaseField &field : AllFields(databases, path, table)) {
                 if (++asked % 9 == 0)
                     Ask([&] { AllValues(databases, path, table, field.name); });
             }
@@ -176,10 +176,10 @@ TEST_F(JetHostile, TheReaderIsShutIn)
     // It stands still now: it has more to say than a pipe holds.
     ASSERT_TRUE(reader->Next());
     const QByteArray place = "/proc/" + QByteArray::number(Reader());
-    EXPECT_TRUE(Contents(place + "/status").contains("\nSeccomp:\t2\n"));
     EXPECT_EQ(Contents(place + "/environ"), QByteArray());
     const QByteArray limits = Contents(place + "/limits").simplified();
-#if !defined(__SANITIZE_ADDRESS__)
+#if !defined(__SANITIZE_ADDRESS__) // which can live with neither
+    EXPECT_TRUE(Contents(place + "/status").contains("\nSeccomp:\t2\n"));
     EXPECT_TRUE(limits.contains("Max address space 536870912 536870912"));
 #endif
     EXPECT_TRUE(limits.contains("Max cpu time 60 60"));

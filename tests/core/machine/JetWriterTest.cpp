@@ -99,7 +99,7 @@ TEST_F(JetWriterTest, ValuesOfAllTypesComeBack)
 {
     const WrittenTable table = AllTypes();
     const QString file = PutTable(table);
-    const QList<DatabaseField> fields = databases.Fields(file, u"all types"_s, DatabaseRoad::Newer);
+    const QList<DatabaseField> fields = AllFields(databases, file, u"all types"_s);
     ASSERT_EQ(fields.size(), table.columns.size());
     for (qsizetype index = 0; index < fields.size(); ++index) {
         EXPECT_EQ(fields.at(index).name, table.columns.at(index).name);
@@ -164,7 +164,7 @@ TEST_F(JetWriterTest, ATableMayHaveManyLongNames)
     }
     table.rows.append({row});
     const QString file = PutTable(table);
-    EXPECT_EQ(databases.Fields(file, u"T"_s, DatabaseRoad::Newer).size(), 200);
+    EXPECT_EQ(AllFields(databases, file, u"T"_s).size(), 200);
     EXPECT_EQ(AllValues(databases, file, u"T"_s, QString(60, u'n') + u"199"_s),
               QList<DatabaseValue>({std::int64_t{199}}));
 }
@@ -174,7 +174,7 @@ TEST_F(JetWriterTest, NamesKeepAllTheirLetters)
     const QString name = u"Bücher \u65E5\u672C \U0001F4C1"_s;
     const QString file = PutTable({name, {{name}}, {{{name}}}});
     EXPECT_EQ(AllObjects(databases, file).first(), (DatabaseObject{name, DatabaseObjectKind::Table}));
-    EXPECT_EQ(databases.Fields(file, name, DatabaseRoad::Newer).first().name, name);
+    EXPECT_EQ(AllFields(databases, file, name).first().name, name);
     EXPECT_EQ(Texts(file, name, name), QStringList({name}));
 }
 

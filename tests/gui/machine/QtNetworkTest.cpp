@@ -4,11 +4,21 @@
 #include "machine/QtNetwork.h"
 
 #include "gui/GuiTest.h"
+#include "gui/machine/SmallServer.h"
 
-#include <QTcpServer>
-#include <QTcpSocket>
 #include <QTest>
 #include <QTimer>
+
+#include <arpa/inet.h>
+#include <cstring>
+#include <fcntl.h>
+#include <linux/if_tun.h>
+#include <net/if.h>
+#include <sched.h>
+#include <sys/ioctl.h>
+#include <sys/socket.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace tressel;
 using namespace Qt::StringLiterals;
@@ -16,67 +26,61 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// A server on this machine that gives each caller the next of its answers, the last one again and again.
-class SmallServer : public QTcpServer {
+/// What a check says in a network of its own, in which there is nothing but the machine itself. Nothing where
+/// the system makes none.
+std::optional<bool> InNetworkOfItsOwn(const std::function<bool()> &check)
+{
+    constexpr int noNetwork = 2;
+    const pid_t child = fork();
+    if (child == 0) {
+        if (unshare(CLONE_NEWNET) != 0 && unshare(CLONE_NEWUSER | CLONE_NEWNET) != 0)
+            _exit(noNetwork);
+        _exit(check() ? 1 : 0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    if (!WIFEXITED(status) || WEXITSTATUS(status) == noNetwork)
+        return {};
+    return WEXITSTATUS(status) == 1;
+}
+
+/// A port of the machine that leads to whoever holds this; there as long as it lives.
+class Port {
 public:
-    explicit SmallServer(QList<QByteArray> givenAnswers)
-        : answers(std::move(givenAnswers))
+    Port()
     {
-        if (!listen(QHostAddress::LocalHost))
-            qFatal("There is no port to listen on.");
-        connect(this, &QTcpServer::newConnection, this, [this] { Serve(*nextPendingConnection()); });
+        request.ifr_flags = IFF_TUN | IFF_NO_PI;
+        isMade = device >= 0 && ioctl(device, TUNSETIFF, &request) == 0;
     }
-
-    QString Address(const QString &path = u"/download/Tressel5.0.txt"_s) const
+    ~Port()
     {
-        return u"http://127.0.0.1:%1%2"_s.arg(serverPort()).arg(path);
+        close(device);
+        close(control);
     }
+    Port(const Port &) = delete;
+    Port &operator=(const Port &) = delete;
 
-    bool aByteATime = false;
-    QList<QByteArray> answers;
-    QByteArrayList requests; ///< the first line of each
+    bool IsMade() const { return isMade; }
+    bool SetAddress(const char *address)
+    {
+        sockaddr_in place{};
+        place.sin_family = AF_INET;
+        inet_pton(AF_INET, address, &place.sin_addr);
+        std::memcpy(&request.ifr_addr, &place, sizeof place);
+        return ioctl(control, SIOCSIFADDR, &request) == 0;
+    }
+    bool Switch(bool on)
+    {
+        request.ifr_flags = on ? IFF_UP | IFF_RUNNING : 0;
+        return ioctl(control, SIOCSIFFLAGS, &request) == 0;
+    }
 
 private:
-    void Serve(QTcpSocket &socket)
-    {
-        connect(&socket, &QTcpSocket::readyRead, this, [this, &socket] {
-            requests += socket.readLine().trimmed();
-            socket.readAll();
-            const QByteArray answer = answers.size() > 1 ? answers.takeFirst() : answers.first();
-            if (aByteATime)
-                Trickle(socket, answer);
-            else if (!answer.isEmpty())
-                Give(socket, answer);
-        });
-        connect(&socket, &QTcpSocket::disconnected, &socket, &QObject::deleteLater);
-    }
-    static void Give(QTcpSocket &socket, const QByteArray &answer)
-    {
-        socket.write(answer);
-        socket.disconnectFromHost();
-    }
-    static void Trickle(QTcpSocket &socket, const QByteArray &answer)
-    {
-        auto *timer = new QTimer(&socket);
-        connect(timer, &QTimer::timeout, &socket, [&socket, answer, sent = 0]() mutable {
-            socket.write(answer.mid(sent++, 1));
-            socket.flush();
-        });
-        timer->start(10ms);
-    }
+    int device = open("/dev/net/tun", O_RDWR | O_CLOEXEC);
+    int control = socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+    ifreq request{};
+    bool isMade = false;
 };
-
-QByteArray Page(const QByteArray &content)
-{
-    return "HTTP/1.1 200 OK\r\nContent-Type: text/plain\r\nContent-Length: "
-        + QByteArray::number(content.size()) + "\r\nConnection: close\r\n\r\n" + content;
-}
-
-QByteArray Elsewhere(const QString &address)
-{
-    return "HTTP/1.1 302 Found\r\nLocation: " + address.toUtf8()
-        + "\r\nContent-Length: 0\r\nConnection: close\r\n\r\n";
-}
 
 } // namespace
 
@@ -84,6 +88,33 @@ class QtNetworkTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void TheMachineAloneIsOffline()
+    {
+        const auto online = InNetworkOfItsOwn([] { return QtNetwork().IsOnline(); });
+        if (!online)
+            QSKIP("This system makes no network for a test.");
+        QVERIFY(!*online);
+    }
+
+    void APortThatLeadsOutIsOnline()
+    {
+        const auto canBeMade = InNetworkOfItsOwn([] { return Port().IsMade(); });
+        if (!canBeMade.value_or(false))
+            QSKIP("This system makes no network port for a test.");
+        const auto holds = InNetworkOfItsOwn([] {
+            Port port;
+            QtNetwork network;
+            const bool offAtFirst = !network.IsOnline();
+            const bool offWithoutCarrier =
+                port.SetAddress("192.0.2.1") && port.Switch(false) && !network.IsOnline();
+            const bool online = port.Switch(true) && network.IsOnline();
+            // An address that the machine gave itself leads nowhere.
+            const bool offAlone = port.SetAddress("169.254.7.7") && !network.IsOnline();
+            return offAtFirst && offWithoutCarrier && online && offAlone;
+        });
+        QVERIFY(holds.value_or(false));
+    }
+
     void ATextComesAsItIs_data()
     {
         QTest::addColumn<QByteArray>("content");

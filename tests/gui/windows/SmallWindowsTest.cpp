@@ -157,6 +157,48 @@ private Q_SLOTS:
         QVERIFY(stops.contains(u"cmdAbout"_s));
     }
 
+    void AWordThatIsLongerThanALineIsBroken()
+    {
+        DesktopStage stage;
+        QFile tips(stage.Place(u"TIPOFDAY.TXT"_s));
+        QVERIFY(tips.open(QIODevice::WriteOnly));
+        tips.write(QByteArray(2000, 'W') + "\n");
+        tips.close();
+        stage.Put(keys::ShowTips, u"1"_s);
+        stage.Start();
+        auto *area = WindowOf(stage, u"frmTip"_s).findChild<QScrollArea *>();
+        auto &text = PartOf(stage, u"frmTip"_s, u"lblTipText"_s);
+        QCOMPARE(area->horizontalScrollBar()->maximum(), 0);
+        const int lines = text.height() / text.fontMetrics().height();
+        // So many letters need so many lines at the least, and the last one has some of them.
+        QVERIFY(lines >= 2000 * text.fontMetrics().horizontalAdvance(u'W') / text.width());
+        const QImage picture = text.grab().toImage();
+        const QRgb ground = picture.pixel(picture.width() - 1, picture.height() - 1);
+        const auto isWritten = [&](int top) {
+            for (int y = top; y < top + text.fontMetrics().height() && y < picture.height(); ++y) {
+                for (int x = 0; x < picture.width(); ++x) {
+                    if (picture.pixel(x, y) != ground)
+                        return true;
+                }
+            }
+            return false;
+        };
+        QVERIFY(isWritten(0));
+        QVERIFY(isWritten(picture.height() - text.fontMetrics().height()));
+    }
+
+    void TheBuiltInLinesStandEachOnALineOfItsOwn()
+    {
+        DesktopStage stage;
+        stage.Put(keys::ShowTips, u"1"_s);
+        stage.Start();
+        auto &text = PartOf(stage, u"frmTip"_s, u"lblTipText"_s);
+        auto *area = WindowOf(stage, u"frmTip"_s).findChild<QScrollArea *>();
+        QVERIFY(text.heightForWidth(100000) >= 4 * text.fontMetrics().height());
+        QCOMPARE(area->verticalScrollBar()->maximum(), 0);
+        QVERIFY(!PartOf(stage, u"frmTip"_s, u"cmdNextTip"_s).isEnabled());
+    }
+
     void TheNoticeIsReachedByTabAndWorkedByKeyMouseAndAssistiveTechnology()
     {
         DesktopStage stage;

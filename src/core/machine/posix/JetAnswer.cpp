@@ -18,16 +18,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-Failure FailureOfOpening(const QString &file, const NativePath &path, int error)
+Failure FailureOfPath()
+{
+    return Failure(databaseFailures::NoSuchFolder, u"The path is not valid."_s);
+}
+
+Failure FailureOfOpening(const NativePath &path, int error)
 {
     const bool isMissing = error == ENOENT || error == ENOTDIR || error == ENAMETOOLONG;
     if (isMissing && path.NumberOfMissingFile() == FailureNumber::FileNotFound)
-        return Failure(databaseFailures::NoSuchFile, u"Could not find file '%1'."_s.arg(file));
+        return Failure(databaseFailures::NoSuchFile, u"The file could not be found."_s);
     if (isMissing)
-        return Failure(databaseFailures::NoSuchFolder, u"'%1' is not a valid path."_s.arg(file));
+        return FailureOfPath();
     if (error == EACCES || error == EPERM)
-        return Failure(databaseFailures::Refused, u"Could not open '%1'; access is refused."_s.arg(file));
-    return Failure(databaseFailures::Unusable, u"Could not use '%1'; it can't be opened."_s.arg(file));
+        return Failure(databaseFailures::Refused, u"The file can't be opened; access is refused."_s);
+    return Failure(databaseFailures::Unusable, u"The file can't be opened."_s);
 }
 
 /// Only regular files: a folder holds no tables, and a pipe would have to be waited for.
@@ -35,13 +40,13 @@ Descriptor OpenDatabase(const QString &file)
 {
     const NativePath path(file);
     if (path.Problem())
-        throw Failure(databaseFailures::NoSuchFolder, u"'%1' is not a valid path."_s.arg(file));
+        throw FailureOfPath();
     Descriptor opened(openat(path.Folder(), path.Rest(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
     if (!opened.IsOpen())
-        throw FailureOfOpening(file, path, errno);
+        throw FailureOfOpening(path, errno);
     struct stat status = {};
     if (fstat(opened.Number(), &status) != 0 || !S_ISREG(status.st_mode))
-        throw Failure(databaseFailures::Refused, u"Could not open '%1'; it is no file."_s.arg(file));
+        throw Failure(databaseFailures::Refused, u"Only a regular file can be opened."_s);
     return opened;
 }
 
@@ -123,11 +128,14 @@ JetAnswer::JetAnswer(JetQuestion asked, const QByteArray &program, Events &event
 
 std::optional<std::string> JetAnswer::Next(jet::FrameKind kind)
 {
+    if (hasEnded)
+        return {};
     JetProcess::Frame frame = NextFrame();
     if (frame.kind == jet::FrameKind::End) {
         jet::Unpacker unpacker(frame.content);
         if (unpacker.Number64() != count || !unpacker.IsWhole())
             throw Damaged();
+        hasEnded = true;
         return {};
     }
     if (frame.kind != kind)
@@ -155,8 +163,7 @@ JetProcess::Frame JetAnswer::NextFrame()
 
 Failure JetAnswer::Damaged() const
 {
-    return Failure(databaseFailures::Unusable,
-                   u"Could not use '%1'; file already in use or damaged."_s.arg(question.file));
+    return Failure(databaseFailures::Unusable, u"The file is already in use or damaged."_s);
 }
 
 Failure JetAnswer::FailureOf(const std::string &content) const
@@ -164,14 +171,11 @@ Failure JetAnswer::FailureOf(const std::string &content) const
     jet::Unpacker unpacker(content);
     switch (static_cast<jet::FailureCode>(unpacker.Number8())) {
     case jet::FailureCode::UnknownFormat:
-        return Failure(databaseFailures::UnknownFormat,
-                       u"Unrecognized database format '%1'."_s.arg(question.file));
+        return Failure(databaseFailures::UnknownFormat, u"The file has no known database format."_s);
     case jet::FailureCode::Password:
-        return Failure(databaseFailures::Protected,
-                       u"Could not open '%1'; it is protected by a password."_s.arg(question.file));
+        return Failure(databaseFailures::Protected, u"The file is protected by a password."_s);
     case jet::FailureCode::Encrypted:
-        return Failure(databaseFailures::Protected,
-                       u"Could not open '%1'; it is encrypted."_s.arg(question.file));
+        return Failure(databaseFailures::Protected, u"The file is encrypted."_s);
     case jet::FailureCode::NoSuchTable:
         return Failure(databaseFailures::NoSuchTable,
                        u"Could not find the table '%1'."_s.arg(question.table));

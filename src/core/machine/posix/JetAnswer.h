@@ -31,7 +31,8 @@ public:
     JetAnswer(JetQuestion question, const QByteArray &program, Events &events,
               std::chrono::milliseconds patience);
 
-    /// The content of the next frame, which must be of this kind; nothing at the end of the whole answer.
+    /// The content of the next frame, which must be of this kind; nothing from the end of the whole answer
+    /// on.
     std::optional<std::string> Next(jet::FrameKind kind);
     /// Waits for a frame of this kind without content.
     void Expect(jet::FrameKind kind);
@@ -46,6 +47,7 @@ private:
     JetQuestion question;
     JetProcess process;
     quint64 count = 0;
+    bool hasEnded = false;
 };
 
 /// A content as a value. Nothing if it is none.

@@ -62,16 +62,36 @@ bool ComesBefore(const DatabaseObject &one, const DatabaseObject &other)
     return one.name.compare(other.name, Qt::CaseInsensitive) < 0;
 }
 
-class JetObjectReader : public ObjectReader {
+/// Reads an answer. To close it is to end the process that gives it.
+template <typename Reader> class JetReader : public Reader {
 public:
-    explicit JetObjectReader(std::unique_ptr<JetAnswer> opened)
+    explicit JetReader(std::unique_ptr<JetAnswer> opened)
         : answer(std::move(opened))
     {
     }
+    int State() const override { return answer ? 1 : 0; }
+    void Close() override { answer.reset(); }
+
+protected:
+    /// The next frame's content; nothing once the answer is closed or has come to its end.
+    std::optional<std::string> NextContent(jet::FrameKind kind)
+    {
+        return answer ? answer->Next(kind) : std::nullopt;
+    }
+    Failure Damaged() const { return answer->Damaged(); }
+
+private:
+    std::unique_ptr<JetAnswer> answer;
+};
+
+class JetObjectReader : public JetReader<ObjectReader> {
+public:
+    using JetReader::JetReader;
+
     std::optional<DatabaseObject> Next() override
     {
-        if (const auto open = std::exchange(answer, nullptr))
-            ReadAll(*open);
+        if (!std::exchange(isRead, true))
+            ReadAll();
         if (objects.isEmpty())
             return {};
         return objects.takeFirst();
@@ -79,44 +99,54 @@ public:
 
 private:
     /// Files have them in no order.
-    void ReadAll(JetAnswer &open)
+    void ReadAll()
     {
-        while (const auto content = open.Next(jet::FrameKind::Object)) {
+        while (const auto content = NextContent(jet::FrameKind::Object)) {
             const auto object = ObjectFrom(*content);
             if (!object || objects.size() >= mostObjects)
-                throw open.Damaged();
+                throw Damaged();
             objects += *object;
         }
         std::ranges::stable_sort(objects, ComesBefore);
     }
 
-    std::unique_ptr<JetAnswer> answer;
     QList<DatabaseObject> objects;
+    bool isRead = false;
 };
 
-class JetFieldReader : public FieldReader {
+class JetFieldListReader : public JetReader<FieldListReader> {
 public:
-    explicit JetFieldReader(std::unique_ptr<JetAnswer> opened)
-        : answer(std::move(opened))
+    using JetReader::JetReader;
+
+    std::optional<DatabaseField> Next() override
     {
-    }
-    std::optional<DatabaseValue> Next() override
-    {
-        if (!answer)
+        const auto content = NextContent(jet::FrameKind::Field);
+        if (!content)
             return {};
-        const auto content = answer->Next(jet::FrameKind::Value);
-        if (!content) {
-            answer.reset();
-            return {};
-        }
-        auto value = ValueFromFrame(*content);
-        if (!value)
-            throw answer->Damaged();
-        return value;
+        auto field = FieldFrom(*content);
+        if (!field || ++count > mostFields)
+            throw Damaged();
+        return field;
     }
 
 private:
-    std::unique_ptr<JetAnswer> answer;
+    qsizetype count = 0;
+};
+
+class JetFieldReader : public JetReader<FieldReader> {
+public:
+    using JetReader::JetReader;
+
+    std::optional<DatabaseValue> Next() override
+    {
+        const auto content = NextContent(jet::FrameKind::Value);
+        if (!content)
+            return {};
+        auto value = ValueFromFrame(*content);
+        if (!value)
+            throw Damaged();
+        return value;
+    }
 };
 
 } // namespace
@@ -136,17 +166,13 @@ std::unique_ptr<ObjectReader> JetDatabases::OpenSchema(const QString &file, Data
     return std::make_unique<JetObjectReader>(std::move(answer));
 }
 
-QList<DatabaseField> JetDatabases::Fields(const QString &file, const QString &table, DatabaseRoad road)
+std::unique_ptr<FieldListReader> JetDatabases::OpenFields(const QString &file, const QString &table,
+                                                          DatabaseRoad road)
 {
-    JetAnswer answer({jet::FrameKind::AskFields, file, table, {}, road}, program, events, patience);
-    QList<DatabaseField> fields;
-    while (const auto content = answer.Next(jet::FrameKind::Field)) {
-        const auto field = FieldFrom(*content);
-        if (!field || fields.size() >= mostFields)
-            throw answer.Damaged();
-        fields += *field;
-    }
-    return fields;
+    auto answer = std::make_unique<JetAnswer>(JetQuestion{jet::FrameKind::AskFields, file, table, {}, road},
+                                              program, events, patience);
+    answer->Expect(jet::FrameKind::Opened);
+    return std::make_unique<JetFieldListReader>(std::move(answer));
 }
 
 std::unique_ptr<FieldReader> JetDatabases::Read(const QString &file, const QString &table,

@@ -24,7 +24,8 @@ public:
                           std::chrono::milliseconds patience = Patience);
 
     std::unique_ptr<ObjectReader> OpenSchema(const QString &file, DatabaseRoad road) override;
-    QList<DatabaseField> Fields(const QString &file, const QString &table, DatabaseRoad road) override;
+    std::unique_ptr<FieldListReader> OpenFields(const QString &file, const QString &table,
+                                                DatabaseRoad road) override;
     std::unique_ptr<FieldReader> Read(const QString &file, const QString &table,
                                       const QString &field) override;
 

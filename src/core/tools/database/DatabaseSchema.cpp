@@ -14,6 +14,7 @@
 #include "tools/database/FieldTypes.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tressel {
 
@@ -46,7 +47,7 @@ DatabaseSchema::DatabaseSchema(DatabasePage &databasePage, const ToolContext &to
 std::int16_t DatabaseSchema::GetTables(const QString &MdbFile, QString &ConnectionOut, bool Access97,
                                        CheckListBox &List)
 {
-    const std::unique_ptr<ObjectReader> schema = OpenSchema(MdbFile, ConnectionOut, Access97);
+    std::unique_ptr<ObjectReader> schema = OpenSchema(MdbFile, ConnectionOut, Access97);
     std::int16_t count = 0;
     std::optional<Failure> pending;
     try {
@@ -65,6 +66,7 @@ std::int16_t DatabaseSchema::GetTables(const QString &MdbFile, QString &Connecti
     }
     TellTables(count, pending.has_value());
     SetBackColor(List);
+    adoTidy(std::move(schema));
     return count;
 }
 
@@ -107,7 +109,36 @@ void DatabaseSchema::GetFields(const QString &TableName)
 {
     if (Connection.isEmpty() || TableCount == 0)
         return;
-    const std::optional<Failure> pending = ReadFields(TableName);
+    std::unique_ptr<FieldListReader> reader;
+    std::optional<Failure> pending;
+    MakeArrays(1);
+    try {
+        reader = context.machine.databases.OpenFields(databaseFile, TableName, DatabaseRoad::Newer);
+        ReadFields(*reader);
+        AddFieldItems();
+    } catch (const Failure &failure) {
+        pending = failure;
+    }
+    TellFields(TableName, pending);
+    adoTidy(std::move(reader));
+}
+
+void DatabaseSchema::ReadFields(FieldListReader &reader)
+{
+    QList<DatabaseField> fields;
+    while (const auto field = reader.Next())
+        fields += *field;
+    MakeArrays(fields.size());
+    for (qsizetype index = 0; index < fields.size(); ++index) {
+        FieldName[index] = fields.at(index).name;
+        FieldAdoType[index] = fields.at(index).type;
+        FieldSize[index] = std::min(fields.at(index).size, largestSize);
+        EnumerateDataType(index);
+    }
+}
+
+void DatabaseSchema::TellFields(const QString &TableName, const std::optional<Failure> &pending)
+{
     if (pending || FieldName.isEmpty()) {
         MsgBoxErr(u"No Fields GetField("_s + TableName + u')',
                   pending.value_or(Failure(FailureNumber{0}, {})));
@@ -118,27 +149,6 @@ void DatabaseSchema::GetFields(const QString &TableName)
     page.lblTable.SetCaption(QString::number(FieldName.size()) + u" Fields"_s);
     context.machine.events.LetEventsRun();
     SetBackColor(page.Fields);
-}
-
-/// The failure that is left at the end, if there is one.
-std::optional<Failure> DatabaseSchema::ReadFields(const QString &TableName)
-{
-    MakeArrays(1);
-    try {
-        const QList<DatabaseField> fields =
-            context.machine.databases.Fields(databaseFile, TableName, DatabaseRoad::Newer);
-        MakeArrays(fields.size());
-        for (qsizetype index = 0; index < fields.size(); ++index) {
-            FieldName[index] = fields.at(index).name;
-            FieldAdoType[index] = fields.at(index).type;
-            FieldSize[index] = std::min(fields.at(index).size, largestSize);
-            EnumerateDataType(index);
-        }
-        AddFieldItems();
-    } catch (const Failure &failure) {
-        return failure;
-    }
-    return {};
 }
 
 void DatabaseSchema::MakeArrays(qsizetype length)
@@ -207,6 +217,17 @@ void DatabaseSchema::ClearAll()
 void DatabaseSchema::NoteCheckMark(int field)
 {
     Selections.Set(page.Tables.ListIndex(), field, page.Fields.IsChecked(field));
+}
+
+/// Closes what is still open and lets it go. A failure of that is told and nothing more.
+void DatabaseSchema::adoTidy(std::unique_ptr<DatabaseReader> Object)
+{
+    try {
+        if (Object && Object->State() > 0)
+            Object->Close();
+    } catch (const Failure &failure) {
+        MsgBoxErr(u"Error in adoTidy()"_s, failure);
+    }
 }
 
 void DatabaseSchema::MsgBoxErr(const QString &Text, const Failure &pending)

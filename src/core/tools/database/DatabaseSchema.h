@@ -18,6 +18,8 @@ namespace tressel {
 
 class CheckListBox;
 class DatabasePage;
+class DatabaseReader;
+class FieldListReader;
 class ObjectReader;
 
 /// What is known of the open database, and the runs that find it out: its tables in one list of the page, the
@@ -59,10 +61,12 @@ private:
     std::unique_ptr<ObjectReader> OpenSchema(const QString &MdbFile, QString &ConnectionOut, bool Access97);
     void TellTables(std::int16_t count, bool failed);
     void MakeArrays(qsizetype length);
-    std::optional<Failure> ReadFields(const QString &TableName);
+    void ReadFields(FieldListReader &reader);
+    void TellFields(const QString &TableName, const std::optional<Failure> &pending);
     void EnumerateDataType(qsizetype Index);
     QString FormatFieldItem(qsizetype Index) const { return FieldName.at(Index); }
     void AddFieldItems();
+    void adoTidy(std::unique_ptr<DatabaseReader> Object);
     void MsgBoxErr(const QString &Text, const Failure &pending);
 
     DatabasePage &page;

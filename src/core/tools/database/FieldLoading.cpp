@@ -63,6 +63,7 @@ void FieldLoading::LoadFieldToList(QString Table, ListBox &List, const QString &
             if (NoRecordsFlag == u"False"_s)
                 context.machine.dialogs.Show(
                     {u"No Records found!"_s, ApplicationTitle, BoxIcon::Exclamation});
+            reader->Close();
             return;
         }
         const std::int16_t count = ToInt16(static_cast<double>(rows.size()));
@@ -70,6 +71,7 @@ void FieldLoading::LoadFieldToList(QString Table, ListBox &List, const QString &
         const ValueWriter writer{QLocale()};
         for (const DatabaseValue &value : rows)
             List.AddItem(writer.Text(value));
+        reader->Close();
     } catch (const Failure &failure) {
         context.watch.Failed(path, failure);
     }

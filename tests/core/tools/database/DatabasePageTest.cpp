@@ -1,62 +1,14 @@
 // SPDX-FileCopyrightText: The Tressel developers
 // SPDX-License-Identifier: MIT
 
-#include "support/StartedProgram.h"
-#include "support/Text.h"
-
-#include <gtest/gtest.h>
+#include "core/tools/database/DatabaseStage.h"
 
 using namespace tressel;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString shop = u"C:\\Data\\shop.mdb"_s;
-
-DatabaseField TextField(const QString &name)
-{
-    return {name, fieldTypes::Text, 50};
-}
-
-/// The started program beside a database with a few tables.
-class DatabasePageTest : public testing::Test, protected StartedProgram {
-protected:
-    DatabasePageTest()
-    {
-        machine.files.PutFolder(u"C:\\Data"_s);
-        machine.databases.PutTable(shop,
-                                   {u"Goods"_s,
-                                    {TextField(u"Name"_s),
-                                     {u"Price"_s, fieldTypes::Money, 8},
-                                     {u"Notes"_s, fieldTypes::Memo, 536870911},
-                                     {u"Odd"_s, 999, 4}},
-                                    {{u"Chair"_s, MoneyValue{125000}, u"n"_s, std::int64_t{1}},
-                                     {u"Table"_s, MoneyValue{70500}, u"n"_s, std::int64_t{2}}}});
-        machine.databases.PutTexts(shop, u"Towns"_s, u"Town"_s, {u"Oslo"_s, u"Bergen"_s});
-        machine.databases.PutTable(
-            shop, {u"MSysObjects"_s, {TextField(u"Id"_s)}, {}, DatabaseObjectKind::SystemTable});
-        machine.databases.PutTexts(shop, u"msysdata"_s, u"Mine"_s, {});
-        machine.databases.PutTable(shop, {u"A view"_s, {}, {}, DatabaseObjectKind::View});
-    }
-    DatabasePage &Page() { return Form().database; }
-    DatabaseSchema &Schema() { return Page().schema; }
-    void Open(const QString &file)
-    {
-        machine.dialogs.ExpectOpenFile(file);
-        Page().btnGBOpenDatabase.UserClicks();
-    }
-    void Load() { Page().btnGBLoadList.UserClicks(); }
-    const QStringList &Entries() { return Area().LstItem.Items(); }
-    QStringList Marks()
-    {
-        QStringList marked;
-        for (int index = 0; index < Page().Fields.ListCount(); ++index) {
-            if (Page().Fields.IsChecked(index))
-                marked += Page().Fields.Item(index);
-        }
-        return marked;
-    }
-};
+class DatabasePageTest : public DatabaseStage { };
 
 TEST_F(DatabasePageTest, OpensTheProgramsOwnFileAtStart)
 {
@@ -75,8 +27,7 @@ TEST_F(DatabasePageTest, AMissingFileShowsItsBoxesAtEachStart)
 {
     machine.databases.Remove(u"C:\\Tressel\\data.mdb"_s);
     machine.dialogs.ExpectBox(
-        MessageBox{u"Failed to Open C:\\Tressel\\data.mdb\n\nCould not find file 'C:\\Tressel\\data.mdb'."_s,
-                   u"Tressel"_s});
+        MessageBox{u"Failed to Open C:\\Tressel\\data.mdb\n\nThe file could not be found."_s, u"Tressel"_s});
     machine.dialogs.ExpectBox(MessageBox{u"No User tables in database"_s, u"No Tables found!"_s});
     Start();
     EXPECT_EQ(Page().lblstrSQL.Caption(), u"No Tables"_s);
@@ -233,7 +184,7 @@ TEST_F(DatabasePageTest, TheOlderRoadFallsBackOnTheNewerOne)
     Schema().ClearAll();
     QString connection;
     machine.dialogs.ExpectBox(MessageBox{u"Access 97 mode is enabled. (File menu)\n\nFailed to Open "
-                                         "C:\\Data\\shop.mdb\n\nError was: 'C:\\Data\\shop.mdb' has another "
+                                         "C:\\Data\\shop.mdb\n\nError was: The file has another "
                                          "format.\n\nWill try to open in Access 2000 mode."_s,
                                          u"Tressel"_s});
     EXPECT_EQ(Schema().GetTables(shop, connection, true, Page().Tables), 3);
@@ -258,9 +209,9 @@ TEST_F(DatabasePageTest, TheOlderRoadTellsOfBothFailures)
     Schema().ClearAll();
     QString connection;
     machine.dialogs.ExpectBox(u"Access 97 mode is enabled. (File menu)\n\nFailed to Open "
-                              u"C:\\none.mdb\n\nError was: Could not find file "
-                              "'C:\\none.mdb'.\n\nWill try to open in Access 2000 mode."_s);
-    machine.dialogs.ExpectBox(u"Failed to Open C:\\none.mdb\n\nCould not find file 'C:\\none.mdb'."_s);
+                              u"C:\\none.mdb\n\nError was: The file could not be "
+                              "found.\n\nWill try to open in Access 2000 mode."_s);
+    machine.dialogs.ExpectBox(u"Failed to Open C:\\none.mdb\n\nThe file could not be found."_s);
     machine.dialogs.ExpectBox(u"No User tables in database"_s);
     EXPECT_EQ(Schema().GetTables(u"C:\\none.mdb"_s, connection, true, Page().Tables), 0);
 }
@@ -360,126 +311,60 @@ TEST_F(DatabasePageTest, RemembersTheLastThreeFiles)
     EXPECT_EQ(Page().RecentFiles, u"C:\\Data\\b.mdb,C:\\Data\\d.mdb,C:\\Data\\c.mdb"_s);
 }
 
-TEST_F(DatabasePageTest, LoadsAFieldInPlaceOfTheList)
+TEST_F(DatabasePageTest, ATableWithoutFieldsSaysSo)
 {
-    machine.files.PutFile(u"C:\\Tressel\\click.wav"_s, "sound");
-    Start();
-    List({u"old"_s});
-    Open(shop);
-    Page().Fields.UserSelects(0);
-    Load();
-    EXPECT_EQ(Entries(), QStringList({u"Chair"_s, u"Table"_s}));
-    EXPECT_EQ(Status(), u"Finished"_s);
-    EXPECT_EQ(Area().TVList.Nodes().size(), 3);
-    EXPECT_EQ(machine.journal.Count(u"Play"_s), 2);
-}
-
-TEST_F(DatabasePageTest, NumbersBecomeText)
-{
+    machine.databases.PutTable(shop, {u"Bare"_s, {}, {}});
     Start();
     Open(shop);
-    Page().Fields.UserSelects(1);
-    Load();
-    EXPECT_EQ(Entries(), QStringList({u"12.5"_s, u"7.05"_s}));
+    machine.dialogs.ExpectBox(
+        MessageBox{u"No Fields GetField(Bare)\n\nError Number: 0\nError Message: "_s, u" Program Error!"_s});
+    Page().Tables.UserSelects(3);
+    EXPECT_EQ(Page().lblTable.Caption(), u"No Fields"_s);
+    EXPECT_EQ(Page().Fields.BackColor(), 0x8000000FU);
 }
 
-TEST_F(DatabasePageTest, ANullEndsTheLoadWithoutAWord)
-{
-    QList<QList<DatabaseValue>> rows;
-    for (int number = 1; number <= 7; ++number)
-        rows.append({number == 5 ? DatabaseValue() : DatabaseValue(QString::number(number))});
-    machine.databases.PutTable(u"C:\\Data\\null.mdb"_s, {u"T"_s, {TextField(u"F"_s)}, rows});
-    Start();
-    Open(u"C:\\Data\\null.mdb"_s);
-    Page().Fields.UserSelects(0);
-    Load();
-    EXPECT_EQ(Entries(), QStringList({u"1"_s, u"2"_s, u"3"_s, u"4"_s}));
-    EXPECT_EQ(Status(), u"Finished"_s);
-}
-
-TEST_F(DatabasePageTest, WhatCannotBecomeTextEndsTheLoadLikeANull)
-{
-    machine.databases.PutTable(
-        u"C:\\Data\\ole.mdb"_s,
-        {u"T"_s, {{u"F"_s, fieldTypes::Ole, 0}}, {{u"a"_s}, {BinaryValue()}, {u"b"_s}}});
-    Start();
-    Open(u"C:\\Data\\ole.mdb"_s);
-    Page().Fields.UserSelects(0);
-    Load();
-    EXPECT_EQ(Entries(), QStringList({u"a"_s}));
-}
-
-TEST_F(DatabasePageTest, AnEmptyTableEmptiesTheList)
-{
-    machine.databases.PutTexts(u"C:\\Data\\none.mdb"_s, u"T"_s, u"F"_s, {});
-    Start();
-    Open(u"C:\\Data\\none.mdb"_s);
-    for (const QString &flag : {u""_s, u"True"_s}) {
-        List({u"old"_s});
-        Page().loading.NoRecordsFlag = flag;
-        Load();
-        EXPECT_EQ(Entries(), QStringList());
-        EXPECT_EQ(Status(), u"Finished"_s);
-    }
-    Page().loading.NoRecordsFlag = u"False"_s;
-    machine.dialogs.ExpectBox(MessageBox{u"No Records found!"_s, u"Tressel"_s, BoxIcon::Exclamation});
-    Load();
-}
-
-TEST_F(DatabasePageTest, MoreRowsThanCanBeCountedLeaveAnEmptyList)
-{
-    const QList<DatabaseValue> row{DatabaseValue(u"x"_s)};
-    for (const int count : {32767, 32768}) {
-        const QString file = u"C:\\Data\\%1.mdb"_s.arg(count);
-        machine.databases.PutTable(file,
-                                   {u"T"_s, {TextField(u"F"_s)}, QList<QList<DatabaseValue>>(count, row)});
-    }
-    Start();
-    Open(u"C:\\Data\\32767.mdb"_s);
-    Page().Fields.UserSelects(0);
-    Load();
-    EXPECT_EQ(Entries().size(), 32767);
-    Open(u"C:\\Data\\32768.mdb"_s);
-    Page().Fields.UserSelects(0);
-    Load();
-    EXPECT_EQ(Entries().size(), 0);
-    EXPECT_EQ(Status(), u"Finished"_s);
-}
-
-TEST_F(DatabasePageTest, ATableThatCannotBeOpenedLeavesTheListAsItWas)
+TEST_F(DatabasePageTest, ClosesWhatItOpened)
 {
     Start();
-    List({u"old"_s});
+    machine.journal.Clear();
     Open(shop);
-    Page().txtDatabaseFile.SetText(u"C:\\wrong.mdb"_s);
-    Load();
-    EXPECT_EQ(Entries(), QStringList({u"old"_s}));
-    EXPECT_EQ(Status(), u"Finished"_s);
-    // No table selected.
-    Page().txtDatabaseFile.SetText(shop);
-    Page().Tables.SetListIndex(-1);
-    Load();
-    EXPECT_EQ(Entries(), QStringList({u"old"_s}));
-}
-
-TEST_F(DatabasePageTest, WithoutAFieldTheListIsEmpty)
-{
-    Start();
-    List({u"old"_s});
-    Open(shop);
-    Load();
-    EXPECT_EQ(Entries(), QStringList());
-}
-
-TEST_F(DatabasePageTest, ADamagedRowLeavesAnEmptyList)
-{
-    Start();
-    List({u"old"_s});
-    Open(shop);
+    // The list of tables, and the fields of the first one.
+    EXPECT_EQ(machine.journal.Count(u"OpenSchema"_s), 1);
+    EXPECT_EQ(machine.journal.Count(u"ListFields"_s), 1);
+    EXPECT_EQ(machine.journal.Count(u"CloseDatabase"_s), 2);
     Page().Fields.UserSelects(0);
-    machine.databases.OrderFailure(u"NextValue"_s, 2, Failure(databaseFailures::Unusable));
     Load();
-    EXPECT_EQ(Entries(), QStringList());
+    EXPECT_EQ(machine.journal.Count(u"CloseDatabase"_s), 3);
+}
+
+TEST_F(DatabasePageTest, AFileThatCannotBeClosedIsTold)
+{
+    Start();
+    const MessageBox told{u"Error in adoTidy()\n\nError Number: 57\nError Message: Device I/O error"_s,
+                          u" Program Error!"_s};
+    machine.databases.OrderFailure(u"Close"_s, 1, Failure(FailureNumber::DeviceIoError));
+    machine.dialogs.ExpectOpenFile(shop);
+    machine.dialogs.ExpectBox(told);
+    Page().btnGBOpenDatabase.UserClicks();
+    // All was read by then.
+    EXPECT_EQ(Page().lblstrSQL.Caption(), u"3 Table(s)"_s);
+    EXPECT_EQ(Page().Fields.ListCount(), 4);
+    machine.databases.OrderFailure(u"Close"_s, 1, Failure(FailureNumber::DeviceIoError));
+    machine.dialogs.ExpectBox(told);
+    Page().Tables.UserSelects(1);
+    EXPECT_EQ(Page().lblTable.Caption(), u"1 Fields"_s);
+}
+
+TEST_F(DatabasePageTest, AFileThatCouldNotBeOpenedIsNotClosed)
+{
+    Start();
+    machine.journal.Clear();
+    machine.databases.OrderFailure(u"OpenSchema"_s, 1, Failure(databaseFailures::Unusable, u"No."_s));
+    machine.dialogs.ExpectOpenFile(shop);
+    machine.dialogs.ExpectBox(u"Failed to Open C:\\Data\\shop.mdb\n\nNo."_s);
+    machine.dialogs.ExpectBox(u"No User tables in database"_s);
+    Page().btnGBOpenDatabase.UserClicks();
+    EXPECT_EQ(machine.journal.Count(u"CloseDatabase"_s), 0);
 }
 
 } // namespace
