@@ -99,9 +99,10 @@ NoticeBox::NoticeBox(QWidget *parent)
 
 void NoticeBox::SetLabel(QLabel *text)
 {
+    constexpr int behindTheText = 3; // the form's 50 twips
     label = text;
     auto *row = Row(0);
-    row->setContentsMargins(gapSmall, 0, gapSmall, 0);
+    row->setContentsMargins(0, 0, behindTheText, 0);
     row->addWidget(label);
     // The whole text shows however long the status line is, and one line of it however many it has.
     label->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);

@@ -31,12 +31,26 @@ void LogoPicture::hideEvent(QHideEvent *event)
     QWidget::hideEvent(event);
 }
 
+/// The picture's ink is dark: a dark window has a light tile behind it.
+void LogoPicture::PaintGround(QPainter &painter) const
+{
+    constexpr int brightMiddle = 128;
+    constexpr int roundness = 10;
+    if (palette().color(QPalette::Window).lightness() >= brightMiddle)
+        return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0xF5, 0xF5, 0xF5));
+    painter.drawRoundedRect(rect(), roundness, roundness);
+}
+
 void LogoPicture::paintEvent(QPaintEvent *)
 {
-    constexpr int edge = 4;
-    constexpr int pressedEdge = 9;
+    constexpr int edge = 6;
+    constexpr int pressedEdge = 11;
     const int around = pressed ? pressedEdge : edge;
     QPainter painter(this);
+    PaintGround(painter);
     ProgramIcon(QStringLiteral("tressel"))
         .paint(&painter, rect().adjusted(around, around, -around, -around), Qt::AlignCenter);
 }

@@ -7,7 +7,7 @@
 
 namespace tressel {
 
-/// One state of the logo: the program's picture, or the same pressed in.
+/// The program's picture, also in the state that shows it pressed in.
 class LogoPicture : public QWidget {
 public:
     LogoPicture(const QString &name, bool isPressed);
@@ -20,6 +20,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void PaintGround(QPainter &painter) const;
+
     const bool pressed;
 };
 

@@ -4,7 +4,7 @@
 #include "windows/TipWindow.h"
 
 #include "widgets/IsButtonWidget.h"
-#include "widgets/ProgramIcons.h"
+#include "windows/LogoPicture.h"
 #include "windows/Parts.h"
 #include "windows/WholeText.h"
 
@@ -18,10 +18,8 @@ namespace {
 
 QWidget *MakePicture()
 {
-    constexpr int pictureSize = 64;
-    auto *image = Part<QLabel>(u"Image1"_s);
-    image->setPixmap(
-        ProgramIcon(u"tressel"_s).pixmap(QSize(pictureSize, pictureSize), image->devicePixelRatioF()));
+    auto *image = new LogoPicture(u"Image1"_s, false);
+    image->setFixedSize(LogoPicture::extent);
     auto *column = Column(0);
     column->addWidget(image);
     column->addStretch();

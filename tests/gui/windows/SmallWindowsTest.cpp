@@ -48,6 +48,21 @@ QStringList StopsIn(QWidget &window)
     return stops;
 }
 
+/// Names of what the tab key itself comes to, each once, from what has the keyboard on.
+QStringList WalkWithTab(QWidget &window)
+{
+    QStringList names;
+    for (int step = 0; step < 50; ++step) {
+        QTest::keyClick(window.focusWidget() ? window.focusWidget() : &window, Qt::Key_Tab);
+        const QString name = window.focusWidget()->objectName();
+        if (names.contains(name))
+            break;
+        names += name;
+    }
+    names.sort();
+    return names;
+}
+
 void StartWithAbout(DesktopStage &stage)
 {
     stage.Start();
@@ -97,6 +112,41 @@ private Q_SLOTS:
         QVERIFY2(!stops.join(u' ').contains(u'?'), qPrintable(stops.join(u' ')));
     }
 
+    void TheTabKeyWalksThroughBothWindows()
+    {
+        DesktopStage stage;
+        stage.Put(keys::ShowTips, u"1"_s);
+        QVERIFY(QFile::copy(QString::fromLocal8Bit(TRESSEL_ASSETS "/TIPOFDAY.TXT"),
+                            stage.Place(u"TIPOFDAY.TXT"_s)));
+        stage.Start();
+        QWidget &tip = WindowOf(stage, u"frmTip"_s);
+        QVERIFY(QTest::qWaitForWindowActive(&tip));
+        QCOMPARE(WalkWithTab(tip),
+                 QStringList({u"chkLoadTipsAtStartup"_s, u"cmdAbout"_s, u"cmdNextTip"_s, u"cmdOK"_s,
+                              u"layoutTip"_s}));
+        QVERIFY2(!StopsIn(tip).join(u' ').contains(u'?'), qPrintable(StopsIn(tip).join(u' ')));
+        PartOf(stage, u"frmTip"_s, u"cmdAbout"_s).setFocus();
+        QTest::keyClick(tip.focusWidget(), Qt::Key_Space);
+        stage.Settle();
+        QWidget &about = WindowOf(stage, u"frmAbout"_s);
+        QVERIFY(QTest::qWaitForWindowActive(&about));
+        QCOMPARE(WalkWithTab(about),
+                 QStringList(
+                     {u"Text1"_s, u"btnGBOK"_s, u"chkLoadTipsAtStartup"_s, u"lblEMail"_s, u"lblHomePage"_s}));
+    }
+
+    void TheTipWindowsOwnCloseBoxShowsTheMainWindowToo()
+    {
+        DesktopStage stage;
+        stage.Put(keys::ShowTips, u"1"_s);
+        stage.Start();
+        QWidget &tip = WindowOf(stage, u"frmTip"_s);
+        tip.close();
+        stage.Settle();
+        QVERIFY(!tip.isVisible());
+        QVERIFY(stage.Window().isVisible());
+    }
+
     void AnAddressIsALinkThatEnterAndAssistiveTechnologyWork()
     {
         DesktopStage stage;
@@ -133,6 +183,22 @@ private Q_SLOTS:
         QTest::mouseRelease(window, Qt::LeftButton, {}, middle);
         stage.Settle();
         QVERIFY(logo.isVisible() && !pressed.isVisible());
+    }
+
+    void ThePictureHasALightTileOnADarkDesktop()
+    {
+        const QPalette before = QApplication::palette();
+        for (const bool isDark : {false, true}) {
+            if (isDark)
+                QApplication::setPalette(QPalette(QColor(60, 60, 64), QColor(45, 45, 48)));
+            DesktopStage stage;
+            stage.Put(keys::ShowTips, u"1"_s);
+            stage.Start();
+            const QImage picture = PartOf(stage, u"frmTip"_s, u"Image1"_s).grab().toImage();
+            const QColor ground = picture.pixelColor(2, picture.height() / 2);
+            QCOMPARE(ground, isDark ? QColor(0xF5, 0xF5, 0xF5) : before.color(QPalette::Window));
+        }
+        QApplication::setPalette(before);
     }
 
     void ALongTipScrollsAndIsNeverCut()

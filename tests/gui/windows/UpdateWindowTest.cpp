@@ -113,7 +113,7 @@ private Q_SLOTS:
             QTRY_COMPARE(stage.server.requests.size(), 1);
             stage.Settle();
             QVERIFY(!stage.Notice().isVisible());
-            QCOMPARE(stage.Face<QLabel>(u"lblStatusLine"_s).text(), u"Ready"_s);
+            QCOMPARE(stage.Face<QLabel>(u"lblStatusLine"_s).text(), u"Finished"_s);
         }
     }
 
@@ -148,7 +148,7 @@ private Q_SLOTS:
         stage.Settle();
         QTRY_COMPARE(stage.Opened(), QStringList(stage.Page()));
         QVERIFY(stage.Notice().isVisible());
-        QCOMPARE(stage.Face<QLabel>(u"lblStatusLine"_s).text(), u"Ready"_s);
+        QCOMPARE(stage.Face<QLabel>(u"lblStatusLine"_s).text(), u"Finished"_s);
     }
 
     void TheNewsOfASecondActivationReplaceTheFirstOnes()

@@ -5,7 +5,10 @@
 
 #include "base/Numbers.h"
 #include "base/Steps.h"
+#include "base/Version.h"
+#include "machine/Dialogs.h"
 #include "machine/FileSystem.h"
+#include "machine/Paths.h"
 #include "settings/Settings.h"
 #include "tools/ClickSound.h"
 #include "tools/WorkArea.h"
@@ -106,7 +109,7 @@ void DatabasePage::btnGBOpenDatabase_Click()
     try {
         QString none;
         schema.Selections.LoadSaveSelects(none, false);
-        const QString file = GetMdbFileName(OpenDBPath);
+        const QString file = FileToOpen();
         if (file.isEmpty())
             return;
         schema.TableCount = schema.GetTables(file, schema.Connection, false, Tables);
@@ -116,6 +119,21 @@ void DatabasePage::btnGBOpenDatabase_Click()
     } catch (const Failure &) {
         // Whatever it was, it ends the click and nothing else.
     }
+}
+
+/// Empty if there is nothing to open.
+QString DatabasePage::FileToOpen()
+{
+    if (!OpensPresetFile)
+        return GetMdbFileName(OpenDBPath);
+    const QString file = txtDatabaseFile.Text();
+    if (!FileExists(context.machine.files, file)) {
+        context.machine.dialogs.Show({u"File "_s + file + u" not Found!"_s, ApplicationTitle});
+        RecentFiles = UpdateDelimitedList(RecentFiles, file, u","_s, 3, true);
+        return {};
+    }
+    schema.ClearAll();
+    return file;
 }
 
 QString DatabasePage::GetMdbFileName(const QString &StartDir)

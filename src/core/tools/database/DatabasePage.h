@@ -47,10 +47,12 @@ public:
 
     QString OpenDBPath; ///< where the dialog opens, kept from session to session
     QString RecentFiles; ///< the files opened last, with "," between them
+    bool OpensPresetFile = false; ///< kept: nothing ever sets it; the file in its text box is opened unasked
 
 private:
     void btnGBOpenDatabase_Click();
     void btnGBLoadList_Click();
+    QString FileToOpen();
     QString GetMdbFileName(const QString &StartDir);
     void SelectTable(const QString &file);
 

@@ -311,6 +311,23 @@ TEST_F(DatabasePageTest, RemembersTheLastThreeFiles)
     EXPECT_EQ(Page().RecentFiles, u"C:\\Data\\b.mdb,C:\\Data\\d.mdb,C:\\Data\\c.mdb"_s);
 }
 
+TEST_F(DatabasePageTest, APresetFileIsOpenedUnasked)
+{
+    machine.files.PutFile(shop, "a database");
+    Start();
+    Page().OpensPresetFile = true;
+    Page().txtDatabaseFile.SetText(shop);
+    Page().btnGBOpenDatabase.UserClicks();
+    EXPECT_EQ(Page().Tables.Items(), QStringList({u"Goods"_s, u"Towns"_s, u"A view"_s}));
+    EXPECT_EQ(Page().RecentFiles, shop);
+    // One that has gone is no recent file any more.
+    machine.files.RemoveFile(shop);
+    machine.dialogs.ExpectBox(MessageBox{u"File C:\\Data\\shop.mdb not Found!"_s, u"Tressel"_s});
+    Page().btnGBOpenDatabase.UserClicks();
+    EXPECT_EQ(Page().RecentFiles, QString());
+    EXPECT_EQ(Page().Tables.ListCount(), 3);
+}
+
 TEST_F(DatabasePageTest, ATableWithoutFieldsSaysSo)
 {
     machine.databases.PutTable(shop, {u"Bare"_s, {}, {}});
