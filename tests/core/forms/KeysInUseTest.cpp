@@ -3,13 +3,11 @@
 
 #include "forms/AboutForm.h"
 #include "forms/Application.h"
-#include "forms/InformationPage.h"
 #include "forms/MainForm.h"
 #include "forms/OptionForm.h"
 #include "support/MemoryMachine.h"
 #include "support/StoredKeys.h"
 #include "support/Text.h"
-#include "support/ToolBench.h"
 
 #include <gtest/gtest.h>
 #include <set>
@@ -40,7 +38,6 @@ protected:
         UseOptions();
         UseColours();
         UsePages();
-        ReadFacts();
         application.frmAbout().Show();
         application.frmAbout().Unload();
         EXPECT_THROW(application.frmMain().btnGBToolbarExit.UserClicks(), ProcessEnded);
@@ -81,14 +78,6 @@ protected:
         form.rename.optReplacePreset.Select(RenamePage::None);
         form.rename.txtReplaceFrom.SetText(u"x"_s);
         form.rename.optReplacePreset.Select(RenamePage::MP3);
-    }
-
-    void ReadFacts()
-    {
-        ToolBench bench(machine.machine);
-        Form window(u"frmFacts"_s);
-        InformationPage facts(window, bench.program);
-        facts.FillSystemInfo();
     }
 
     /// Kept: the first palette is stored, and nothing reads it.
