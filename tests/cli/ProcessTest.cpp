@@ -282,6 +282,16 @@ TEST_F(Process, ReportThatIsEndedLeavesNothingInTheWayOfTheNextOne)
     EXPECT_NE(Contents(folder / "r.txt").find("/w/2999\r\n"), std::string::npos);
 }
 
+TEST_F(Process, ReportGoesWhereItsOutputSaysAndListsNoOutput)
+{
+    workingFolder = folder / "w";
+    const std::string live = (folder / "w/Live").string();
+    EXPECT_EQ(RunCli({"report", "--names-only", "Live", "--output", "-"}).out, " \n" + live + "\n \n");
+    EXPECT_EQ(Below("w"), std::set<std::string>{"Live"});
+    EXPECT_EQ(RunCli({"report", "--names-only", "Live", "--output", "Live/r.txt"}).status, 0);
+    EXPECT_EQ(Contents(folder / "w/Live/r.txt"), " \r\n" + live + "\r\n \r\n");
+}
+
 TEST_F(Process, NulsTellALineBreakInANameFromTwoNames)
 {
     Put("w/Live/a\nb", "");

@@ -117,6 +117,18 @@ private Q_SLOTS:
         QVERIFY2(told.contains(QFile::encodeName(program.Folder())), told.constData());
     }
 
+    void AWindowThatFillsItsScreenKeepsTheOldPlace()
+    {
+        DesktopStage stage;
+        stage.Start();
+        stage.Window().showFullScreen();
+        stage.Settle();
+        QVERIFY_THROWS_EXCEPTION(ProcessEnded, stage.Form().btnGBToolbarExit.UserClicks());
+        const Settings &settings = stage.desktop->application.settings;
+        QCOMPARE(settings.ReadText(keys::MainWidth), u"8120"_s);
+        QCOMPARE(settings.ReadText(keys::FilePath), stage.Form().area.txtStrtPath.Text());
+    }
+
     void TheUserIsToldWhatCouldNotBeSaved()
     {
         DesktopStage stage;

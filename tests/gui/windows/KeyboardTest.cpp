@@ -90,6 +90,27 @@ private Q_SLOTS:
         QCOMPARE(box.currentText(), before);
     }
 
+    void AWheelLeavesTheNumbersOfTheSeries()
+    {
+        DesktopStage stage;
+        stage.Put(keys::ToDir, u"120"_s);
+        stage.Put(keys::FromDir, u"7"_s);
+        stage.Put(keys::IndxBar, u"3"_s);
+        stage.Start();
+        stage.Face<QLineEdit>(u"txtStrtPath"_s).setFocus();
+        for (const QString &name : {u"cboFrom"_s, u"cboTo"_s, u"DrvBox"_s}) {
+            auto &box = stage.Face<QComboBox>(name);
+            const QString before = box.currentText();
+            for (const int steps : {-1, 1, -3})
+                TurnWheel(box, steps);
+            stage.Settle();
+            QCOMPARE(box.currentText(), before);
+            QVERIFY(!box.hasFocus());
+        }
+        QCOMPARE(stage.Form().numbered.cboTo.Text(), u"120"_s);
+        QCOMPARE(stage.Form().numbered.cboFrom.Text(), u"7"_s);
+    }
+
     void ArrowKeysStartFromTheText_data()
     {
         QTest::addColumn<QString>("text");

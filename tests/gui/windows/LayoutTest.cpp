@@ -7,7 +7,9 @@
 #include "widgets/IsButtonWidget.h"
 #include "widgets/SideBarWidget.h"
 
+#include <QAccessible>
 #include <QCheckBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -15,6 +17,7 @@
 #include <QRadioButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStyleOptionGroupBox>
 #include <QTreeView>
 
 using namespace tressel;
@@ -41,6 +44,18 @@ bool IsSeenWhole(const QWidget &widget)
             return false;
     }
     return widget.isVisible();
+}
+
+/// Where a group's title begins, from the left of the group.
+int TitleLeft(const QGroupBox &group)
+{
+    QStyleOptionGroupBox option;
+    option.initFrom(&group);
+    option.text = group.title();
+    option.lineWidth = 1;
+    option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
+    option.textAlignment = Qt::AlignLeft;
+    return group.style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, &group).x();
 }
 
 /// Run buttons and progress bars of each entry's page.
@@ -364,6 +379,52 @@ private Q_SLOTS:
         QTest::mouseRelease(window, Qt::LeftButton, {}, start + QPoint(30, 0));
         stage.Settle();
         QCOMPARE(stage.Form().PicStrip.Left(), before + 30 * 15);
+    }
+
+    void TheGroupsOfAPageStandInOneLine()
+    {
+        DesktopStage stage;
+        stage.Start();
+        stage.OpenEntry(4);
+        QSet<int> lefts;
+        QSet<int> rights;
+        QSet<int> contents;
+        QSet<int> titles;
+        for (const QString &name : {u"Frame1"_s, u"fraEst"_s, u"Frame2"_s, u"fraStats"_s}) {
+            auto &group = stage.Face<QGroupBox>(name);
+            lefts += group.x();
+            rights += group.geometry().right();
+            int left = group.width();
+            for (const QWidget *part : group.findChildren<QWidget *>(Qt::FindDirectChildrenOnly)) {
+                if (part->isVisible())
+                    left = std::min(left, part->x());
+            }
+            contents += left;
+            titles += TitleLeft(group);
+        }
+        QCOMPARE(lefts.size(), 1);
+        QCOMPARE(rights.size(), 1);
+        QCOMPARE(contents.size(), 1);
+        QCOMPARE(titles.size(), 1);
+        // Titles begin where the boxes do.
+        const int title = *titles.begin();
+        QVERIFY2(title >= 0 && title <= 1, qPrintable(QString::number(title)));
+    }
+
+    void IdleBarsReadNothing()
+    {
+        DesktopStage stage;
+        stage.Start();
+        for (int entry = 1; entry <= entryCount; ++entry) {
+            stage.OpenEntry(entry);
+            for (const QString &name : Foot(entry)) {
+                if (const auto *bar = stage.Window().findChild<QProgressBar *>(name))
+                    QVERIFY2(!bar->isTextVisible(), qPrintable(name));
+                auto *own = stage.Window().findChild<CtlProgressWidget *>(name);
+                if (own)
+                    QCOMPARE(QAccessible::queryAccessibleInterface(own)->text(QAccessible::Value), QString());
+            }
+        }
     }
 
     void ShortNumbersAreNotDrawnAcrossAWidePage()
