@@ -49,6 +49,16 @@ TEST_F(Process, WorkingFolderBehindALinkIsTheRealOne)
     EXPECT_TRUE(fs::exists(folder / "w/made/a"));
 }
 
+TEST_F(Process, ASeriesBesideTheWorkingFolderGoesAndTheFolderStays)
+{
+    fs::create_directories(folder / "w/a");
+    fs::create_directories(folder / "w/b/Disk1");
+    workingFolder = folder / "w/a";
+    EXPECT_EQ(RunCli({"series", "delete", "--in", "../b", "--base", "Disk", "--from", "1", "--to", "2"}).out,
+              "removed 2, kept 0, not there 1, failed 0\n");
+    EXPECT_EQ(Below("w"), (std::set<std::string>{"Live", "a"}));
+}
+
 TEST_F(Process, EveryCommandGoesThroughALinkBeforeItGoesUp)
 {
     workingFolder = folder / "w/Live";

@@ -74,8 +74,11 @@ private Q_SLOTS:
         QFETCH(QString, list);
         QFETCH(QString, drives);
         DesktopStage stage;
-        for (const KeyEntry *key : {&keys::LastDBPath, &keys::LastNumPath, &keys::SearchPath})
-            stage.Put(*key, stage.Place(u"gone/far"_s));
+        // Its own folder alone: one that an earlier page misses is another case.
+        const KeyEntry &key = entry == 1 ? keys::LastDBPath
+            : entry == 3                 ? keys::LastNumPath
+                                         : keys::SearchPath;
+        stage.Put(key, stage.Place(u"gone/far"_s));
         stage.Put(keys::IndxBar, QString::number(entry));
         stage.Start();
         auto &view = stage.Face<QListView>(list);
