@@ -143,7 +143,7 @@ private Q_SLOTS:
         QCOMPARE(inserted.count(), 1);
         QCOMPARE(reset.count(), 0);
         QCOMPARE(bound.updates.Count(), flushesBefore + 1);
-        QVERIFY(view.verticalScrollBar()->maximum() > 0);
+        QTRY_VERIFY(view.verticalScrollBar()->maximum() > 0);
     }
 
     void ScrollPlaceOutlivesARemoval()

@@ -4,6 +4,7 @@
 // The database page in its window, from a file on the disc to the folders that its rows become.
 
 #include "DesktopStage.h"
+#include "gui/FileContents.h"
 #include "gui/GuiTest.h"
 #include "gui/WhenUp.h"
 #include "support/JetWriter.h"
@@ -25,13 +26,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int databaseEntry = 5;
-
-void WriteFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("There is no room for a file.");
-}
 
 QStringList Rows(const QListView &list)
 {
@@ -65,7 +59,7 @@ class DatabaseWindow : public DesktopStage {
 public:
     DatabaseWindow()
     {
-        WriteFile(Place(u"names.mdb"_s), SampleDatabase());
+        QVERIFY(WriteFile(Place(u"names.mdb"_s), SampleDatabase()));
         Put(keys::IndxBar, QString::number(databaseEntry));
         Put(keys::FileExt, u"0"_s);
         Put(keys::OpenDBPath, Place({}));
@@ -229,7 +223,7 @@ private Q_SLOTS:
         for (int number = 0; number < 30000; ++number)
             table.rows.append({{QString::number(number)}});
         writer.AddTable(table);
-        WriteFile(stage.Place(u"long.mdb"_s), writer.Bytes());
+        QVERIFY(WriteFile(stage.Place(u"long.mdb"_s), writer.Bytes()));
         stage.Put(keys::DatabaseFile, stage.Place(u"long.mdb"_s));
         stage.Start();
         ClickRow(stage.Fields(), u"F"_s);

@@ -223,7 +223,8 @@ private Q_SLOTS:
         QTest::newRow("splitter") << 4 << QStringList{u"cboFileName"_s,     u"btnBrowse"_s,
                                                       u"optSplit(0)"_s,     u"cmbSplitSize"_s,
                                                       u"chkCopyToFloppy"_s, u"chkOpenExplorer"_s,
-                                                      u"chkDeleteParts"_s};
+                                                      u"chkDeleteParts"_s,  u"btnGBSplitFile"_s,
+                                                      u"btnGBJoinFile"_s};
         QTest::newRow("database") << 5
                                   << QStringList{u"txtDatabaseFile"_s, u"btnGBOpenDatabase"_s,
                                                  u"ListBox(0)"_s, u"ListBox(1)"_s, u"btnGBLoadList"_s};

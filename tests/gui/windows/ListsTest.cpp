@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "DesktopStage.h"
+#include "gui/FileContents.h"
 #include "gui/GuiTest.h"
 #include "gui/WhenUp.h"
 #include "support/FullDisc.h"
@@ -26,13 +27,6 @@ using namespace tressel;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-void WriteFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
-}
 
 /// Types a path into the next file dialog.
 void WillType(const QString &path)
@@ -162,7 +156,8 @@ private Q_SLOTS:
         stage.Put(keys::IndxBar, u"2"_s);
         stage.Put(keys::FileExt, u"0"_s);
         stage.Start();
-        WriteFile(stage.Place(u"wide.txt"_s), QByteArray("\xFF\xFE\xC9\0t\0\r\0\n\0b\0\r\0\n\0", 16));
+        QVERIFY(
+            WriteFile(stage.Place(u"wide.txt"_s), QByteArray("\xFF\xFE\xC9\0t\0\r\0\n\0b\0\r\0\n\0", 16)));
         WillType(stage.Place(u"wide.txt"_s));
         QTest::mouseClick(&stage.Face<IsButtonWidget>(u"btnGBLoadFile"_s), Qt::LeftButton);
         stage.Settle();
@@ -175,8 +170,8 @@ private Q_SLOTS:
         stage.Put(keys::IndxBar, u"2"_s);
         stage.Put(keys::FileExt, u"0"_s);
         stage.Start();
-        WriteFile(stage.Place(u"names"_s), "own\n");
-        WriteFile(stage.Place(u"names.txt"_s), "another\n");
+        QVERIFY(WriteFile(stage.Place(u"names"_s), "own\n"));
+        QVERIFY(WriteFile(stage.Place(u"names.txt"_s), "another\n"));
         WillType(stage.Place(u"names"_s));
         QTest::mouseClick(&stage.Face<IsButtonWidget>(u"btnGBLoadFile"_s), Qt::LeftButton);
         stage.Settle();
@@ -187,7 +182,7 @@ private Q_SLOTS:
     {
         DesktopStage stage;
         const QString list = stage.Place(u"names.txt"_s);
-        WriteFile(list, "old\n");
+        QVERIFY(WriteFile(list, "old\n"));
         QCOMPARE(link(QFile::encodeName(list).constData(),
                       QFile::encodeName(stage.Place(u"other name"_s)).constData()),
                  0);
