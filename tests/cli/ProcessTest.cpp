@@ -87,7 +87,8 @@ TEST_F(Process, EveryCommandGoesThroughALinkBeforeItGoesUp)
             words.emplace_back("--dry-run");
         EXPECT_EQ(RunCli(words).out, action) << words.front();
     }
-    // The message names the file as it was typed, so that what stands in the other folder tells which was opened.
+    // The message names the file as it was typed, so that what stands in the other folder tells which was
+    // opened.
     std::filesystem::remove(folder / "w/Live/x/name");
     EXPECT_EQ(RunCli({"database", "link/../x/name"}).err,
               "tressel-cli: link/../x/name: The file has no known database format.\n");
