@@ -84,12 +84,33 @@ Overwritten MediumErasure::Erase(const QString &path)
     ReadBack(*file, length);
     const Overwritten outcome = Compare(before, file->Extents());
     const QString last = keepsName ? path : TakeName(path);
-    file->Resize(0);
-    file->Flush();
-    file->Close();
-    files.RemoveFile(last);
+    try {
+        file->Resize(0);
+        file->Flush();
+        file->Close();
+        RefuseAnother(path, last);
+        files.RemoveFile(last);
+    } catch (const Failure &failure) {
+        if (last == path || !files.Status(last, Links::Keep))
+            throw;
+        throw Failure(failure.number,
+                      u"%1; it is named %2 now"_s.arg(failure.description, FileNameOf(files, last)));
+    }
     files.FlushFolder(FolderOf(files, last));
     return outcome;
+}
+
+/// Gives another file its name back that has come into the place of the one that was cut.
+void MediumErasure::RefuseAnother(const QString &path, const QString &last)
+{
+    const auto status = files.Status(last, Links::Keep);
+    if (!status || (status->kind == EntryKind::File && status->length == 0))
+        return;
+    if (last != path)
+        files.Rename(last, path);
+    throw Failure(
+        FailureNumber::PathFileAccessError,
+        u"Another file has come in its place meanwhile and stays; the one that was there is overwritten"_s);
 }
 
 void MediumErasure::WritePass(OpenFile &file, qint64 length)

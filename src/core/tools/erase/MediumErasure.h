@@ -31,14 +31,17 @@ public:
     static std::optional<QString> WhyNot(FileSystem &files, const QString &path, bool allNames);
 
     /// Overwrites the file, gives it a name that tells nothing, cuts it, removes it and has its folder
-    /// written down. Fails with 70 for a file that another program holds and with 57 if what is read back
-    /// isn't what was written; after a failure the file is still there, as far as it was overwritten.
+    /// written down. Fails with 70 for a file that another program holds, with 57 if what is read back isn't
+    /// what was written, and with 75 if another file has come in its place, which stays; after a failure the
+    /// file is still there, as far as it was overwritten, and the description tells its name if it has a new
+    /// one.
     Overwritten Erase(const QString &path);
 
 private:
     void WritePass(OpenFile &file, qint64 length);
     void ReadBack(OpenFile &file, qint64 length);
     QString TakeName(const QString &path);
+    void RefuseAnother(const QString &path, const QString &last);
 
     FileSystem &files;
     int passes;
