@@ -13,8 +13,12 @@ constexpr int margin = 8;
 
 void PaintWords(const QAbstractItemView &view, const QString &words)
 {
+    // Not the palette's own colour for such words: dark desktops leave it dark.
+    constexpr double faint = 0.5;
+    QColor colour = view.palette().color(QPalette::Text);
+    colour.setAlphaF(faint);
     QPainter painter(view.viewport());
-    painter.setPen(view.palette().color(QPalette::PlaceholderText));
+    painter.setPen(colour);
     painter.drawText(view.viewport()->rect().adjusted(margin, margin, -margin, -margin),
                      static_cast<int>(Qt::AlignCenter) | Qt::TextWordWrap, words);
 }

@@ -142,7 +142,7 @@ const Row rows[] = {
     {Is<IsButton>, u"btnGBLoadList", u"Load List"},
     {Is<Label>, u"lblDatabaseFile", u"Database File"},
     {Is<Label>, u"lblTable", u"No Fields"},
-    {Is<Label>, u"lblstrSQL", u"No Tables"},
+    {Is<Label>, u"lblstrSQL", u"Tables"},
     {Is<ListBox>, u"ListRemove", u""},
     {Is<DriveList>, u"DrvListRemove", u""},
     {Is<FolderList>, u"DirListRemove", u""},

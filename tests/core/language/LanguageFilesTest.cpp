@@ -96,6 +96,8 @@ TEST(LanguageFiles, MnemonicsOfTheOptionsDoNotMeet)
     }
 }
 
+constexpr int fieldsHeading = 25;
+
 class EnglishTexts : public testing::Test {
 protected:
     EnglishTexts()
@@ -111,7 +113,9 @@ protected:
 
 TEST_F(EnglishTexts, AreThoseOfTheForms)
 {
-    const QMap<int, QString> texts = TextsOf(u"English"_s);
+    QMap<int, QString> texts = TextsOf(u"English"_s);
+    // It comes while the fields of the last session's table stand below it already.
+    EXPECT_EQ(texts.take(fieldsHeading), u"Fields"_s);
     QStringList missing;
     for (const LanguageText &row : LanguageTexts()) {
         Form &form = row.form == u"frmOption" ? static_cast<Form &>(application.frmOption())
@@ -125,8 +129,7 @@ TEST_F(EnglishTexts, AreThoseOfTheForms)
         const auto *captioned = dynamic_cast<const Captioned *>(control);
         ASSERT_TRUE(captioned || row.property == TextProperty::ToolTip) << row.index;
         const QString own = row.property == TextProperty::ToolTip ? control->ToolTip() : captioned->Caption();
-        // Those two tell how many there are, and a language can't.
-        if (!own.isEmpty() && control->Name() != u"lblstrSQL" && control->Name() != u"lblTable") {
+        if (!own.isEmpty() && row.index != fieldsHeading) {
             EXPECT_EQ(texts.value(row.index), own) << row.index;
         }
     }

@@ -92,7 +92,7 @@ private Q_SLOTS:
     {
         DatabaseWindow stage;
         stage.Start();
-        QCOMPARE(stage.Label(u"lblstrSQL"_s), u"No Tables"_s);
+        QCOMPARE(stage.Label(u"lblstrSQL"_s), u"Tables"_s);
         WhenUp<QFileDialog>([&stage](QFileDialog &dialog) {
             QCOMPARE(dialog.windowTitle(), u"Open file"_s);
             dialog.selectFile(stage.Place(u"names.mdb"_s));

@@ -40,7 +40,7 @@ DatabasePage::DatabasePage(const ToolContext &toolContext, FolderTree &folderTre
     , lblDatabaseFile(toolContext.form, u"lblDatabaseFile"_s, u"Database File"_s)
     , txtDatabaseFile(toolContext.form, u"txtDatabaseFile"_s)
     , btnGBOpenDatabase(toolContext.form, u"btnGBOpenDatabase"_s, u"Database"_s)
-    , lblstrSQL(toolContext.form, u"lblstrSQL"_s, u"No Tables"_s)
+    , lblstrSQL(toolContext.form, u"lblstrSQL"_s, u"Tables"_s)
     , Tables(toolContext.form, u"ListBox(0)"_s)
     , lblTable(toolContext.form, u"lblTable"_s, u"No Fields"_s)
     , Fields(toolContext.form, u"ListBox(1)"_s)

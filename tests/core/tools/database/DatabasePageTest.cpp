@@ -39,7 +39,7 @@ TEST_F(DatabasePageTest, OpensNothingAtStartWithoutAPath)
     application.settings.Write(keys::DatabaseFile, QString());
     Start();
     EXPECT_EQ(machine.journal.Count(u"OpenSchema"_s), 0);
-    EXPECT_EQ(Page().lblstrSQL.Caption(), u"No Tables"_s);
+    EXPECT_EQ(Page().lblstrSQL.Caption(), u"Tables"_s);
 }
 
 TEST_F(DatabasePageTest, SelectsTheTableAndTheFieldOfTheLastSession)
