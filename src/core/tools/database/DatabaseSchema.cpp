@@ -212,6 +212,8 @@ void DatabaseSchema::ClearAll()
     TableCount = 0;
     MakeArrays(0);
     ClearListBoxes(0);
+    page.lblstrSQL.SetCaption(u"Tables"_s);
+    page.lblTable.SetCaption(u"Fields"_s);
 }
 
 void DatabaseSchema::NoteCheckMark(int field)

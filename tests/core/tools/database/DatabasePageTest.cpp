@@ -139,6 +139,7 @@ TEST_F(DatabasePageTest, AMissingDriveEndsTheClickWithoutADialog)
 TEST_F(DatabasePageTest, AFileThatCannotBeOpenedShowsWhy)
 {
     Start();
+    EXPECT_EQ(Page().lblTable.Caption(), u"1 Fields"_s);
     machine.databases.OrderFailure(u"OpenSchema"_s, 1,
                                    Failure(databaseFailures::Unusable, u"It is damaged."_s));
     machine.dialogs.ExpectOpenFile(shop);
@@ -148,6 +149,8 @@ TEST_F(DatabasePageTest, AFileThatCannotBeOpenedShowsWhy)
     Page().btnGBOpenDatabase.UserClicks();
     EXPECT_EQ(Page().lblstrSQL.Caption(), u"No Tables"_s);
     EXPECT_EQ(Page().Tables.ListCount(), 0);
+    // The count of the file before isn't that of this one.
+    EXPECT_EQ(Page().lblTable.Caption(), u"Fields"_s);
     EXPECT_EQ(Page().Fields.ListCount(), 0);
     // It was asked for all the same.
     EXPECT_EQ(Page().RecentFiles, shop);
