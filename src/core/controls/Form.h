@@ -102,7 +102,7 @@ public:
     /// The user's or the desktop's doing: takes place, size and state over without noting a change,
     /// and raises Resize if the size differs.
     void TakeGeometry(int newLeft, int newTop, int newWidth, int newHeight, WindowState newState);
-    /// The user turned to this form from another one: raises Activate.
+    /// The form became the active one, from another form or from another program's window: raises Activate.
     void UserActivates();
 
 private:
