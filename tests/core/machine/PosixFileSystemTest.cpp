@@ -51,6 +51,14 @@ protected:
         return status.st_mode & 07777;
     }
 
+    QStringList Names()
+    {
+        QStringList names;
+        for (const FolderEntry &entry : files.List(folder.Path()))
+            names += entry.name;
+        return names;
+    }
+
     TemporaryFolder folder;
     PosixFileSystem files;
 };
@@ -255,6 +263,20 @@ TEST_F(PosixFileSystemTest, TheRoadForSimplerFileSystemsOverwritesNothing)
     EXPECT_EQ(rename(u"f"_s, u"h"_s), std::nullopt);
     EXPECT_FALSE(FileExists(files, At(u"f"_s)));
     EXPECT_TRUE(FileExists(files, At(u"h"_s)));
+}
+
+TEST_F(PosixFileSystemTest, ADetourEndsAtTheNewNameOrTheOldOne)
+{
+    PutNative("f");
+    PutNative("g");
+    const QByteArray f = folder.Native("f");
+    const QByteArray g = folder.Native("g");
+    const QByteArray h = folder.Native("h");
+    EXPECT_EQ(RenameByDetour({AT_FDCWD, f.constData()}, {AT_FDCWD, h.constData()}), 0);
+    EXPECT_EQ(Names(), (QStringList{u"g"_s, u"h"_s}));
+    EXPECT_EQ(RenameByDetour({AT_FDCWD, h.constData()}, {AT_FDCWD, g.constData()}), EEXIST);
+    EXPECT_EQ(Names(), (QStringList{u"g"_s, u"h"_s}));
+    EXPECT_EQ(RenameByDetour({AT_FDCWD, f.constData()}, {AT_FDCWD, h.constData()}), ENOENT);
 }
 
 TEST_F(PosixFileSystemTest, TwoNamesOfOneFileAreNoTwoSpellings)

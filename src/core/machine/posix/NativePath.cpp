@@ -11,6 +11,7 @@
 #include <climits>
 #include <cstring>
 #include <fcntl.h>
+#include <string_view>
 #include <sys/stat.h>
 
 namespace tressel {
@@ -18,11 +19,11 @@ namespace tressel {
 namespace {
 
 /// True if one of the levels is "..".
-bool GoesUp(QByteArrayView path)
+bool GoesUp(std::string_view path)
 {
-    for (qsizetype at = path.indexOf(".."); at >= 0; at = path.indexOf("..", at + 1)) {
-        const bool starts = at == 0 || path.at(at - 1) == '/';
-        const bool ends = at + 2 == path.size() || path.at(at + 2) == '/';
+    for (size_t at = path.find(".."); at != path.npos; at = path.find("..", at + 1)) {
+        const bool starts = at == 0 || path[at - 1] == '/';
+        const bool ends = at + 2 == path.size() || path[at + 2] == '/';
         if (starts && ends)
             return true;
     }
@@ -112,13 +113,15 @@ void NativePath::Reach()
 /// Up to the last name, which then stands alone.
 void NativePath::ReachBeneath()
 {
-    if (GoesUp(Bytes())) {
+    const std::string_view whole(bytes.constData(), static_cast<size_t>(bytes.size() - 1));
+    if (GoesUp(whole)) {
         problem = FailureNumber::PathFileAccessError;
         return;
     }
-    const qsizetype last = Bytes().lastIndexOf('/');
-    if (last < 0)
+    const size_t lastSeparator = whole.rfind('/');
+    if (lastSeparator == whole.npos)
         return;
+    const auto last = static_cast<qsizetype>(lastSeparator);
     bytes[last] = '\0';
     Descriptor above = OpenBeneath(start, bytes.constData());
     const int error = errno;

@@ -5,13 +5,16 @@
 
 #include "machine/NameText.h"
 #include "machine/posix/NativePath.h"
+#include "machine/posix/SomeName.h"
 #include "machine/posix/SystemError.h"
 
 #include <QString>
 
 #include <cerrno>
 #include <cstdio>
+#include <dirent.h>
 #include <fcntl.h>
+#include <memory>
 #include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -31,19 +34,6 @@ std::optional<struct stat> StatusOf(const NativePath &path)
 QString Folded(const NativePath &path)
 {
     return TextFromUtf8(path.Bytes(), NameBytes::Raw)->toCaseFolded();
-}
-
-/// True if the two are one entry of a file system that compares names without case: a new spelling of a
-/// name is no overwriting.
-bool IsOtherSpelling(const NativePath &from, const NativePath &to)
-{
-    if (from.Bytes() == to.Bytes() || Folded(from) != Folded(to))
-        return false;
-    const auto one = StatusOf(from);
-    const auto other = StatusOf(to);
-    // Two names of one file have the same number too, but then its count of names tells.
-    return one && other && one->st_dev == other->st_dev && one->st_ino == other->st_ino
-        && (S_ISDIR(one->st_mode) || one->st_nlink == 1);
 }
 
 [[noreturn]] void ThrowRenameError(int error, const NativePath &from)
@@ -95,6 +85,59 @@ int RenameToNewBySmallerSteps(const EntryPlace &from, const EntryPlace &to)
     return MeansUnknownThere(error) || error == EPERM || error == EMLINK ? LookThenRename(from, to) : error;
 }
 
+bool AreOneEntry(const NativePath &from, const NativePath &to)
+{
+    const auto one = StatusOf(from);
+    const auto other = StatusOf(to);
+    // Two names of one file have the same number too, but then its count of names tells.
+    return one && other && one->st_dev == other->st_dev && one->st_ino == other->st_ino
+        && (S_ISDIR(one->st_mode) || one->st_nlink == 1);
+}
+
+/// The folder that the last name of a path stands in, and a name in it.
+QByteArray Beside(const EntryPlace &place, const QByteArray &name)
+{
+    const QByteArrayView path(place.name);
+    return path.first(path.lastIndexOf('/') + 1).toByteArray() + name;
+}
+
+/// Whether the folder tells of an entry that is written in just this way. Yes if it can't be asked.
+bool IsListed(const NativePath &path)
+{
+    const QByteArray folder = Beside(PlaceOf(path), ".");
+    const int open = openat(path.Folder(), folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const std::unique_ptr<DIR, int (*)(DIR *)> stream(open < 0 ? nullptr : fdopendir(open), closedir);
+    if (!stream)
+        return true;
+    const QByteArray name = path.Name().toByteArray();
+    while (const dirent *const entry = readdir(stream.get())) {
+        if (name == entry->d_name)
+            return true;
+    }
+    return false;
+}
+
+/// A new spelling of a name is no overwriting where the file system compares names without case. EEXIST if
+/// the two names are of two entries.
+int RenameInOtherSpelling(const NativePath &from, const NativePath &to)
+{
+    if (from.Bytes() == to.Bytes() || Folded(from) != Folded(to))
+        return EEXIST;
+    if (AreOneEntry(from, to))
+        return RenameOver(PlaceOf(from), PlaceOf(to));
+    // Some file systems give each spelling a number of its own, and put in place of the other it is gone.
+    return IsListed(to) ? EEXIST : RenameByDetour(PlaceOf(from), PlaceOf(to));
+}
+
+/// What becomes of a rename that came to this error, or to 0.
+void EndRename(int error, const NativePath &from, const NativePath &to)
+{
+    if (error == EEXIST)
+        error = RenameInOtherSpelling(from, to);
+    if (error != 0)
+        ThrowRenameError(error, from);
+}
+
 } // namespace
 
 void RenameWithoutOverwriting(const NativePath &from, const NativePath &to)
@@ -103,19 +146,27 @@ void RenameWithoutOverwriting(const NativePath &from, const NativePath &to)
     const auto [toFolder, toName] = PlaceOf(to);
     if (renameat2(fromFolder, fromName, toFolder, toName, RENAME_NOREPLACE) == 0)
         return;
-    const int error = errno;
-    if (MeansUnknownThere(error) || (error == EEXIST && IsOtherSpelling(from, to)))
+    if (MeansUnknownThere(errno))
         RenameBySmallerSteps(from, to);
     else
-        ThrowRenameError(error, from);
+        EndRename(errno, from, to);
 }
 
 void RenameBySmallerSteps(const NativePath &from, const NativePath &to)
 {
-    const int error = IsOtherSpelling(from, to) ? RenameOver(PlaceOf(from), PlaceOf(to))
-                                                : RenameToNewBySmallerSteps(PlaceOf(from), PlaceOf(to));
+    EndRename(RenameToNewBySmallerSteps(PlaceOf(from), PlaceOf(to)), from, to);
+}
+
+int RenameByDetour(const EntryPlace &from, const EntryPlace &to)
+{
+    const QByteArray aside = Beside(to, SomeName());
+    const EntryPlace between{to.folder, aside.constData()};
+    if (const int error = RenameToNew(from, between))
+        return error;
+    const int error = RenameToNew(between, to);
     if (error != 0)
-        ThrowRenameError(error, from);
+        RenameToNew(between, from);
+    return error;
 }
 
 int RenameOver(const EntryPlace &from, const EntryPlace &to)

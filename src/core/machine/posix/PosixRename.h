@@ -22,6 +22,10 @@ void RenameWithoutOverwriting(const NativePath &from, const NativePath &to);
 /// too, it is looked first and renamed then: two steps, so another program can come between them.
 void RenameBySmallerSteps(const NativePath &from, const NativePath &to);
 
+/// The same by way of a name that nothing has. If the second of the two steps fails, the entry gets its old
+/// name back. 0, or the system's error.
+int RenameByDetour(const EntryPlace &from, const EntryPlace &to);
+
 /// Puts an entry in the place of another. 0, or the system's error.
 int RenameOver(const EntryPlace &from, const EntryPlace &to);
 /// Gives a file a name that nothing has; EEXIST if something has it.

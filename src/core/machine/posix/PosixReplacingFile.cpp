@@ -6,9 +6,8 @@
 #include "machine/posix/NativePath.h"
 #include "machine/posix/PosixRename.h"
 #include "machine/posix/Retried.h"
+#include "machine/posix/SomeName.h"
 #include "machine/posix/SystemError.h"
-
-#include <QRandomGenerator>
 
 #include <algorithm>
 #include <array>
@@ -27,14 +26,6 @@ constexpr mode_t rightsOfNew = S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH |
 [[noreturn]] void ThrowError()
 {
     throw Failure(NumberOfError(errno));
-}
-
-/// A name of eight and three characters, which fits wherever any other does.
-QByteArray SomeName()
-{
-    constexpr quint32 numbers = 100'000;
-    return "~tr" + QByteArray::number(numbers + QRandomGenerator::global()->bounded(numbers)).sliced(1)
-        + ".tmp";
 }
 
 /// For errors by which a folder says that it takes no file, or lets none go; not those of a disc or a

@@ -25,7 +25,7 @@ BlockStart StartOfBlock(const QString &folder, const ReportStyle &style)
 
 QString FileLine(const QString &name, const ReportStyle &style)
 {
-    return style.namesSetIn ? QString(u"   "_s % name) : name;
+    return style.namesSetIn ? QString(u"   " % name) : name;
 }
 
 QString EndOfBlock()

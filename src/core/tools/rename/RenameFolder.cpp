@@ -6,8 +6,6 @@
 #include "machine/FileSystem.h"
 #include "machine/Paths.h"
 
-#include <QStringBuilder>
-
 namespace tressel {
 
 RenameFolder::RenameFolder(FileSystem &fileSystem, const QString &folder)
@@ -39,15 +37,21 @@ bool RenameFolder::TellsCaseApart()
 {
     for (const QString &name : folders + others) {
         const QString otherCase = name.toUpper() == name ? name.toLower() : name.toUpper();
-        if (otherCase != name && !folders.contains(otherCase) && !others.contains(otherCase))
-            return !files.Status(PathOf(otherCase), Links::Keep);
+        if (otherCase == name)
+            continue;
+        if (!files.Status(PathOf(otherCase), Links::Keep))
+            return true;
+        if (!folders.contains(otherCase) && !others.contains(otherCase))
+            return false;
     }
     return true;
 }
 
 QString RenameFolder::PathOf(const QString &name) const
 {
-    return base % name;
+    QString path;
+    path.reserve(base.size() + name.size());
+    return path.append(base).append(name);
 }
 
 } // namespace tressel
