@@ -118,22 +118,28 @@ TEST_F(RenameCommand, ASignalLeavesEachNameOldOrNew)
     std::vector<std::string> names;
     for (int number = 0; number < 20000; ++number)
         names.push_back("name" + std::to_string(100000 + number));
-    for (const std::string &name : names)
-        ASSERT_EQ(symlink("nowhere", (folder / "w" / name).c_str()), 0);
-    interruptAfter = folder / "w/NAME100000";
-    const Outcome outcome = RunCli({"rename", "case", "w", "--upper"});
-    const std::set<std::string> now = Names();
-    EXPECT_EQ(now.size(), names.size());
-    size_t renamed = 0;
-    for (const std::string &name : names) {
-        const bool isNew = now.contains("NAME" + name.substr(4));
-        EXPECT_NE(isNew, now.contains(name));
-        renamed += isNew ? 1 : 0;
+    for (const int signal : {SIGINT, SIGTERM}) {
+        SCOPED_TRACE(signal);
+        fs::remove_all(folder / "w");
+        fs::create_directory(folder / "w");
+        for (const std::string &name : names)
+            ASSERT_EQ(symlink("nowhere", (folder / "w" / name).c_str()), 0);
+        interruptAfter = folder / "w/NAME100000";
+        interruptWith = signal;
+        const Outcome outcome = RunCli({"rename", "case", "w", "--upper"});
+        const std::set<std::string> now = Names();
+        EXPECT_EQ(now.size(), names.size());
+        size_t renamed = 0;
+        for (const std::string &name : names) {
+            const bool isNew = now.contains("NAME" + name.substr(4));
+            EXPECT_NE(isNew, now.contains(name));
+            renamed += isNew ? 1 : 0;
+        }
+        EXPECT_EQ(outcome.out,
+                  "renamed " + std::to_string(renamed) + ", not renamed "
+                      + std::to_string(names.size() - renamed) + "\n");
+        EXPECT_EQ(outcome.status, renamed == names.size() ? 0 : 128 + signal);
     }
-    EXPECT_EQ(outcome.out,
-              "renamed " + std::to_string(renamed) + ", not renamed " + std::to_string(names.size() - renamed)
-                  + "\n");
-    EXPECT_EQ(outcome.status, renamed == names.size() ? 0 : 130);
 }
 
 } // namespace

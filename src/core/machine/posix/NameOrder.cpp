@@ -3,6 +3,8 @@
 
 #include "machine/posix/NameOrder.h"
 
+#include "base/AsciiCase.h"
+
 #include <algorithm>
 #include <vector>
 
@@ -16,6 +18,11 @@ struct Sorted {
     QString name; ///< without its capitals
     qsizetype entry = 0;
 };
+
+QString Folded(const QString &name)
+{
+    return IsAscii(name) ? WithAsciiLower(name) : name.toCaseFolded();
+}
 
 /// How many characters all names begin with alike.
 qsizetype CommonStart(const std::vector<Sorted> &all)
@@ -46,7 +53,7 @@ void SortByName(QList<FolderEntry> &entries)
     std::vector<Sorted> all;
     all.reserve(static_cast<size_t>(entries.size()));
     for (qsizetype index = 0; index < entries.size(); ++index)
-        all.push_back({0, entries.at(index).name.toCaseFolded(), index});
+        all.push_back({0, Folded(entries.at(index).name), index});
     const qsizetype common = CommonStart(all);
     for (Sorted &each : all)
         each.start = StartOf(QStringView(each.name).sliced(common));

@@ -3,6 +3,7 @@
 
 #include "tools/rename/RenameRules.h"
 
+#include "base/AsciiCase.h"
 #include "language/TextParts.h"
 
 #include <QLocale>
@@ -24,30 +25,14 @@ constexpr std::array<char16_t, 9> illegalCharacters{u'/', u'\\', u':', u'*', u'?
 // Not QString's own functions: those put a replacement character for a byte that isn't UTF-8. Most names are
 // plain letters, which need no library.
 
-bool IsAscii(const QString &text)
-{
-    return std::ranges::all_of(text, [](QChar character) { return character.unicode() < 0x80; });
-}
-
-/// Letters from `first` to `last` become those of the other case.
-QString WithOtherCase(QString text, char16_t first, char16_t last)
-{
-    constexpr char16_t caseBit = u'a' - u'A';
-    for (QChar &character : text) {
-        if (character.unicode() >= first && character.unicode() <= last)
-            character = QChar(character.unicode() ^ caseBit);
-    }
-    return text;
-}
-
 QString Upper(const QString &text)
 {
-    return IsAscii(text) ? WithOtherCase(text, u'a', u'z') : QLocale::c().toUpper(text);
+    return IsAscii(text) ? WithAsciiUpper(text) : QLocale::c().toUpper(text);
 }
 
 QString Lower(const QString &text)
 {
-    return IsAscii(text) ? WithOtherCase(text, u'A', u'Z') : QLocale::c().toLower(text);
+    return IsAscii(text) ? WithAsciiLower(text) : QLocale::c().toLower(text);
 }
 
 /// Small letters, and the first character of what stands between white space a capital.

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+namespace tressel {
+
+// The case of texts of ASCII letters, as most names are, many times as quick as that of any text.
+
+bool IsAscii(const QString &text);
+/// All other characters stay.
+QString WithAsciiUpper(QString text);
+QString WithAsciiLower(QString text);
+
+} // namespace tressel
