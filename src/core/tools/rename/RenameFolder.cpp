@@ -24,7 +24,7 @@ RenameFolder::~RenameFolder() = default;
 
 void RenameFolder::Rename(const QString &name, const QString &newName)
 {
-    files.Rename(PathOf(name), PathOf(newName));
+    files.Rename(from.Of(name), to.Of(newName));
 }
 
 bool RenameFolder::HasFile(const QString &name)
@@ -45,13 +45,6 @@ bool RenameFolder::TellsCaseApart()
             return false;
     }
     return true;
-}
-
-QString RenameFolder::PathOf(const QString &name) const
-{
-    QString path;
-    path.reserve(base.size() + name.size());
-    return path.append(base).append(name);
 }
 
 } // namespace tressel

@@ -7,11 +7,34 @@
 #include <QStringList>
 
 #include <memory>
+#include <utility>
 
 namespace tressel {
 
 class FileSystem;
 class FolderHold;
+
+/// The path of one entry of a folder after the other, each in the room of the one before.
+class EntryPath {
+public:
+    /// `folder` ends in the separator.
+    explicit EntryPath(QString folder)
+        : path(std::move(folder))
+        , length(path.size())
+    {
+    }
+
+    /// Good until the next call.
+    const QString &Of(const QString &name)
+    {
+        path.truncate(length);
+        return path += name;
+    }
+
+private:
+    QString path;
+    qsizetype length; ///< of the folder
+};
 
 /// A folder whose direct children are renamed. What it holds is looked at once, when this is made; what
 /// comes, goes or gets other names afterwards isn't noted. The folder is held as long as this lives.
@@ -37,11 +60,15 @@ public:
     /// has letters, it says yes.
     bool TellsCaseApart();
     /// The whole path of an entry.
-    QString PathOf(const QString &name) const;
+    QString PathOf(const QString &name) const { return base + name; }
+    /// The same for one after the other.
+    EntryPath Paths() const { return EntryPath(base); }
 
 private:
     FileSystem &files;
     QString base; ///< of the paths of all entries: the folder with the separator at its end
+    EntryPath from{base};
+    EntryPath to{base};
     std::unique_ptr<FolderHold> hold;
     QStringList folders;
     QStringList others;

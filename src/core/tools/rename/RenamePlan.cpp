@@ -40,6 +40,24 @@ std::optional<NameProblem> ProblemOf(const QString &name, QChar separator)
     return {};
 }
 
+/// A name to look up. The number goes first where two are compared, since most names differ in it.
+struct NameKey {
+    explicit NameKey(QStringView text)
+        : name(text)
+        , number(qHash(text))
+    {
+    }
+    bool operator==(const NameKey &other) const { return number == other.number && name == other.name; }
+
+    QStringView name;
+    size_t number;
+};
+
+size_t qHash(const NameKey &key, size_t seed)
+{
+    return key.number ^ seed;
+}
+
 /// Its arguments must outlive it: the keys of names are views of them.
 class Planner {
 public:
@@ -48,6 +66,7 @@ public:
         , present(presentNames)
         , changes(wanted)
         , holders(wanted.size(), -1)
+        , ordered(wanted.size(), false)
     {
     }
 
@@ -68,9 +87,8 @@ private:
         qsizetype change = -1;
     };
 
-    bool IsChange(qsizetype index) const { return changes.at(index).from != changes.at(index).to; }
-    QStringView Key(const QString &name);
-    QHash<QStringView, qsizetype> Leavers();
+    NameKey Key(const QString &name);
+    QHash<NameKey, qsizetype> Leavers();
     void TakeNewNames();
     void FindHolders();
     void Refuse(qsizetype index, NameProblem problem, const QString &other = {});
@@ -82,20 +100,20 @@ private:
     const QStringList &present;
     const QList<NameChange> &changes;
     QStringList folded; ///< what keys are views of where names are told apart without case
-    QHash<QStringView, Taker> takers; ///< by the names that they take
+    QHash<NameKey, Taker> takers; ///< by the names that they take
     QList<qsizetype> holders; ///< for each change, which other one leaves its new name; -1 for none
     std::map<qsizetype, RefusedName> refused; ///< by the numbers of their changes
-    QList<bool> ordered; ///< changes whose steps stand in the plan
+    QList<bool> ordered; ///< changes whose steps stand in the plan, or that are none
     QString freeName;
     RenamePlan plan;
 };
 
-QStringView Planner::Key(const QString &name)
+NameKey Planner::Key(const QString &name)
 {
     if (rules.withCase)
-        return name;
+        return NameKey(name);
     folded.append(name.toCaseFolded());
-    return folded.constLast();
+    return NameKey(folded.constLast());
 }
 
 void Planner::Refuse(qsizetype index, NameProblem problem, const QString &other)
@@ -107,9 +125,11 @@ void Planner::TakeNewNames()
 {
     takers.reserve(changes.size());
     for (qsizetype index = 0; index < changes.size(); ++index) {
-        if (!IsChange(index))
-            continue;
         const QString &name = changes.at(index).to;
+        if (name == changes.at(index).from) {
+            ordered[index] = true;
+            continue;
+        }
         if (const auto problem = ProblemOf(name, rules.separator)) {
             Refuse(index, *problem);
             continue;
@@ -123,12 +143,12 @@ void Planner::TakeNewNames()
 }
 
 /// The changes by the names that they leave.
-QHash<QStringView, qsizetype> Planner::Leavers()
+QHash<NameKey, qsizetype> Planner::Leavers()
 {
-    QHash<QStringView, qsizetype> leavers;
+    QHash<NameKey, qsizetype> leavers;
     leavers.reserve(changes.size());
     for (qsizetype index = 0; index < changes.size(); ++index) {
-        if (IsChange(index))
+        if (!ordered.at(index))
             leavers.insert(Key(changes.at(index).from), index);
     }
     return leavers;
@@ -136,9 +156,9 @@ QHash<QStringView, qsizetype> Planner::Leavers()
 
 void Planner::FindHolders()
 {
-    QHash<QStringView, qsizetype> leavers;
+    QHash<NameKey, qsizetype> leavers;
     for (const QString &name : present) {
-        const QStringView key = Key(name);
+        const NameKey key = Key(name);
         const auto taker = takers.constFind(key);
         if (taker == takers.cend())
             continue;
@@ -156,9 +176,8 @@ void Planner::FindHolders()
 void Planner::OrderSteps()
 {
     plan.steps.reserve(changes.size());
-    ordered.resize(changes.size());
     for (qsizetype index = 0; index < changes.size(); ++index) {
-        if (IsChange(index) && !ordered.at(index))
+        if (!ordered.at(index))
             OrderChain(index);
     }
 }
