@@ -35,14 +35,16 @@ bool RenameFolder::HasFile(const QString &name)
 
 bool RenameFolder::TellsCaseApart()
 {
-    for (const QString &name : folders + others) {
-        const QString otherCase = name.toUpper() == name ? name.toLower() : name.toUpper();
-        if (otherCase == name)
-            continue;
-        if (!files.Status(PathOf(otherCase), Links::Keep))
-            return true;
-        if (!folders.contains(otherCase) && !others.contains(otherCase))
-            return false;
+    for (const QStringList *names : {&folders, &others}) {
+        for (const QString &name : *names) {
+            const QString otherCase = name.toUpper() == name ? name.toLower() : name.toUpper();
+            if (otherCase == name)
+                continue;
+            if (!files.Status(PathOf(otherCase), Links::Keep))
+                return true;
+            if (!folders.contains(otherCase) && !others.contains(otherCase))
+                return false;
+        }
     }
     return true;
 }

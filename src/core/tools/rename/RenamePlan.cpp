@@ -104,6 +104,7 @@ private:
     QList<qsizetype> holders; ///< for each change, which other one leaves its new name; -1 for none
     std::map<qsizetype, RefusedName> refused; ///< by the numbers of their changes
     QList<bool> ordered; ///< changes whose steps stand in the plan, or that are none
+    QList<qsizetype> chain; ///< of changes that wait for each other's names
     QString freeName;
     RenamePlan plan;
 };
@@ -185,7 +186,7 @@ void Planner::OrderSteps()
 void Planner::OrderChain(qsizetype first)
 {
     // No name is wanted twice, so what begins here ends somewhere or comes back to its beginning.
-    QList<qsizetype> chain;
+    chain.clear();
     qsizetype next = first;
     for (; next >= 0 && !ordered.at(next); next = holders.at(next)) {
         ordered[next] = true;
