@@ -64,6 +64,25 @@ protected:
     PosixFileSystem files;
 };
 
+TEST_F(PosixReplaceTest, NothingIsSeenOfItBeforeItIsWhole)
+{
+    const int nameless = open(Native("").constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0600);
+    if (nameless < 0)
+        GTEST_SKIP() << "no files without a name here";
+    close(nameless);
+    Put(u"f"_s, "old", 0600);
+    const auto over = files.Replace(At(u"f"_s), IfThere::Replace);
+    const auto beside = files.Replace(At(u"g"_s), IfThere::Refuse);
+    over->Write("new");
+    beside->Write("new too");
+    EXPECT_EQ(Count(), 1);
+    over->Commit();
+    beside->Commit();
+    EXPECT_EQ(Count(), 2);
+    EXPECT_EQ(Bytes(u"f"_s), "new");
+    EXPECT_EQ(Bytes(u"g"_s), "new too");
+}
+
 TEST_F(PosixReplaceTest, KeepsOwnerGroupAndMode)
 {
     Put(u"f"_s, "old", 0640);

@@ -46,12 +46,17 @@ bool IsSameFile(const struct stat &one, const struct stat &other)
     return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
 }
 
+/// A link of the system's that leads to an open file.
+QByteArray LinkTo(int file)
+{
+    return "/proc/self/fd/" + QByteArray::number(file);
+}
+
 /// Where the system says that an open file is; empty if it can't tell.
 QByteArray PathOf(int file)
 {
     std::array<char, PATH_MAX> path{};
-    const QByteArray link = "/proc/self/fd/" + QByteArray::number(file);
-    const ssize_t length = readlink(link.constData(), path.data(), path.size());
+    const ssize_t length = readlink(LinkTo(file).constData(), path.data(), path.size());
     return length > 0 && path.front() == '/' ? QByteArray(path.data(), length) : QByteArray();
 }
 
@@ -163,14 +168,13 @@ void PosixReplacingFile::OpenFolder(int from, const char *path)
 
 void PosixReplacingFile::MakeBeside(const QByteArray &wantedName)
 {
-    if (!folder.IsOpen())
+    if (!folder.IsOpen() || (wantedName.isEmpty() && MakeNameless()))
         return;
     for (int number = 0; number < mostTries; ++number) {
         const QByteArray tried = wantedName.isEmpty() ? SomeName() : wantedName;
         Descriptor file(Retried([&] {
             return openat(folder.Number(), tried.constData(),
-                          O_RDWR | O_CREAT | O_EXCL | O_NOCTTY | O_CLOEXEC,
-                          oldRights ? S_IRUSR | S_IWUSR : rightsOfNew);
+                          O_RDWR | O_CREAT | O_EXCL | O_NOCTTY | O_CLOEXEC, RightsBeside());
         }));
         if (file.IsOpen()) {
             besideName = tried;
@@ -184,6 +188,44 @@ void PosixReplacingFile::MakeBeside(const QByteArray &wantedName)
     }
     if (!old || !oldIsReadable || !MeansRefusal(errno))
         ThrowError();
+}
+
+/// False where the system knows no files without a name, or couldn't give them one later.
+bool PosixReplacingFile::MakeNameless()
+{
+    Descriptor file(Retried(
+        [&] { return openat(folder.Number(), ".", O_TMPFILE | O_RDWR | O_CLOEXEC, RightsBeside()); }));
+    if (!file.IsOpen() || access(LinkTo(file.Number()).constData(), F_OK) != 0)
+        return false;
+    beside.emplace(std::move(file));
+    return true;
+}
+
+mode_t PosixReplacingFile::RightsBeside() const
+{
+    return oldRights ? S_IRUSR | S_IWUSR : rightsOfNew;
+}
+
+/// False, with errno set, if that can't be.
+bool PosixReplacingFile::GiveName(int file, const QByteArray &given) const
+{
+    return linkat(AT_FDCWD, LinkTo(file).constData(), folder.Number(), given.constData(), AT_SYMLINK_FOLLOW)
+        == 0;
+}
+
+/// The name that the file has until it takes another's place.
+void PosixReplacingFile::GiveSomeName(int file)
+{
+    for (int number = 0; number < mostTries; ++number) {
+        const QByteArray tried = SomeName();
+        if (GiveName(file, tried)) {
+            besideName = tried;
+            return;
+        }
+        if (errno != EEXIST)
+            break;
+    }
+    ThrowError();
 }
 
 void PosixReplacingFile::Write(const QByteArray &bytes)
@@ -202,13 +244,23 @@ void PosixReplacingFile::Write(const QByteArray &bytes)
 void PosixReplacingFile::Commit()
 {
     const bool mayTakeName = MayTakeName();
-    if (beside) {
-        beside->Flush();
-        beside->Close();
-    }
+    if (beside)
+        SettleBeside();
     if (!mayTakeName || !TakesName())
         CopyIntoOld();
     madeOld = false;
+}
+
+/// Down on the medium and closed, as far as a file without a name can be.
+void PosixReplacingFile::SettleBeside()
+{
+    beside->Flush();
+    if (besideName.isEmpty()) {
+        nameless = Descriptor(fcntl(beside->Number(), F_DUPFD_CLOEXEC, 0));
+        if (!nameless.IsOpen())
+            ThrowError();
+    }
+    beside->Close();
 }
 
 /// Whether the file beside can take the old one's place and nothing is lost by it.
@@ -221,8 +273,26 @@ bool PosixReplacingFile::MayTakeName()
     return !oldIsReadable || (hasSameRights && oldRights->Status().st_nlink == 1);
 }
 
+/// Where nothing is in its way, a file without a name gets its own at once.
+bool PosixReplacingFile::TakesFreeName()
+{
+    if (old)
+        return false;
+    if (GiveName(nameless.Number(), name)) {
+        SyncFolder();
+        return true;
+    }
+    if (errno == EEXIST && ifThere == IfThere::Refuse)
+        throw Failure(FailureNumber::FileAlreadyExists);
+    return false;
+}
+
 bool PosixReplacingFile::TakesName()
 {
+    if (nameless.IsOpen() && TakesFreeName())
+        return true;
+    if (nameless.IsOpen())
+        GiveSomeName(nameless.Number());
     const EntryPlace from{folder.Number(), besideName.constData()};
     const EntryPlace to{folder.Number(), name.constData()};
     const int error = ifThere == IfThere::Refuse ? RenameToNew(from, to) : RenameOver(from, to);
@@ -270,6 +340,10 @@ void PosixReplacingFile::CopyIntoOld()
 
 void PosixReplacingFile::ReopenBeside()
 {
+    if (nameless.IsOpen()) {
+        beside.emplace(std::move(nameless));
+        return;
+    }
     Descriptor file(Retried(
         [&] { return openat(folder.Number(), besideName.constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC); }));
     if (!file.IsOpen())
@@ -293,9 +367,16 @@ void PosixReplacingFile::PutBack(const QByteArray &before)
         old->Resize(before.size());
         old->Flush();
     } catch (const Failure &) {
-        // Neither of the two is whole in place: then the new contents stay where they are, beside it.
-        besideName.clear();
+        KeepBeside();
     }
+}
+
+/// Neither of the two is whole in place: then the new contents stay beside it.
+void PosixReplacingFile::KeepBeside()
+{
+    if (beside && besideName.isEmpty())
+        GiveSomeName(beside->Number());
+    besideName.clear();
 }
 
 void PosixReplacingFile::RemoveBeside()

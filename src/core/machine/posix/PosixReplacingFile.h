@@ -14,7 +14,8 @@ namespace tressel {
 
 class NativePath;
 
-/// New contents of a file, in a file of their own beside it until they are whole.
+/// New contents of a file, in a file of their own beside it until they are whole. Where the system knows
+/// files without a name it has none until then, so that a kill leaves nothing of it.
 ///
 /// The new file then takes the old one's name, with its rights. There are cases where it can't: the folder
 /// takes no file, or doesn't let the old one go; the old one has other names too; its owner, group or access
@@ -41,13 +42,20 @@ private:
     void OpenFolder(const NativePath &path);
     void OpenFolder(int from, const char *path);
     void MakeBeside(const QByteArray &wantedName);
+    bool MakeNameless();
+    mode_t RightsBeside() const;
+    bool GiveName(int file, const QByteArray &given) const;
+    void GiveSomeName(int file);
+    void SettleBeside();
     bool MayTakeName();
+    bool TakesFreeName();
     bool TakesName();
     void SyncFolder() const;
     void CopyIntoOld();
     void ReopenBeside();
     QByteArray NextOfNew(qint64 position);
     void PutBack(const QByteArray &before);
+    void KeepBeside();
     void RemoveBeside();
 
     IfThere ifThere;
@@ -60,6 +68,7 @@ private:
     std::optional<PosixOpenFile> old;
     QByteArray besideName; ///< empty if there is none
     std::optional<PosixOpenFile> beside;
+    Descriptor nameless; ///< the file beside, once it is settled and if it has no name
     QByteArray gathered; ///< the new contents where no file can be made beside
 };
 
