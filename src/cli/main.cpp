@@ -42,7 +42,10 @@ int Run(int count, char **arguments, StandardStreams &streams)
 {
     PosixFileSystem files;
     PosixClock clock;
-    PosixProgram program(count, arguments, [&streams] { streams.Out().Flush(); });
+    PosixProgram program(count, arguments, [&streams] {
+        streams.Out().Flush();
+        return !streams.Out().Problem();
+    });
     NoEvents events;
     JetDatabases databases(events);
     ConsoleMachine machine(files, clock, program, databases);

@@ -15,15 +15,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The last thing before the end.
-void SaveSettings(FileHive &hive, Desktop *desktop)
+/// The last thing before the end. False if something couldn't be saved.
+bool SaveSettings(FileHive &hive, Desktop *desktop)
 {
     const QString problem = hive.FlushAtEnd();
     if (problem.isEmpty())
-        return;
+        return true;
     qWarning("The settings of this run could not be saved. %s", qUtf8Printable(problem));
     if (desktop)
         desktop->TellUnsaved(problem);
+    return false;
 }
 
 } // namespace
@@ -43,7 +44,7 @@ int main(int count, char **arguments)
     const PosixSystemFacts facts;
     FileHive hive(FileHive::DefaultFolder(), facts);
     Desktop *running = nullptr;
-    PosixProgram program(count, arguments, [&] { SaveSettings(hive, running); });
+    PosixProgram program(count, arguments, [&] { return SaveSettings(hive, running); });
     Desktop desktop(program, hive);
     running = &desktop;
     const EndSignals endSignals([&desktop] { desktop.End(); });

@@ -42,7 +42,10 @@ HiveTree &FileHive::Held()
 {
     const std::optional<HiveFile::Stamp> stamp = file.Now();
     if (!held || stamp != stampOfHeld) {
-        held = HiveFromText(file.Read().bytes).tree;
+        const HiveFile::Content content = file.Read();
+        hasMissedValues = hasMissedValues || content.state == HiveFile::State::Unreadable
+            || content.state == HiveFile::State::TooLarge;
+        held = HiveFromText(content.bytes).tree;
         held->Take(changes);
         stampOfHeld = stamp;
     }
@@ -108,6 +111,9 @@ void FileHive::Merge()
                       u"The settings file is larger than 16 MiB and stays as it is"_s);
     if (content.state == HiveFile::State::Unreadable)
         throw Failure(FailureNumber::PathFileAccessError);
+    if (hasMissedValues)
+        throw Failure(FailureNumber::PathFileAccessError,
+                      u"The settings file could not be read before, and stays as it is"_s);
     HiveReading reading = HiveFromText(content.bytes);
     HiveTree wanted = reading.tree;
     wanted.Take(changes);

@@ -26,7 +26,7 @@ class SystemFacts;
 /// - A damaged file: what is well formed is taken. Before the file is replaced, it is kept beside it as
 ///   "settings.damaged", "settings.damaged-2" and so on; if it can't be, nothing is written.
 /// - A file that is there and can't be read, is no file or is larger than 16 MiB: nothing is taken, and
-///   nothing is ever written.
+///   nothing is ever written, also if it can be read later on.
 /// - A link to a file: the file it points to is replaced, the link stays.
 /// - Nothing can be written, or another holds the lock: the values stay in memory and the next flush tries
 ///   again. The first flush that meets a lock waits for it a moment, those after it don't; the one at the end
@@ -57,6 +57,7 @@ private:
     std::optional<HiveTree> held;
     std::optional<HiveFile::Stamp> stampOfHeld;
     HiveTree changes;
+    bool hasMissedValues = false; ///< a read failed, so that defaults stand for what the user has stored
     bool lockWasHeld = false; ///< by another, at the last flush
     QString problem; ///< why the last flush wrote nothing
 };

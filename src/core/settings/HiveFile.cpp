@@ -124,7 +124,8 @@ std::optional<Descriptor> HiveFile::Lock(int milliseconds) const
     const NativePath native{QStringView(folder)};
     native.Demand();
     MakeUserFolder(native.Bytes().toByteArray());
-    Descriptor lock(openat(native.Folder(), native.Rest(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    Descriptor lock(
+        Retried([&] { return openat(native.Folder(), native.Rest(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
     struct stat status = {};
     if (!lock.IsOpen() || fstat(lock.Number(), &status) != 0)
         throw Failure(NumberOfError(errno));

@@ -104,8 +104,17 @@ TEST_F(PosixProgramTest, CommandLineIsTheArgumentsWithOneBlankBetweenThem)
 TEST(PosixProgram, EndWritesDownAndEndsWithItsStatus)
 {
     testing::GTEST_FLAG(death_test_style) = "threadsafe";
-    PosixProgram program(0, nullptr, [] { std::fputs("written down", stderr); });
+    PosixProgram program(0, nullptr, [] { return std::fputs("written down", stderr) >= 0; });
     EXPECT_EXIT(program.End(7), testing::ExitedWithCode(7), "written down");
+    EXPECT_EXIT(program.End(0), testing::ExitedWithCode(0), "written down");
+}
+
+TEST(PosixProgram, EndTellsByItsStatusThatNotAllIsWrittenDown)
+{
+    testing::GTEST_FLAG(death_test_style) = "threadsafe";
+    PosixProgram program(0, nullptr, [] { return false; });
+    EXPECT_EXIT(program.End(0), testing::ExitedWithCode(1), "");
+    EXPECT_EXIT(program.End(7), testing::ExitedWithCode(7), "");
 }
 
 TEST(PosixProgram, FindsTheRunningExecutable)

@@ -48,6 +48,21 @@ TEST_F(FileHiveTest, TheFolderIsTheUsersAlone)
     EXPECT_EQ(ModeOf(folder), 0700U);
 }
 
+TEST_F(FileHiveTest, WhatCouldNotBeReadWhenItWasNeededIsNeverReplaced)
+{
+    ASSERT_TRUE(QDir().mkpath(path));
+    FileHive hive(folder, facts);
+    EXPECT_EQ(hive.Read(SettingsHive::Root::User, u"Software\\Some Maker"_s, u"a"_s), std::nullopt);
+    ASSERT_TRUE(QDir().rmdir(path));
+    const QByteArray stored = "[Software\\Some Maker]\n\"a\"=\"1\"\n";
+    Make(path, stored);
+    // The default that stood for the stored value.
+    Put(hive, u"a"_s, u"0"_s);
+    EXPECT_EQ(hive.FlushAtEnd(),
+              u"The settings file could not be read before, and stays as it is: "_s + path);
+    EXPECT_EQ(BytesOf(path), stored);
+}
+
 TEST_F(FileHiveTest, AFullDiscLeavesTheOldFile)
 {
     Make(path, "[Software\\Some Maker]\n\"a\"=\"1\"\n");

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <climits>
+#include <cstdlib>
 #include <unistd.h>
 #include <utility>
 
@@ -51,12 +52,12 @@ QByteArray RunningExecutable()
     return length < 0 ? QByteArray() : QByteArray(path.data(), length);
 }
 
-PosixProgram::PosixProgram(int count, char **arguments, std::function<void()> beforeTheEnd)
+PosixProgram::PosixProgram(int count, char **arguments, std::function<bool()> beforeTheEnd)
     : PosixProgram(RunningExecutable(), count, arguments, std::move(beforeTheEnd))
 {
 }
 
-PosixProgram::PosixProgram(QByteArray path, int count, char **arguments, std::function<void()> beforeTheEnd)
+PosixProgram::PosixProgram(QByteArray path, int count, char **arguments, std::function<bool()> beforeTheEnd)
     : executable(std::move(path))
     , folder(ProgramFolder(executable))
     , beforeEnd(std::move(beforeTheEnd))
@@ -95,9 +96,8 @@ QString PosixProgram::CommandLine() const
 
 void PosixProgram::End(int status)
 {
-    if (beforeEnd)
-        beforeEnd();
-    _exit(status);
+    const bool isAllDown = !beforeEnd || beforeEnd();
+    _exit(isAllDown || status != 0 ? status : EXIT_FAILURE);
 }
 
 } // namespace tressel

@@ -19,10 +19,11 @@ QByteArray RunningExecutable();
 class PosixProgram : public Program {
 public:
     /// The arguments are those of `main`, the program's own name first. `beforeEnd` is called by End, to
-    /// write down what is still held in memory; it may be empty.
-    PosixProgram(int count, char **arguments, std::function<void()> beforeEnd);
+    /// write down what is still held in memory; if it says that this failed, no status says that all went
+    /// well. It may be empty.
+    PosixProgram(int count, char **arguments, std::function<bool()> beforeEnd);
     /// The same for an executable that is somewhere else.
-    PosixProgram(QByteArray executable, int count, char **arguments, std::function<void()> beforeEnd);
+    PosixProgram(QByteArray executable, int count, char **arguments, std::function<bool()> beforeEnd);
 
     QString Folder() const override;
     /// The program folder if this user may write there, else "tressel" in the user's data folder, which is
@@ -38,7 +39,7 @@ private:
     QByteArray executable; ///< whole path
     QByteArray folder;
     QByteArray commandLine;
-    std::function<void()> beforeEnd;
+    std::function<bool()> beforeEnd;
 };
 
 } // namespace tressel
