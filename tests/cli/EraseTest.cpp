@@ -126,10 +126,31 @@ TEST_F(Erase, FailureIsNamedAndTheOthersGo)
     memory.files.FailAt(Operation::WriteBytes, u"C:\\Work\\f"_s, 1, FailureNumber::DeviceIoError);
     const Ended ended = EraseF({u"g"_s});
     EXPECT_EQ(ended.status, SomethingFailed);
-    EXPECT_EQ(ended.err, "tressel-cli: C:\\Work\\f: Device I/O error\n");
+    EXPECT_EQ(ended.err, "tressel-cli: C:\\Work\\f: Device I/O error (it is overwritten in part)\n");
     EXPECT_TRUE(IsThere(u"f"_s));
     EXPECT_FALSE(IsThere(u"g"_s));
     EXPECT_TRUE(ended.out.endsWith("erased 1, failed 1\n")) << ended.out.constData();
+}
+
+TEST_F(Erase, WhatCannotBeRemovedHasItsNameBack)
+{
+    memory.files.FailAt(Operation::RemoveFile, u"C:\\Work"_s, 1, FailureNumber::PathFileAccessError);
+    const Ended ended = EraseF();
+    EXPECT_EQ(ended.status, SomethingFailed);
+    EXPECT_EQ(ended.err, "tressel-cli: C:\\Work\\f: Path/File access error (it is overwritten in part)\n");
+    EXPECT_EQ(Below(u"C:\\Work"_s), QStringList{u"f"_s});
+}
+
+TEST_F(Erase, WhatCannotHaveItsNameBackIsNamed)
+{
+    memory.files.FailAt(Operation::RemoveFile, u"C:\\Work"_s, 1, FailureNumber::PathFileAccessError);
+    memory.files.FailAt(Operation::Rename, u"C:\\Work"_s, 2, FailureNumber::PathFileAccessError);
+    const Ended ended = EraseF();
+    const QStringList left = Below(u"C:\\Work"_s);
+    ASSERT_EQ(left.size(), 1);
+    EXPECT_EQ(ended.err,
+              "tressel-cli: C:\\Work\\f: Path/File access error; what is left of it is called "
+                  + left.first().toUtf8() + " (it is overwritten in part)\n");
 }
 
 TEST_F(Erase, FileHeldByAnotherStaysAsItIs)

@@ -159,6 +159,10 @@ void Erasure::EraseOne(const QString &path)
     } catch (const Stopped &) {
         console.Fail(path, u"It is overwritten in part"_s);
         throw;
+    } catch (const Failure &failure) {
+        if (!erasure.HasBegun())
+            throw;
+        throw Failure(failure.number, failure.description + u" (it is overwritten in part)"_s);
     }
 }
 

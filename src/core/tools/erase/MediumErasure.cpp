@@ -3,6 +3,7 @@
 
 #include "tools/erase/MediumErasure.h"
 
+#include "base/Steps.h"
 #include "machine/Paths.h"
 
 #include <QRandomGenerator>
@@ -75,6 +76,7 @@ std::optional<QString> MediumErasure::WhyNot(FileSystem &files, const QString &p
 
 Overwritten MediumErasure::Erase(const QString &path)
 {
+    hasBegun = false;
     const auto file = files.Open(path, OpenFor::Changing, Sharing::Exclusive);
     const qint64 length = file->Length();
     file->Flush();
@@ -85,32 +87,46 @@ Overwritten MediumErasure::Erase(const QString &path)
     const Overwritten outcome = Compare(before, file->Extents());
     const QString last = keepsName ? path : TakeName(path);
     try {
-        file->Resize(0);
-        file->Flush();
-        file->Close();
-        RefuseAnother(path, last);
-        files.RemoveFile(last);
+        Remove(*file, last);
     } catch (const Failure &failure) {
-        if (last == path || !files.Status(last, Links::Keep))
-            throw;
-        throw Failure(failure.number,
-                      u"%1; it is named %2 now"_s.arg(failure.description, FileNameOf(files, last)));
+        if (last != path && files.Status(last, Links::Keep))
+            GiveNameBack(last, path, failure);
+        throw;
     }
     files.FlushFolder(FolderOf(files, last));
     return outcome;
 }
 
-/// Gives another file its name back that has come into the place of the one that was cut.
-void MediumErasure::RefuseAnother(const QString &path, const QString &last)
+void MediumErasure::Remove(OpenFile &file, const QString &path)
 {
-    const auto status = files.Status(last, Links::Keep);
+    hasBegun = true;
+    file.Resize(0);
+    file.Flush();
+    file.Close();
+    RefuseAnother(path);
+    files.RemoveFile(path);
+}
+
+/// What was cut is empty; anything else came into its place before it got its new name.
+void MediumErasure::RefuseAnother(const QString &path)
+{
+    const auto status = files.Status(path, Links::Keep);
     if (!status || (status->kind == EntryKind::File && status->length == 0))
         return;
-    if (last != path)
-        files.Rename(last, path);
+    hasBegun = false;
     throw Failure(
         FailureNumber::PathFileAccessError,
         u"Another file has come in its place meanwhile and stays; the one that was there is overwritten"_s);
+}
+
+void MediumErasure::GiveNameBack(const QString &present, const QString &path, const Failure &why)
+{
+    Steps steps;
+    steps.Do([&] { files.Rename(present, path); });
+    if (steps.Pending()) {
+        throw Failure(why.number,
+                      why.description + u"; what is left of it is called "_s + FileNameOf(files, present));
+    }
 }
 
 void MediumErasure::WritePass(OpenFile &file, qint64 length)
@@ -119,6 +135,7 @@ void MediumErasure::WritePass(OpenFile &file, qint64 length)
     file.Seek(0);
     for (qint64 done = 0; done < length; done += block.size()) {
         const qint64 piece = std::min<qint64>(block.size(), length - done);
+        hasBegun = true;
         file.Write(piece == block.size() ? block : block.left(piece));
         betweenBlocks(piece);
     }

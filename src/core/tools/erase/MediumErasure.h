@@ -33,20 +33,25 @@ public:
     /// Overwrites the file, gives it a name that tells nothing, cuts it, removes it and has its folder
     /// written down. Fails with 70 for a file that another program holds, with 57 if what is read back isn't
     /// what was written, and with 75 if another file has come in its place, which stays; after a failure the
-    /// file is still there, as far as it was overwritten, and the description tells its name if it has a new
-    /// one.
+    /// file is still there, as far as it was overwritten, under its own name. If that can't be given back,
+    /// the failure says what it is called.
     Overwritten Erase(const QString &path);
+    /// True if what the last file's name stands for has lost something of its contents.
+    bool HasBegun() const { return hasBegun; }
 
 private:
     void WritePass(OpenFile &file, qint64 length);
     void ReadBack(OpenFile &file, qint64 length);
     QString TakeName(const QString &path);
-    void RefuseAnother(const QString &path, const QString &last);
+    void Remove(OpenFile &file, const QString &path);
+    void RefuseAnother(const QString &path);
+    void GiveNameBack(const QString &present, const QString &path, const Failure &why);
 
     FileSystem &files;
     int passes;
     bool keepsName;
     std::function<void(qint64)> betweenBlocks;
+    bool hasBegun = false;
     QByteArray block; ///< what a pass writes, again and again
 };
 
