@@ -212,6 +212,32 @@ TEST_F(Join, APartThatCannotGoIsNamedAndTheOthersGo)
     EXPECT_EQ(ended.err, "tressel-cli: C:\\Work\\a.bin.2: Path/File access error\n");
 }
 
+TEST_F(Join, ChecksumsCountAlsoWhereTheyCannotBeLookedAt)
+{
+    PutSums(Line("something else", "a.bin"));
+    memory.files.FailAt(Operation::Status, target + u".sha256"_s, 0, FailureNumber::DeviceIoError);
+    EXPECT_EQ(Of().status, SomethingFailed);
+    EXPECT_FALSE(IsThere(target));
+    memory.files.FailNoMore();
+}
+
+TEST_F(Join, TheBatchFileGoesAlsoWhereItCannotBeLookedAt)
+{
+    memory.files.PutFile(target + u".bat"_s, "COPY /B");
+    memory.files.FailAt(Operation::Status, target + u".bat"_s, 0, FailureNumber::DeviceIoError);
+    EXPECT_EQ(Of({u"--delete-parts"_s}).out, "joined 3 parts, deleted 4 files\n");
+    memory.files.FailNoMore();
+    EXPECT_FALSE(IsThere(target + u".bat"_s));
+}
+
+TEST_F(Join, AFolderThatCannotBeListedIsNamed)
+{
+    memory.files.FailAt(Operation::List, u"C:\\Work"_s, 1, FailureNumber::DeviceIoError);
+    const Ended ended = Of();
+    EXPECT_EQ(ended.status, SomethingFailed);
+    EXPECT_EQ(ended.err, "tressel-cli: C:\\Work: Device I/O error\n");
+}
+
 TEST_F(Join, APartThatIsALinkGoesAndItsTargetStays)
 {
     memory.files.RemoveFile(PathOf(2));

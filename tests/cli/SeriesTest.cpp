@@ -35,6 +35,16 @@ TEST_F(Series, FoldersAreMadeAndGoAgain)
     EXPECT_EQ(Made(), (QStringList{u"Disk09\\"_s, u"Disk09\\file"_s, u"stays"_s}));
 }
 
+TEST_F(Series, AFolderThatCannotBeLookedAtIsNotTakenForOneThatIsNotThere)
+{
+    memory.files.PutFile(u"C:\\Work\\w\\Disk1\\file"_s);
+    memory.files.FailAt(Operation::Status, u"C:\\Work\\w\\Disk1"_s, 0, FailureNumber::DeviceIoError);
+    const Ended ended = Act(u"delete"_s, u"1"_s, u"2"_s);
+    EXPECT_EQ(ended.status, SomethingFailed);
+    EXPECT_EQ(ended.out, "removed 0, kept 0, not there 1, failed 1\n");
+    EXPECT_EQ(ended.err, "tressel-cli: C:\\Work\\w\\Disk1: Path/File access error\n");
+}
+
 TEST_F(Series, PathWithTwoDotsLeavesTheFolderItWasRunInAlone)
 {
     memory.files.PutFolder(u"C:\\Work\\a"_s);

@@ -314,4 +314,13 @@ TEST_F(Split, NamesThatDoNotFitAreRefused)
     EXPECT_EQ(Changes(), 0);
 }
 
+TEST_F(Split, AFolderThatCannotBeListedIsNamed)
+{
+    memory.files.FailAt(Operation::List, u"C:\\Work"_s, 1, FailureNumber::DeviceIoError);
+    const Ended ended = Of({u"--size"_s, u"1K"_s});
+    EXPECT_EQ(ended.status, SomethingFailed);
+    EXPECT_EQ(ended.err, "tressel-cli: C:\\Work: Device I/O error\n");
+    EXPECT_EQ(Below(u"C:\\Work"_s), untouched);
+}
+
 } // namespace

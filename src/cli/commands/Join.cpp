@@ -4,6 +4,7 @@
 #include "Arguments.h"
 #include "Checksums.h"
 #include "Console.h"
+#include "Names.h"
 #include "base/Steps.h"
 #include "commands/CommandFiles.h"
 #include "machine/Paths.h"
@@ -43,10 +44,15 @@ public:
 
     int Run()
     {
-        ReadChecksums();
-        FindParts();
-        if (!MayBeDone())
+        try {
+            ReadChecksums();
+            FindParts();
+            if (!MayBeDone())
+                return SomethingFailed;
+        } catch (const Failure &failure) {
+            console.Fail(FolderOf(files, path), failure);
             return SomethingFailed;
+        }
         return console.Conclude([this] { isDryRun ? TellPlan() : JoinAll(); }, [this] { TellCount(); });
     }
 
@@ -63,6 +69,7 @@ private:
     void WritePart(ReplacingFile &output, qint64 number, qint64 length);
     bool Holds(const QString &file, const QCryptographicHash &hash) const;
     void DeleteParts();
+    void DeleteBatch();
     void TellCount();
 
     Console &console;
@@ -88,16 +95,18 @@ private:
 void Join::ReadChecksums()
 {
     const QString sums = ChecksumsName(path);
-    if (!files.Status(sums, Links::Keep))
+    if (WhyNoName(ChecksumsName(name)))
         return;
     try {
-        if (!FileExists(files, sums) || files.Status(sums, Links::Follow)->kind != EntryKind::File)
-            throw Failure(FailureNumber::PathFileAccessError);
         digests = ChecksumsOf(files.Open(sums, OpenFor::Reading)->Read(longestChecksums));
         if (digests.isEmpty())
             console.Fail(sums, u"It holds no checksums"_s);
     } catch (const Failure &failure) {
-        console.Fail(sums, failure);
+        // A link that leads nowhere is there; a folder that isn't is told of where the parts are looked for.
+        const bool isAbsent = failure.number == FailureNumber::PathNotFound
+            || (failure.number == FailureNumber::FileNotFound && !files.Status(sums, Links::Keep));
+        if (!isAbsent)
+            console.Fail(sums, failure);
     }
 }
 
@@ -267,8 +276,21 @@ void Join::DeleteParts()
         console.BetweenSteps();
         remove(PartName(path, part.key()));
     }
-    if (FileExists(files, BatchName(path)))
-        remove(BatchName(path));
+    DeleteBatch();
+}
+
+/// Tried without a look first, which could fail. It need not be there.
+void Join::DeleteBatch()
+{
+    const QString batch = BatchName(path);
+    try {
+        files.RemoveFile(batch);
+        ++removed;
+    } catch (const Failure &failure) {
+        const bool isAbsent = failure.number == FailureNumber::FileNotFound || WhyNoName(BatchName(name));
+        if (!isAbsent && !FolderExists(files, batch))
+            console.Fail(batch, failure);
+    }
 }
 
 void Join::TellCount()

@@ -85,8 +85,13 @@ public:
 
     int Run()
     {
-        if (!IsPlanned() || !MayBeDone())
+        try {
+            if (!IsPlanned() || !MayBeDone())
+                return SomethingFailed;
+        } catch (const Failure &failure) {
+            console.Fail(FolderOf(files, path), failure);
             return SomethingFailed;
+        }
         return console.Conclude([this] { isDryRun ? TellPlan() : CutAll(); }, [this] { Close(); });
     }
 

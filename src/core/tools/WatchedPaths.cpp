@@ -76,7 +76,10 @@ void RemoveFolderPathTelling(FileSystem &files, const QString &path, RunWatch &w
         return;
     const auto status = files.Status(path, Links::Keep);
     const bool wasTried = last && last->level == path;
-    if (!status)
+    // What was refused for another reason than being absent is there, though it can't be looked at.
+    if (!status && wasTried && last->failure.number != FailureNumber::PathNotFound)
+        watch.Failed(path, last->failure);
+    else if (!status)
         watch.Did(Outcome::NotThere, path);
     else if (!wasTried || (status->kind == EntryKind::Folder && HoldsSomething(files, path)))
         watch.Did(Outcome::Kept, path);
