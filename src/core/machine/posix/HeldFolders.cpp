@@ -3,6 +3,7 @@
 
 #include "machine/posix/HeldFolders.h"
 
+#include "machine/posix/Retried.h"
 #include "machine/posix/SystemError.h"
 
 #include <algorithm>
@@ -70,7 +71,8 @@ NativePath HeldFolders::PathOf(const QString &path) const
         const NativePath root{QStringView(held->root)};
         if (root.Problem())
             return NativePath(*root.Problem());
-        held->folder = Descriptor(openat(root.Folder(), root.Rest(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+        held->folder = Descriptor(
+            Retried([&] { return openat(root.Folder(), root.Rest(), O_PATH | O_DIRECTORY | O_CLOEXEC); }));
         if (!held->folder.IsOpen())
             return NativePath(NumberOfError(errno));
     }

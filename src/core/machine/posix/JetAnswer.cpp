@@ -4,6 +4,7 @@
 #include "machine/posix/JetAnswer.h"
 
 #include "machine/posix/NativePath.h"
+#include "machine/posix/Retried.h"
 
 #include <algorithm>
 #include <bit>
@@ -41,7 +42,8 @@ Descriptor OpenDatabase(const QString &file)
     const NativePath path(file);
     if (path.Problem())
         throw FailureOfPath();
-    Descriptor opened(openat(path.Folder(), path.Rest(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    Descriptor opened(Retried(
+        [&] { return openat(path.Folder(), path.Rest(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY); }));
     if (!opened.IsOpen())
         throw FailureOfOpening(path, errno);
     struct stat status = {};

@@ -5,6 +5,7 @@
 
 #include "machine/NameText.h"
 #include "machine/posix/OpenBeneath.h"
+#include "machine/posix/Retried.h"
 #include "machine/posix/SystemError.h"
 
 #include <cerrno>
@@ -96,7 +97,8 @@ void NativePath::Reach()
             return;
         }
         bytes[end] = '\0';
-        Descriptor next(openat(Folder(), Rest(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+        Descriptor next(
+            Retried([this] { return openat(Folder(), Rest(), O_PATH | O_DIRECTORY | O_CLOEXEC); }));
         const int error = errno;
         bytes[end] = '/';
         if (!next.IsOpen()) {

@@ -3,6 +3,8 @@
 
 #include "machine/posix/OpenBeneath.h"
 
+#include "machine/posix/Retried.h"
+
 #include <QByteArrayList>
 #include <QByteArrayView>
 
@@ -24,7 +26,7 @@ int OpenInOneStep(int folder, const char *path)
     open_how how{};
     how.flags = asPlace;
     how.resolve = RESOLVE_BENEATH | RESOLVE_NO_SYMLINKS;
-    return static_cast<int>(syscall(SYS_openat2, folder, path, &how, sizeof how));
+    return Retried([&] { return static_cast<int>(syscall(SYS_openat2, folder, path, &how, sizeof how)); });
 }
 
 /// A system that doesn't know the step, or that keeps programs from it, and paths that are too long for it.
@@ -39,7 +41,7 @@ Descriptor OpenLevel(int folder, const QByteArray &name)
         errno = EXDEV;
         return {};
     }
-    Descriptor level(openat(folder, name.constData(), asPlace | O_NOFOLLOW));
+    Descriptor level(Retried([&] { return openat(folder, name.constData(), asPlace | O_NOFOLLOW); }));
     struct stat status = {};
     // A link is told as what is no folder.
     if (!level.IsOpen() && errno == ENOTDIR) {
@@ -60,7 +62,7 @@ Descriptor OpenBeneath(int folder, const char *path)
 
 Descriptor OpenLevelByLevel(int folder, const char *path)
 {
-    Descriptor reached(openat(folder, ".", asPlace));
+    Descriptor reached(Retried([&] { return openat(folder, ".", asPlace); }));
     for (const QByteArray &name : QByteArray(path).split('/')) {
         if (reached.IsOpen() && !name.isEmpty())
             reached = OpenLevel(reached.Number(), name);

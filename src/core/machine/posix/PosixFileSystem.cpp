@@ -83,6 +83,41 @@ void WaitForData(const Descriptor &file)
         throw Failure(NumberOfError(errno));
 }
 
+Descriptor OpenAt(const NativePath &path, OpenFor purpose)
+{
+    // O_NONBLOCK, since a pipe without another end would hold the program up for ever.
+    constexpr mode_t newFile = S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
+    Descriptor file(Retried([&] {
+        return openat(path.Folder(), path.Rest(),
+                      FlagsFor(purpose) | path.FlagAgainstLinks() | O_NONBLOCK | O_NOCTTY | O_CLOEXEC,
+                      newFile);
+    }));
+    if (!file.IsOpen() && errno == EEXIST)
+        throw Failure(FailureNumber::FileAlreadyExists);
+    if (!file.IsOpen())
+        ThrowFileError(errno, path);
+    return file;
+}
+
+/// Looks at what is open now, and makes it ready for its purpose.
+void TakeOpened(const Descriptor &file, OpenFor purpose, Sharing sharing)
+{
+    struct stat status = {};
+    if (fstat(file.Number(), &status) != 0)
+        throw Failure(NumberOfError(errno));
+    const bool isTaken = purpose == OpenFor::Streaming ? !S_ISDIR(status.st_mode) : S_ISREG(status.st_mode);
+    if (!isTaken)
+        throw Failure(FailureNumber::PathFileAccessError);
+    WaitForData(file);
+    if (sharing == Sharing::Exclusive)
+        LockAlone(file);
+    // Emptied only now: a file that another holds stays whole.
+    if (purpose == OpenFor::Writing && Retried([&] { return ftruncate(file.Number(), 0); }) != 0)
+        throw Failure(NumberOfError(errno));
+    if (purpose == OpenFor::Appending)
+        lseek(file.Number(), 0, SEEK_END);
+}
+
 /// The path itself or the nearest folder above it that is there, to ask its volume something.
 Descriptor OpenNearest(const QString &path)
 {
@@ -92,7 +127,8 @@ Descriptor OpenNearest(const QString &path)
     for (;;) {
         const NativePath place{QByteArrayView(nearest)};
         if (!place.Problem()) {
-            Descriptor open(openat(place.Folder(), place.Rest(), O_PATH | O_CLOEXEC));
+            Descriptor open(
+                Retried([&] { return openat(place.Folder(), place.Rest(), O_PATH | O_CLOEXEC); }));
             if (open.IsOpen())
                 return open;
             if (errno != ENOENT && errno != ENOTDIR)
@@ -111,8 +147,10 @@ Descriptor PosixFileSystem::OpenFolder(const QString &folder) const
 {
     const NativePath path = held.PathOf(folder);
     path.Demand();
-    Descriptor open(
-        openat(path.Folder(), path.Rest(), O_RDONLY | O_DIRECTORY | O_CLOEXEC | path.FlagAgainstLinks()));
+    Descriptor open(Retried([&] {
+        return openat(path.Folder(), path.Rest(),
+                      O_RDONLY | O_DIRECTORY | O_CLOEXEC | path.FlagAgainstLinks());
+    }));
     if (!open.IsOpen())
         throw Failure(NumberOfError(errno));
     return open;
@@ -153,7 +191,7 @@ std::unique_ptr<FolderReader> PosixFileSystem::Read(const QString &folder, Lengt
 void PosixFileSystem::FlushFolder(const QString &folder)
 {
     const Descriptor opened = OpenFolder(folder);
-    if (fsync(opened.Number()) != 0 && errno != EINVAL && errno != EROFS)
+    if (Retried([&] { return fsync(opened.Number()); }) != 0 && errno != EINVAL && errno != EROFS)
         throw Failure(NumberOfError(errno));
 }
 
@@ -207,31 +245,15 @@ std::unique_ptr<OpenFile> PosixFileSystem::Open(const QString &path, OpenFor pur
 {
     const NativePath native = held.PathOf(path);
     native.Demand();
-    // O_NONBLOCK, since a pipe without another end would hold the program up for ever.
-    constexpr mode_t newFile = S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
-    Descriptor file(Retried([&] {
-        return openat(native.Folder(), native.Rest(),
-                      FlagsFor(purpose) | native.FlagAgainstLinks() | O_NONBLOCK | O_NOCTTY | O_CLOEXEC,
-                      newFile);
-    }));
-    if (!file.IsOpen() && errno == EEXIST)
-        throw Failure(FailureNumber::FileAlreadyExists);
-    if (!file.IsOpen())
-        ThrowFileError(errno, native);
-    struct stat status = {};
-    if (fstat(file.Number(), &status) != 0)
-        throw Failure(NumberOfError(errno));
-    const bool isTaken = purpose == OpenFor::Streaming ? !S_ISDIR(status.st_mode) : S_ISREG(status.st_mode);
-    if (!isTaken)
-        throw Failure(FailureNumber::PathFileAccessError);
-    WaitForData(file);
-    if (sharing == Sharing::Exclusive)
-        LockAlone(file);
-    // Emptied only now: a file that another holds stays whole.
-    if (purpose == OpenFor::Writing && Retried([&] { return ftruncate(file.Number(), 0); }) != 0)
-        throw Failure(NumberOfError(errno));
-    if (purpose == OpenFor::Appending)
-        lseek(file.Number(), 0, SEEK_END);
+    Descriptor file = OpenAt(native, purpose);
+    try {
+        TakeOpened(file, purpose, sharing);
+    } catch (const Failure &) {
+        // It was made a moment ago, and here.
+        if (purpose == OpenFor::Creating)
+            unlinkat(native.Folder(), native.Rest(), 0);
+        throw;
+    }
     return std::make_unique<PosixOpenFile>(std::move(file));
 }
 
