@@ -1,0 +1,194 @@
+// SPDX-FileCopyrightText: The Tressel developers
+// SPDX-License-Identifier: MIT
+
+#include "Sweep.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+
+namespace tressel::faults {
+
+namespace {
+
+constexpr bool lasting = true;
+constexpr bool once = false;
+constexpr bool alsoInShort = true;
+
+constexpr Fault faults[]{
+    {"EIO", Kind::Open, EIO, once, alsoInShort},
+    {"EMFILE", Kind::Open, EMFILE},
+    {"EMFILE from here on", Kind::Open, EMFILE, lasting},
+    {"EACCES", Kind::Open, EACCES},
+    {"ENOSPC", Kind::Open, ENOSPC},
+    {"EROFS", Kind::Open, EROFS},
+    {"EINTR", Kind::Open, EINTR},
+    {"EIO", Kind::Read, EIO, once, alsoInShort},
+    {"EINTR", Kind::Read, EINTR},
+    {"short", Kind::Read, shortened, once, alsoInShort},
+    {"ENOSPC", Kind::Write, ENOSPC, once, alsoInShort},
+    {"ENOSPC from here on", Kind::Write, ENOSPC, lasting, alsoInShort},
+    {"EIO", Kind::Write, EIO},
+    {"EINTR", Kind::Write, EINTR},
+    {"short", Kind::Write, shortened, once, alsoInShort},
+    {"EIO", Kind::Sync, EIO, once, alsoInShort},
+    {"ENOSPC", Kind::Sync, ENOSPC},
+    {"EINTR", Kind::Sync, EINTR},
+    {"EIO", Kind::Close, EIO, once, alsoInShort},
+    {"ENOSPC", Kind::Close, ENOSPC},
+    {"EINTR", Kind::Close, EINTR},
+    {"EIO", Kind::Rename, EIO, once, alsoInShort},
+    {"EACCES", Kind::Rename, EACCES},
+    {"ENOSPC", Kind::Rename, ENOSPC},
+    {"EROFS", Kind::Rename, EROFS},
+    {"EIO", Kind::Link, EIO, once, alsoInShort},
+    {"EPERM", Kind::Link, EPERM},
+    {"EIO", Kind::Symlink, EIO},
+    {"EIO", Kind::Unlink, EIO, once, alsoInShort},
+    {"EACCES", Kind::Unlink, EACCES},
+    {"EROFS", Kind::Unlink, EROFS},
+    {"ENOSPC", Kind::Mkdir, ENOSPC, once, alsoInShort},
+    {"EACCES", Kind::Mkdir, EACCES},
+    {"EROFS", Kind::Mkdir, EROFS},
+    {"EIO", Kind::Mkdir, EIO},
+    {"EIO", Kind::Rmdir, EIO, once, alsoInShort},
+    {"EACCES", Kind::Rmdir, EACCES},
+    {"EROFS", Kind::Rmdir, EROFS},
+    {"EIO", Kind::Stat, EIO, once, alsoInShort},
+    {"EACCES", Kind::Stat, EACCES},
+    {"EIO", Kind::Readdir, EIO, once, alsoInShort},
+    {"EIO", Kind::Seek, EIO, once, alsoInShort},
+    {"ENOSPC", Kind::Truncate, ENOSPC, once, alsoInShort},
+    {"EIO", Kind::Truncate, EIO},
+    {"EINTR", Kind::Truncate, EINTR},
+    {"EPERM", Kind::Chmod, EPERM, once, alsoInShort},
+    {"EROFS", Kind::Chmod, EROFS},
+    {"EPERM", Kind::Chown, EPERM, once, alsoInShort},
+    {"EIO", Kind::Attribute, EIO, once, alsoInShort},
+    {"EIO", Kind::Times, EIO},
+    {"EWOULDBLOCK", Kind::Lock, EWOULDBLOCK},
+    {"ENOLCK", Kind::Lock, ENOLCK},
+    {"EINTR", Kind::Lock, EINTR, once, alsoInShort},
+    {"EIO", Kind::Readlink, EIO, once, alsoInShort},
+    {"EIO", Kind::Room, EIO, once, alsoInShort},
+};
+
+constexpr Fault kill{"killed", Kind::Any, killed};
+constexpr Fault none{"none", Kind::Any, EIO};
+
+bool NamesSomething(const std::string &message)
+{
+    return message.find("/disc") != std::string::npos || message.find("standard output") != std::string::npos;
+}
+
+Verdict VerdictOfEnded(const Run &run, const Run &clean, const Fault &fault, State state)
+{
+    const bool isAsClean = state == State::Done && run.out == clean.out && run.status == clean.status;
+    if (isAsClean)
+        return Verdict::Done;
+    if (run.status == 0)
+        return Verdict::FalseSuccess;
+    if (run.status != 1 || !NamesSomething(run.err))
+        return Verdict::NoReason;
+    return fault.outcome == EINTR || fault.outcome == shortened ? Verdict::GaveUp : Verdict::Told;
+}
+
+Verdict VerdictOfKilled(State state)
+{
+    if (state == State::PartWay)
+        return Verdict::PartWay;
+    return state == State::Done ? Verdict::Done : Verdict::Untouched;
+}
+
+Verdict VerdictOf(const Run &run, const Run &clean, const Fault &fault, State state)
+{
+    constexpr int firstStatusOfSignal = 99;
+    const bool isKilled = fault.outcome == killed && run.status == -SIGKILL;
+    if (!isKilled && (run.status < 0 || run.status >= firstStatusOfSignal))
+        return Verdict::Crash;
+    if (state == State::Damaged)
+        return Verdict::HalfWritten;
+    if (state == State::Leftover)
+        return Verdict::Leftover;
+    return isKilled ? VerdictOfKilled(state) : VerdictOfEnded(run, clean, fault, state);
+}
+
+std::string FirstLine(const std::string &text)
+{
+    return text.substr(0, text.find('\n'));
+}
+
+/// One sweep of one case.
+class CaseSweep {
+public:
+    CaseSweep(Bench &theBench, const Case &theCase, int pointStride)
+        : bench(theBench)
+        , subject(theCase)
+        , stride(pointStride)
+    {
+        row.name = subject.name;
+    }
+
+    Row Go(std::span<const Fault> wanted)
+    {
+        clean = bench.RunCase(subject, none, 0);
+        const Run again = bench.RunCase(subject, none, 0);
+        if (clean.status != subject.status || clean.now != again.now || clean.out != again.out) {
+            ++row.points;
+            Add(Verdict::FalseSuccess, "without a fault", clean, "can't be run twice alike");
+            return row;
+        }
+        for (const Fault &fault : wanted)
+            SweepOne(fault);
+        return row;
+    }
+
+private:
+    void SweepOne(const Fault &fault)
+    {
+        // Where each starts differs, so that the points of all kinds are spread.
+        for (int number = 1 + row.points % stride;; number += stride) {
+            const Run run = bench.RunCase(subject, fault, number);
+            if (!run.metFault)
+                return;
+            ++row.points;
+            const bool isKilled = fault.outcome == killed && run.status == -SIGKILL;
+            const Finding finding = subject.check({run.before, clean.now, run.now, run.out, isKilled});
+            const std::string what = finding.state >= State::Leftover ? finding.what : FirstLine(run.err);
+            Add(VerdictOf(run, clean, fault, finding.state),
+                std::to_string(number) + ". " + run.where + ": " + fault.name, run, what);
+        }
+    }
+
+    void Add(Verdict verdict, const std::string &where, const Run &run, const std::string &what)
+    {
+        ++row.counts.at(static_cast<std::size_t>(verdict));
+        if (verdict >= Verdict::FalseSuccess)
+            row.mistakes.push_back(where + ": status " + std::to_string(run.status) + ": " + what);
+    }
+
+    Bench &bench;
+    const Case &subject;
+    const int stride;
+    Run clean;
+    Row row;
+};
+
+} // namespace
+
+std::span<const Fault> AllFaults()
+{
+    return faults;
+}
+
+const Fault &Kill()
+{
+    return kill;
+}
+
+Row Sweep(Bench &bench, const Case &subject, std::span<const Fault> wanted, int stride)
+{
+    return CaseSweep(bench, subject, stride).Go(wanted);
+}
+
+} // namespace tressel::faults
