@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "RunCommand.h"
+#include "support/SampleDatabase.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -96,13 +97,23 @@ TEST_F(Process, EveryCommandGoesThroughALinkBeforeItGoesUp)
 
 TEST_F(Process, FullStandardOutputIsAFailureOfEachCommand)
 {
+    Put("shop.mdb", SampleDatabase().toStdString());
+    Put("film", "two parts");
     standardOutput = "/dev/full";
     for (const std::vector<std::string> &words : std::vector<std::vector<std::string>>{
              {"--help"},
              {"completions", "bash"},
              {"report", "w"},
              {"create", "--to", "out", "a"},
-             {"series", "make", "--in", "w", "--base", "D", "--from", "1", "--to", "2"}}) {
+             {"series", "make", "--in", "w", "--base", "D", "--from", "1", "--to", "2"},
+             {"series", "delete", "--in", "w", "--base", "D", "--from", "1", "--to", "2"},
+             {"rename", "case", "w", "--upper"},
+             {"split", "film", "--count", "2"},
+             {"join", "film", "--force"},
+             {"erase", "--yes", "film"},
+             {"empty", "list", "out"},
+             {"empty", "remove", "out"},
+             {"database", "shop.mdb"}}) {
         const Outcome outcome = RunCli(words);
         EXPECT_EQ(outcome.status, 1) << words.front();
         EXPECT_NE(outcome.err.find("tressel-cli: standard output: Disk full\n"), std::string::npos)

@@ -3,6 +3,7 @@
 
 #include "RunCommand.h"
 
+#include <array>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -159,6 +160,29 @@ TEST_F(ReportCommand, FullDiscIsTold)
     const Outcome outcome = RunCli({"report", Listed()});
     EXPECT_EQ(outcome.status, 1);
     EXPECT_NE(outcome.err.find("standard output: Disk full\n"), std::string::npos) << outcome.err;
+}
+
+TEST_F(ReportCommand, WhateverEndsItLeavesAWholeReportOrNone)
+{
+    constexpr int folders = 300;
+    for (int number = 0; number < folders; ++number)
+        fs::create_directories(folder / "w" / std::to_string(number));
+    fs::create_directories(folder / "o");
+    const std::string whole = RunCli({"report", "--null", Listed()}).out;
+    int ended = 0;
+    // Each a little later than the one before.
+    for (int pause = 0; pause < 40; ++pause) {
+        interruptWith = std::array{SIGTERM, SIGINT, SIGHUP, SIGKILL}.at(static_cast<size_t>(pause) % 4);
+        interruptWhen = [left = pause]() mutable { return left-- <= 0; };
+        const Outcome outcome = RunCli({"report", "--null", "--output", folder / "o/report", Listed()});
+        const std::string report = Contents(folder / "o/report");
+        ended += report.empty() ? 1 : 0;
+        EXPECT_TRUE(report.empty() || report == whole) << "signal " << interruptWith;
+        EXPECT_TRUE(outcome.status != 0 || report == whole) << "signal " << interruptWith;
+        EXPECT_LE(Below("o").size(), report.empty() ? 0U : 1U);
+        fs::remove(folder / "o/report");
+    }
+    EXPECT_GT(ended, 0);
 }
 
 TEST_F(ReportCommand, QuietSaysNothingButTheLines)

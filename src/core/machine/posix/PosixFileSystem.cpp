@@ -94,6 +94,9 @@ Descriptor OpenAt(const NativePath &path, OpenFor purpose)
     }));
     if (!file.IsOpen() && errno == EEXIST)
         throw Failure(FailureNumber::FileAlreadyExists);
+    // A pipe that nobody reads, or a socket.
+    if (!file.IsOpen() && errno == ENXIO)
+        throw Failure(FailureNumber::PathFileAccessError);
     if (!file.IsOpen())
         ThrowFileError(errno, path);
     return file;

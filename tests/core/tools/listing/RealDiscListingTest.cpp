@@ -91,6 +91,20 @@ TEST_F(RealDiscListingTest, ALoopOfLinksEnds)
     EXPECT_EQ(ReportLines().count(" \r"), 2);
 }
 
+TEST_F(RealDiscListingTest, APipeInTheReportsPlaceHoldsNobodyUp)
+{
+    ReportLines();
+    const QByteArray path = QFile::encodeName(tool.page.txtReport.Text());
+    ASSERT_EQ(unlink(path.constData()), 0);
+    ASSERT_EQ(mkfifo(path.constData(), 0600), 0);
+    machine.dialogs.ExpectBox(u"NB! Report is saved on /List-01 2004-03-31.txt"_s);
+    tool.page.btnGBMakeList.UserClicks();
+    struct stat status = {};
+    ASSERT_EQ(lstat(path.constData(), &status), 0);
+    EXPECT_TRUE(S_ISFIFO(status.st_mode));
+    EXPECT_FALSE(QFile::exists(u"/List-01 2004-03-31.txt"_s));
+}
+
 TEST_F(RealDiscListingTest, NamesOfAnyBytesComeOutAsTheyAre)
 {
     const QByteArray name = "caf\xE9 \xFF";
