@@ -310,6 +310,12 @@ int symlinkat(const char *target, int folder, const char *path) noexcept
     return FailsAt(Kind::Symlink, "symlinkat", folder, path) ? -1 : next(target, folder, path);
 }
 
+ssize_t readlink(const char *path, char *room, size_t length) noexcept
+{
+    static const auto next = Next(&readlink, "readlink");
+    return FailsAt(Kind::Readlink, "readlink", AT_FDCWD, path) ? -1 : next(path, room, length);
+}
+
 ssize_t readlinkat(int folder, const char *path, char *room, size_t length) noexcept
 {
     static const auto next = Next(&readlinkat, "readlinkat");

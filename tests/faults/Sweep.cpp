@@ -93,6 +93,11 @@ Verdict VerdictOfEnded(const Run &run, const Run &clean, const Fault &fault, Sta
     return fault.outcome == EINTR || fault.outcome == shortened ? Verdict::GaveUp : Verdict::Told;
 }
 
+bool IsKilled(const Run &run, const Fault &fault)
+{
+    return fault.outcome == killed && run.status == -SIGKILL;
+}
+
 Verdict VerdictOfKilled(State state)
 {
     if (state == State::PartWay)
@@ -102,9 +107,11 @@ Verdict VerdictOfKilled(State state)
 
 Verdict VerdictOf(const Run &run, const Run &clean, const Fault &fault, State state)
 {
-    constexpr int firstStatusOfSignal = 99;
-    const bool isKilled = fault.outcome == killed && run.status == -SIGKILL;
-    if (!isKilled && (run.status < 0 || run.status >= firstStatusOfSignal))
+    // From here on a status stands for a program that couldn't be started, or that says which signal ended
+    // it.
+    constexpr int firstOfTheEnded = 99;
+    const bool isKilled = IsKilled(run, fault);
+    if (!isKilled && (run.status < 0 || run.status >= firstOfTheEnded))
         return Verdict::Crash;
     if (state == State::Damaged)
         return Verdict::HalfWritten;
@@ -152,8 +159,8 @@ private:
             if (!run.metFault)
                 return;
             ++row.points;
-            const bool isKilled = fault.outcome == killed && run.status == -SIGKILL;
-            const Finding finding = subject.check({run.before, clean.now, run.now, run.out, isKilled});
+            const Finding finding =
+                subject.check({run.before, clean.now, run.now, run.out, IsKilled(run, fault)});
             const std::string what = finding.state >= State::Leftover ? finding.what : FirstLine(run.err);
             Add(VerdictOf(run, clean, fault, finding.state),
                 std::to_string(number) + ". " + run.where + ": " + fault.name, run, what);
