@@ -140,7 +140,9 @@ void CastShadow(QImage &drawn, const QRect &square, const QPoint &facePlace)
 
 void DrawIcon(QImage &drawn, Canvas &canvas, const IsButton &button, const FaceToDraw &face, int margin)
 {
-    const QImage icon = ImageOf(button.Icon(), qRound(button.IconSize() * canvas.Scale()));
+    const PictureColours colours =
+        PictureColoursOn(face.System(SystemColour::ButtonFace), face.System(SystemColour::ButtonText));
+    const QImage icon = ImageOf(button.Icon(), qRound(button.IconSize() * canvas.Scale()), colours);
     if (icon.isNull())
         return;
     QPoint corner = IconCorner(button, margin);

@@ -9,6 +9,7 @@
 #include <QHash>
 #include <QPainter>
 #include <QSvgRenderer>
+#include <QWidget>
 
 #include <utility>
 
@@ -18,13 +19,27 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QByteArray BytesOf(const Picture &picture)
+// As the drawings have them.
+constexpr const char *drawnLines = "#2F4858";
+constexpr const char *drawnPaper = "#FFFFFF";
+
+bool IsOwn(const Picture &picture)
+{
+    return !picture.name.isEmpty() && !picture.name.contains(u'/');
+}
+
+QByteArray BytesOf(const Picture &picture, const PictureColours &colours)
 {
     if (picture.name.isEmpty())
         return picture.bytes;
-    const bool isOwn = !picture.name.contains(u'/');
-    QFile file(isOwn ? IconPath(picture.name) : picture.name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    QFile file(IsOwn(picture) ? IconPath(picture.name) : picture.name);
+    QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    if (IsOwn(picture) && colours.lines.isValid()) {
+        // The paper first: the lines may become white.
+        bytes.replace(drawnPaper, colours.paper.name().toLatin1());
+        bytes.replace(drawnLines, colours.lines.name().toLatin1());
+    }
+    return bytes;
 }
 
 QRectF Fitted(const QSizeF &size, int pixels)
@@ -62,16 +77,39 @@ QImage Decoded(const QByteArray &bytes, int pixels)
 
 } // namespace
 
-QImage ImageOf(const Picture &picture, int pixels)
+PictureColours PictureColoursOn(const QColor &ground, const QColor &text)
+{
+    return qGray(ground.rgb()) < qGray(text.rgb()) ? PictureColours{text, ground} : PictureColours{};
+}
+
+QImage ImageOf(const Picture &picture, int pixels, const PictureColours &colours)
 {
     if (picture.IsNone() || pixels < 1)
         return {};
-    static QHash<std::pair<std::pair<QString, QByteArray>, int>, QImage> decoded;
-    const std::pair key(std::pair(picture.name, picture.bytes), pixels);
-    auto found = decoded.find(key);
-    if (found == decoded.end())
-        found = decoded.insert(key, Decoded(BytesOf(picture), pixels));
-    return *found;
+    struct Made {
+        PictureColours colours;
+        QImage image;
+    };
+    // Only the colours of one desktop are in use at a time, on a few grounds.
+    static QHash<std::pair<std::pair<QString, QByteArray>, int>, QList<Made>> decoded;
+    QList<Made> &made = decoded[std::pair(std::pair(picture.name, picture.bytes), pixels)];
+    for (const Made &each : std::as_const(made)) {
+        if (each.colours == colours)
+            return each.image;
+    }
+    made += {colours, Decoded(BytesOf(picture, colours), pixels)};
+    return made.last().image;
+}
+
+void PaintPicture(QPainter &painter, const QString &name, const QRect &square, const QWidget &widget)
+{
+    const qreal scale = widget.devicePixelRatioF();
+    const QPalette palette = widget.palette();
+    QImage image =
+        ImageOf(Picture(name), qRound(square.width() * scale),
+                PictureColoursOn(palette.color(QPalette::Window), palette.color(QPalette::WindowText)));
+    image.setDevicePixelRatio(scale);
+    painter.drawImage(square.topLeft(), image);
 }
 
 } // namespace tressel

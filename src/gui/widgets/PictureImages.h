@@ -5,12 +5,30 @@
 
 #include "controls/Picture.h"
 
+#include <QColor>
 #include <QImage>
+
+class QPainter;
+class QWidget;
 
 namespace tressel {
 
+/// What the program's own pictures are drawn in, besides the one colour that they share on every ground.
+struct PictureColours {
+    QColor lines;
+    QColor paper;
+    bool operator==(const PictureColours &) const = default;
+};
+
+/// Those that are seen on a ground of that colour under text of the other: the pictures' own on a light one.
+PictureColours PictureColoursOn(const QColor &ground, const QColor &text);
+
 /// A control's picture at this size in pixels of the screen, square and with its own proportions kept.
-/// Null for no picture and for one that can't be read. Decoded once for each size.
-QImage ImageOf(const Picture &picture, int pixels);
+/// Null for no picture and for one that can't be read. Decoded once for each size. The colours are for the
+/// program's own pictures alone.
+QImage ImageOf(const Picture &picture, int pixels, const PictureColours &colours = {});
+
+/// Paints one of the program's own pictures into a square of a widget, as it is seen on the widget's ground.
+void PaintPicture(QPainter &painter, const QString &name, const QRect &square, const QWidget &widget);
 
 } // namespace tressel

@@ -16,6 +16,10 @@
 
 namespace tressel {
 
+/// The ground of a check box or round button in a band of that palette. On a dark desktop the style's outline
+/// can't be told from the band, nor the box's own ground.
+QColor BoxGround(const QPalette &palette);
+
 /// A check box or round button. Where its caption doesn't fit it ends in an ellipsis, and the whole is in
 /// the tool tip.
 template <typename Button> class ElidedButton : public Button {
@@ -50,6 +54,7 @@ protected:
         QStyleOptionButton option;
         this->initStyleOption(&option);
         option.text = ShownText();
+        option.palette.setColor(QPalette::Base, BoxGround(option.palette));
         painter.drawControl(isRound ? QStyle::CE_RadioButton : QStyle::CE_CheckBox, option);
     }
 

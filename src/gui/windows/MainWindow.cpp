@@ -55,20 +55,6 @@ IsButtonWidget *ToolButton(const QString &name)
     return button;
 }
 
-/// The ground of a check box in a band of that palette. On a dark desktop the style's outline can't be told
-/// from the band, nor the box's own ground.
-QColor BoxGround(const QPalette &palette)
-{
-    constexpr int middle = 128;
-    constexpr int share = 35; // in a hundred
-    const QColor band = palette.color(QPalette::Window);
-    if (band.lightness() >= middle)
-        return palette.color(QPalette::Base);
-    const QColor text = palette.color(QPalette::WindowText);
-    const auto mix = [](int from, int to) { return from + (to - from) * share / 100; };
-    return {mix(band.red(), text.red()), mix(band.green(), text.green()), mix(band.blue(), text.blue())};
-}
-
 QFrame *ToolSeparator(const QString &name)
 {
     auto *line = Part<QFrame>(name);
@@ -91,15 +77,7 @@ MainWindow::MainWindow(const MainForm &form)
     bands->addWidget(MakeStatus());
     setLayout(bands);
     AddFaceless();
-    MakeBoxesVisible();
     path->setFocus();
-}
-
-void MainWindow::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::PaletteChange)
-        MakeBoxesVisible();
-    QWidget::changeEvent(event);
 }
 
 bool MainWindow::eventFilter(QObject *watched, QEvent *event)
@@ -112,16 +90,6 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
     ShowPlainTip(static_cast<QHelpEvent *>(event)->globalPos(),
                  u"Make the folders of the list (%1)"_s.arg(key), *create);
     return true;
-}
-
-void MainWindow::MakeBoxesVisible()
-{
-    const QColor ground = BoxGround(palette());
-    for (QCheckBox *box : {extension, buttonBar}) {
-        QPalette changed;
-        changed.setColor(QPalette::Base, ground);
-        box->setPalette(changed);
-    }
 }
 
 QWidget *MainWindow::MakeToolbar()
@@ -150,15 +118,13 @@ QWidget *MainWindow::MakeToolbar()
 QLayout *MainWindow::MakePathRow()
 {
     path = Field(u"txtStrtPath"_s);
-    extension = Part<QCheckBox>(u"chkExtension"_s);
-    buttonBar = Part<QCheckBox>(u"chkButtonBar"_s);
     auto *row = Row();
     row->setContentsMargins(gap, gapSmall, gap, gap);
     row->addWidget(LabelFor(u"lblTitle"_s, path));
     row->addWidget(path, 1);
     row->addSpacing(gapSmall);
-    row->addWidget(extension);
-    row->addWidget(buttonBar);
+    row->addWidget(Part<QCheckBox>(u"chkExtension"_s));
+    row->addWidget(Part<QCheckBox>(u"chkButtonBar"_s));
     return row;
 }
 

@@ -5,7 +5,6 @@
 
 #include <QWidget>
 
-class QCheckBox;
 class QLineEdit;
 
 namespace tressel {
@@ -22,7 +21,6 @@ public:
     explicit MainWindow(const MainForm &form);
 
 protected:
-    void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -33,12 +31,9 @@ private:
     QWidget *MakeStatus();
     void AddFaceless();
     void AddPages(SideBarWidget &bar);
-    void MakeBoxesVisible();
 
     IsButtonWidget *create = nullptr;
     QLineEdit *path = nullptr;
-    QCheckBox *extension = nullptr;
-    QCheckBox *buttonBar = nullptr;
 };
 
 } // namespace tressel

@@ -5,13 +5,14 @@
 
 #include "forms/OptionForm.h"
 #include "widgets/IsButtonWidget.h"
-#include "widgets/ProgramIcons.h"
+#include "widgets/PictureImages.h"
 #include "windows/ElidedLabel.h"
 #include "windows/FieldsOver.h"
 #include "windows/Parts.h"
 #include "windows/Swatch.h"
 
 #include <QGridLayout>
+#include <QPainter>
 #include <QPlainTextEdit>
 
 namespace tressel {
@@ -37,16 +38,23 @@ QLabel *NameLabel(const QString &name, double factor)
     return label;
 }
 
+class ProgramPicture : public QWidget {
+public:
+    ProgramPicture() { setFixedSize(96, 96); }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        PaintPicture(painter, u"tressel"_s, rect(), *this);
+    }
+};
+
 QWidget *MakeAbout()
 {
-    constexpr int pictureSize = 96;
-    auto *picture = new QLabel;
-    picture->setPixmap(
-        ProgramIcon(u"tressel"_s).pixmap(QSize(pictureSize, pictureSize), picture->devicePixelRatioF()));
-    picture->setAlignment(Qt::AlignCenter);
     auto *column = Column(gap);
     column->addStretch();
-    column->addWidget(picture);
+    column->addWidget(new ProgramPicture, 0, Qt::AlignCenter);
     column->addWidget(NameLabel(u"lblName(0)"_s, 2));
     column->addWidget(NameLabel(u"lblName(1)"_s, 1.2));
     column->addStretch();

@@ -57,13 +57,43 @@ bool OptionWindow::event(QEvent *event)
     return QWidget::event(event);
 }
 
+void OptionWindow::showEvent(QShowEvent *event)
+{
+    measured = {};
+    KeepRoom();
+    QWidget::showEvent(event);
+}
+
+void OptionWindow::MeasureAnew()
+{
+    // From the inside out. The toolkit itself doesn't look at what isn't shown.
+    const QList<QWidget *> parts = findChildren<QWidget *>();
+    for (auto part = parts.rbegin(); part != parts.rend(); ++part) {
+        if (QLayout *inner = (*part)->layout()) {
+            inner->invalidate();
+            inner->activate();
+        }
+        (*part)->updateGeometry();
+    }
+}
+
 void OptionWindow::KeepRoom()
 {
-    const QSize screenRoom = screen()->availableSize();
-    const int width = std::min(sizeHint().width(), screenRoom.width());
+    if (sizeHint() != measured) {
+        MeasureAnew();
+        measured = sizeHint();
+    }
+    const QRect before = geometry();
+    const QRect screenRoom = screen()->availableGeometry();
+    const int width = std::min(measured.width(), screenRoom.width());
     const int height =
-        layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width) : sizeHint().height();
+        layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width) : measured.height();
     setMinimumSize(width, std::min(height, screenRoom.height()));
+    if (size() == before.size())
+        return;
+    // Its middle stays where it is, but its title in sight.
+    const QPoint corner = pos() - (rect().center() - QRect(QPoint(), before.size()).center());
+    move(corner.x(), std::max(corner.y(), screenRoom.top()));
 }
 
 void OptionWindow::PressOn(const QKeySequence &keys, const QString &button)

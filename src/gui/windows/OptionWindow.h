@@ -15,10 +15,15 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     void KeepRoom();
+    /// Has the pages that are out of sight tell what room their captions need now.
+    void MeasureAnew();
     void PressOn(const QKeySequence &keys, const QString &button);
+
+    QSize measured; ///< what it would like to have when it was measured last
 };
 
 } // namespace tressel
