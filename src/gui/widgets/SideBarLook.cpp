@@ -16,10 +16,12 @@ namespace {
 
 QFont FontOf(const FontFace &choice, QFont font)
 {
+    // With a larger one header and bar leave a page no room in a window of the usual size.
+    constexpr double largest = 36;
     if (QFontDatabase::hasFamily(choice.family))
         font.setFamily(choice.family);
     if (choice.points > 0)
-        font.setPointSizeF(choice.points);
+        font.setPointSizeF(std::min(choice.points, largest));
     font.setBold(choice.bold);
     font.setItalic(choice.italic);
     font.setUnderline(choice.underline);

@@ -7,6 +7,7 @@
 #include "DesktopStage.h"
 #include "controls/Captioned.h"
 #include "gui/GuiTest.h"
+#include "gui/WhenUp.h"
 #include "language/LanguageTexts.h"
 #include "widgets/ButtonToolTip.h"
 #include "widgets/IsButtonWidget.h"
@@ -18,6 +19,7 @@
 #include <QDir>
 #include <QFile>
 #include <QHelpEvent>
+#include <QMessageBox>
 #include <QProgressBar>
 #include <QRegularExpression>
 #include <QScrollArea>
@@ -305,6 +307,61 @@ private Q_SLOTS:
             const QString name = row.form.toString() + u'.' + row.control.toString();
             QVERIFY2(row.property == TextProperty::ToolTip || look.seen.contains(name), qPrintable(name));
         }
+    }
+
+    void AFileThatIsNoLanguageIsToldAndChangesNothing_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        const QByteArray mark = "000 LANGUAGE FILE v4.0\r\n";
+        QTest::newRow("wrong mark") << QByteArray("000 LANGUAGE FILE v3.0\r\n005 Wrong\r\n");
+        QTest::newRow("cut in its mark") << QByteArray("000 LANGUAGE FI");
+        QTest::newRow("of 10 MB") << mark + "005 Wrong\r\n" + QByteArray(10 << 20, ';');
+        QTest::newRow("a letter for a number") << mark + "005 Wrong\r\nO06 Wrong\r\n";
+        QTest::newRow("gone") << QByteArray();
+    }
+
+    void AFileThatIsNoLanguageIsToldAndChangesNothing()
+    {
+        QFETCH(QByteArray, content);
+        DesktopStage stage;
+        PutLanguages(stage);
+        stage.Start();
+        stage.Form().btnGBToolbarOption.UserClicks();
+        const QString path = stage.Place(u"Lang/%1.lng"_s.arg(wordy));
+        QVERIFY(QFile::remove(path));
+        if (!content.isNull()) {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            QCOMPARE(file.write(content), content.size());
+        }
+        QString told;
+        // Each step down the list chooses, and the last comes to the file in question.
+        WhenUp<QMessageBox>([&](QMessageBox &box) {
+            told = box.text();
+            box.accept();
+        });
+        Choose(stage, static_cast<int>(Languages().size()));
+        QCOMPARE(told, u"Failed loading new language."_s);
+        QCOMPARE(stage.Face<IsButtonWidget>(u"btnGBToolbarCreate"_s).PlainCaption(), u"Создать"_s);
+        QCOMPARE(stage.desktop->application.settings.ReadText(keys::Language), u"8"_s);
+    }
+
+    void AFileOfAnotherCodePageAndWithEveryNumberIsALanguage()
+    {
+        DesktopStage stage;
+        PutLanguages(stage);
+        stage.Start();
+        stage.Form().btnGBToolbarOption.UserClicks();
+        QFile file(stage.Place(u"Lang/%1.lng"_s.arg(wordy)));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("000 LANGUAGE FILE v4.0\r\n");
+        for (int number = 1; number < 1000; ++number)
+            file.write(QByteArray::number(number).rightJustified(3, '0')
+                       + " Gr\xF6\xDF"
+                         "e\r\n");
+        file.close();
+        Choose(stage, static_cast<int>(Languages().size()));
+        QCOMPARE(stage.Face<IsButtonWidget>(u"btnGBToolbarCreate"_s).PlainCaption(), u"Größe"_s);
     }
 
     void ALanguageThatIsChosenShowsInBothWindowsAndIsStored()
