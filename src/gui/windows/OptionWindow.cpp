@@ -28,14 +28,25 @@ QListView *MakeList()
     return list;
 }
 
+QScrollArea *MakePages()
+{
+    auto *area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(MakeOptionPages());
+    return area;
+}
+
 } // namespace
 
 OptionWindow::OptionWindow()
+    : area(MakePages())
 {
     setObjectName(u"frmOption"_s);
     auto *upper = Row(gapWide);
     upper->addWidget(MakeList());
-    upper->addWidget(MakeOptionPages(), 1);
+    upper->addWidget(area, 1);
 
     auto *column = Column(gapWide);
     column->setContentsMargins(gapWindow, gapWindow, gapWindow, gapWindow);
@@ -79,16 +90,22 @@ void OptionWindow::MeasureAnew()
 
 void OptionWindow::KeepRoom()
 {
-    if (sizeHint() != measured) {
+    constexpr int widthOfAPage =
+        480; // Captions that this doesn't hold end in an ellipsis on a narrow screen.
+    QWidget &pages = *area->widget();
+    if (pages.sizeHint() != measured) {
         MeasureAnew();
-        measured = sizeHint();
+        measured = pages.sizeHint();
     }
     const QRect before = geometry();
     const QRect screenRoom = screen()->availableGeometry();
-    const int width = std::min(measured.width(), screenRoom.width());
-    const int height =
-        layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width) : measured.height();
-    setMinimumSize(width, std::min(height, screenRoom.height()));
+    const QSize room = screenRoom.size() - (layout()->totalMinimumSize() - area->minimumSize());
+    const int width = std::min(measured.width(), std::max(room.width(), widthOfAPage));
+    const QLayout &each = *pages.layout();
+    const QSize need(width, each.hasHeightForWidth() ? each.totalHeightForWidth(width) : measured.height());
+    pages.setMinimumSize(need);
+    area->setMinimumSize(need.boundedTo(room));
+    setMinimumSize(layout()->totalMinimumSize());
     if (size() == before.size())
         return;
     // Its middle stays where it is, but its title in sight.

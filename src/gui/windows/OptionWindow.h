@@ -3,12 +3,13 @@
 
 #pragma once
 
-#include <QWidget>
+#include <QScrollArea>
 
 namespace tressel {
 
 /// The options dialog: a list of pages, the page, and the buttons below. Enter is OK and Escape is Cancel
-/// wherever the keyboard is. It is never smaller than what its captions need, as far as the screen goes.
+/// wherever the keyboard is. It is never smaller than what its captions need; on too small a screen the page
+/// scrolls.
 class OptionWindow : public QWidget {
 public:
     OptionWindow();
@@ -23,7 +24,8 @@ private:
     void MeasureAnew();
     void PressOn(const QKeySequence &keys, const QString &button);
 
-    QSize measured; ///< what it would like to have when it was measured last
+    QScrollArea *area; ///< holds the pages
+    QSize measured; ///< what the pages would like to have when they were measured last
 };
 
 } // namespace tressel

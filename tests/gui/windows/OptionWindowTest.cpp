@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QWindow>
 
 #include <functional>
@@ -135,6 +136,8 @@ private Q_SLOTS:
     {
         OptionStage stage;
         const QSize size = stage.Dialog().size();
+        const auto *area = stage.Dialog().findChild<QScrollArea *>();
+        QCOMPARE(area->viewport()->size(), area->widget()->size());
         for (int page = 0; page < pages; ++page) {
             stage.Open(page);
             QCOMPARE(stage.Dialog().size(), size);
