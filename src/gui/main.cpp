@@ -13,22 +13,6 @@
 using namespace tressel;
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// The last thing before the end. False if something couldn't be saved.
-bool SaveSettings(FileHive &hive, Desktop *desktop)
-{
-    const QString problem = hive.FlushAtEnd();
-    if (problem.isEmpty())
-        return true;
-    qWarning("The settings of this run could not be saved. %s", qUtf8Printable(problem));
-    if (desktop)
-        desktop->TellUnsaved(problem);
-    return false;
-}
-
-} // namespace
-
 int main(int count, char **arguments)
 {
     // The toolkit gets the program's name alone: the options that it knows may be meant for nobody but the

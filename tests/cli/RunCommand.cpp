@@ -115,6 +115,7 @@ Outcome CommandPlace::RunCli(const std::vector<std::string> &arguments, uid_t as
         BecomeProgram(arguments);
     }
     if (!interruptAfter.empty() || interruptWhen) {
+        running = child;
         const auto isTime = [this] { return interruptWhen ? interruptWhen() : fs::exists(interruptAfter); };
         while (!isTime() && !HasEnded(child))
             sched_yield();

@@ -58,6 +58,7 @@ public:
     std::set<int> ignored; ///< signals
     std::filesystem::path interruptAfter; ///< a run is interrupted as soon as this is there
     std::function<bool()> interruptWhen; ///< the same, as soon as it says so
+    mutable pid_t running = -1; ///< the program that is to be interrupted
     int interruptWith = SIGINT;
     rlim_t longestFile = RLIM_INFINITY; ///< bytes that a file of it may have
 };

@@ -20,8 +20,10 @@ int main(int count, char **arguments)
     QApplication::setQuitOnLastWindowClosed(false);
     const PosixSystemFacts facts;
     FileHive hive(FileHive::DefaultFolder(), facts);
-    PosixProgram program(count, arguments, [&hive] { return hive.FlushAtEndTelling(); });
+    Desktop *running = nullptr;
+    PosixProgram program(count, arguments, [&] { return SaveSettings(hive, running); });
     Desktop desktop(program, hive);
+    running = &desktop;
     desktop.Start();
     QTimer::singleShot(0, [&desktop] { desktop.End(); });
     return QApplication::exec();

@@ -6,6 +6,7 @@
 #include "machine/Dialogs.h"
 #include "machine/Program.h"
 #include "machine/SettingsHive.h"
+#include "settings/FileHive.h"
 #include "widgets/OwnKinds.h"
 #include "widgets/ProgramIcons.h"
 #include "widgets/SystemColours.h"
@@ -124,6 +125,17 @@ void Desktop::TellUnsaved(const QString &problem)
         return;
     machine.AsMachine().dialogs.Show(
         {u"The settings of this run could not be saved.\n\n"_s + problem, {}, BoxIcon::Exclamation});
+}
+
+bool SaveSettings(FileHive &hive, Desktop *desktop)
+{
+    const QString problem = hive.FlushAtEnd();
+    if (problem.isEmpty())
+        return true;
+    qWarning("The settings of this run could not be saved. %s", qUtf8Printable(problem));
+    if (desktop)
+        desktop->TellUnsaved(problem);
+    return false;
 }
 
 } // namespace tressel

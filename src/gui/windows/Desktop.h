@@ -15,6 +15,8 @@
 
 namespace tressel {
 
+class FileHive;
+
 /// The whole program on a desktop: the machine, the forms, and a window for each form that has one.
 class Desktop {
 public:
@@ -52,5 +54,9 @@ private:
     QObject sessionEnd; ///< hears of it before the windows do
     bool systemEnds = false;
 };
+
+/// The last thing before the process ends. What couldn't be saved is told on standard error and, if there is
+/// a desktop, to its user. False if there is something.
+bool SaveSettings(FileHive &hive, Desktop *desktop);
 
 } // namespace tressel
