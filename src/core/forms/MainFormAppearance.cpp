@@ -68,6 +68,9 @@ void MainForm::ApplyAppearance()
     EyeDropper1.SetRedraw(true);
     FormResize();
     steps.Do([&] { EyeDropper1.SetOutlookColors(settings.ReadBoolean(keys::OutlookColors)); });
+    // Whatever brought the default palette must not take away what the user chose for single swatches.
+    Steps again;
+    RestoreSwatches(again);
     steps.Do([&] { ApplyPalette(settings.ReadText(keys::CustomColor)); });
     EyeDropper1.SetShowMenu(false);
     EyeDropper1.SetRedraw(true);
@@ -75,19 +78,12 @@ void MainForm::ApplyAppearance()
 
 void MainForm::RestoreSwatches(Steps &steps)
 {
-    // A swatch without a colour of its own fails and so brings the default palette, first of all, for it
-    // must not take away what the user chose for another.
-    const auto takeAll = [&](Steps &taking) {
-        for (int swatch = OptionForm::secondPalette; swatch < OptionForm::swatchCount; ++swatch) {
-            taking.Do([&] {
-                const std::int32_t colour = settings.ReadInt32(keys::Color.At(swatch));
-                frmOption().Swatch(swatch).SetBackColor(static_cast<ColourNumber>(colour));
-            });
-        }
-    };
-    takeAll(steps);
-    Steps again;
-    takeAll(again);
+    for (int swatch = OptionForm::secondPalette; swatch < OptionForm::swatchCount; ++swatch) {
+        steps.Do([&] {
+            const std::int32_t colour = settings.ReadInt32(keys::Color.At(swatch));
+            frmOption().Swatch(swatch).SetBackColor(static_cast<ColourNumber>(colour));
+        });
+    }
 }
 
 void MainForm::ApplyPalette(const QString &choice)

@@ -85,15 +85,16 @@ TEST_F(MainFormLoad, ReadsTheSettingsInItsOrder)
                 {u"WindowLeft"_s, u"WindowTop"_s, u"SplitSize"_s, u"SplitCount"_s, u"SplitOption"_s,
                  u"DeleteParts"_s, u"OpenExplorer"_s, u"CopyToFloppy"_s})
         + Below(u"Options"_s, {u"Language"_s})
-        // The appearance, with the colours once more on top of the default ones, and the second look at
-        // the place.
-        + Below(u"Main"_s, {u"RightToLeft"_s}) + colours + colours + place
+        // The appearance, with the second look at the place, and with the colours once more on top of the
+        // default ones.
+        + Below(u"Main"_s, {u"RightToLeft"_s}) + colours + place
         + Below(u"Main"_s,
                 {u"IndxBar"_s, u"VisibleItems"_s, u"TabStrip"_s, u"TitleBarFont"_s, u"TitleBarSize"_s,
                  u"TitleBarBold"_s, u"TitleBarItalic"_s, u"TitleBarUnderline"_s, u"TitleBarColor"_s,
                  u"TitleCapBold"_s, u"TitleCapSize"_s, u"TitleCapFont"_s, u"TitleCapItalic"_s,
-                 u"TitleCapUnderline"_s, u"TitleCapTextCol"_s, u"OutlookColors"_s, u"CustomColor"_s})
-        + Below(u"Main"_s, Numbered(u"chk"_s, 1, 7)) + Below(u"Main"_s, Numbered(u"Menu"_s, 1, 7));
+                 u"TitleCapUnderline"_s, u"TitleCapTextCol"_s, u"OutlookColors"_s})
+        + colours + Below(u"Main"_s, {u"CustomColor"_s}) + Below(u"Main"_s, Numbered(u"chk"_s, 1, 7))
+        + Below(u"Main"_s, Numbered(u"Menu"_s, 1, 7));
     EXPECT_EQ(Settings(u"ReadSetting"_s), order);
 }
 
@@ -287,6 +288,16 @@ TEST_F(MainFormLoad, StoredColoursSurviveARestart)
     EXPECT_EQ(Form().EyeDropper1.Colors()->at(1), 255U);
     EXPECT_EQ(Form().EyeDropper1.Colors()->at(0), 0xDEDEDEU);
     EXPECT_EQ(Form().EyeDropper1.VisibleItems(), 5);
+}
+
+TEST_F(MainFormLoad, AStoredColourIsKeptWhateverBringsTheDefaultOnes)
+{
+    // Nothing else is stored: the first session was killed.
+    application.settings.Write(keys::Color.At(12), u"255"_s);
+    Start();
+    EXPECT_EQ(Form().EyeDropper1.Colors()->at(1), 255U);
+    EXPECT_EQ(application.frmOption().Swatch(12).BackColor(), 255U);
+    EXPECT_EQ(Form().EyeDropper1.Colors()->at(0), 0xDEDEDEU);
 }
 
 TEST_F(MainFormLoad, PaletteOfNeitherNumberLeavesTheSideBarItsOwn)
