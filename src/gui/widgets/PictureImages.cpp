@@ -9,7 +9,6 @@
 #include <QHash>
 #include <QPainter>
 #include <QSvgRenderer>
-#include <QWidget>
 
 #include <utility>
 
@@ -99,17 +98,6 @@ QImage ImageOf(const Picture &picture, int pixels, const PictureColours &colours
     }
     made += {colours, Decoded(BytesOf(picture, colours), pixels)};
     return made.last().image;
-}
-
-void PaintPicture(QPainter &painter, const QString &name, const QRect &square, const QWidget &widget)
-{
-    const qreal scale = widget.devicePixelRatioF();
-    const QPalette palette = widget.palette();
-    QImage image =
-        ImageOf(Picture(name), qRound(square.width() * scale),
-                PictureColoursOn(palette.color(QPalette::Window), palette.color(QPalette::WindowText)));
-    image.setDevicePixelRatio(scale);
-    painter.drawImage(square.topLeft(), image);
 }
 
 } // namespace tressel

@@ -8,9 +8,6 @@
 #include <QColor>
 #include <QImage>
 
-class QPainter;
-class QWidget;
-
 namespace tressel {
 
 /// What the program's own pictures are drawn in, besides the one colour that they share on every ground.
@@ -27,8 +24,5 @@ PictureColours PictureColoursOn(const QColor &ground, const QColor &text);
 /// Null for no picture and for one that can't be read. Decoded once for each size. The colours are for the
 /// program's own pictures alone.
 QImage ImageOf(const Picture &picture, int pixels, const PictureColours &colours = {});
-
-/// Paints one of the program's own pictures into a square of a widget, as it is seen on the widget's ground.
-void PaintPicture(QPainter &painter, const QString &name, const QRect &square, const QWidget &widget);
 
 } // namespace tressel

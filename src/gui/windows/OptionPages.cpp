@@ -5,14 +5,13 @@
 
 #include "forms/OptionForm.h"
 #include "widgets/IsButtonWidget.h"
-#include "widgets/PictureImages.h"
 #include "windows/ElidedLabel.h"
 #include "windows/FieldsOver.h"
+#include "windows/LogoPicture.h"
 #include "windows/Parts.h"
 #include "windows/Swatch.h"
 
 #include <QGridLayout>
-#include <QPainter>
 #include <QPlainTextEdit>
 
 namespace tressel {
@@ -38,23 +37,13 @@ QLabel *NameLabel(const QString &name, double factor)
     return label;
 }
 
-class ProgramPicture : public QWidget {
-public:
-    ProgramPicture() { setFixedSize(96, 96); }
-
-protected:
-    void paintEvent(QPaintEvent *) override
-    {
-        QPainter painter(this);
-        PaintPicture(painter, u"tressel"_s, rect(), *this);
-    }
-};
-
 QWidget *MakeAbout()
 {
     auto *column = Column(gap);
     column->addStretch();
-    column->addWidget(new ProgramPicture, 0, Qt::AlignCenter);
+    auto *picture = new LogoPicture({}, false);
+    picture->setFixedSize(LogoPicture::extent);
+    column->addWidget(picture, 0, Qt::AlignCenter);
     column->addWidget(NameLabel(u"lblName(0)"_s, 2));
     column->addWidget(NameLabel(u"lblName(1)"_s, 1.2));
     column->addStretch();

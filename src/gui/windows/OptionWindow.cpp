@@ -88,29 +88,36 @@ void OptionWindow::MeasureAnew()
     }
 }
 
-void OptionWindow::KeepRoom()
+QSize OptionWindow::RoomOfPages(const QSize &room)
 {
-    constexpr int widthOfAPage =
-        480; // Captions that this doesn't hold end in an ellipsis on a narrow screen.
+    // On a narrower screen the page scrolls, and captions that this doesn't hold end in an ellipsis.
+    constexpr int narrowest = 480;
     QWidget &pages = *area->widget();
     if (pages.sizeHint() != measured) {
         MeasureAnew();
         measured = pages.sizeHint();
     }
+    const QLayout &all = *pages.layout();
+    const int width = std::min(measured.width(), std::max(room.width(), narrowest));
+    return {width, all.hasHeightForWidth() ? all.totalHeightForWidth(width) : measured.height()};
+}
+
+void OptionWindow::KeepRoom()
+{
     const QRect before = geometry();
-    const QRect screenRoom = screen()->availableGeometry();
-    const QSize room = screenRoom.size() - (layout()->totalMinimumSize() - area->minimumSize());
-    const int width = std::min(measured.width(), std::max(room.width(), widthOfAPage));
-    const QLayout &each = *pages.layout();
-    const QSize need(width, each.hasHeightForWidth() ? each.totalHeightForWidth(width) : measured.height());
-    pages.setMinimumSize(need);
-    area->setMinimumSize(need.boundedTo(room));
+    const QRect onScreen = screen()->availableGeometry();
+    const QSize frame = frameGeometry().size() - size();
+    const QSize around = layout()->totalMinimumSize() - area->minimumSize();
+    const QSize room = (onScreen.size() - frame - around).expandedTo(QSize(1, 1));
+    const QSize wanted = RoomOfPages(room);
+    area->widget()->setMinimumSize(wanted);
+    area->setMinimumSize(wanted.boundedTo(room));
     setMinimumSize(layout()->totalMinimumSize());
     if (size() == before.size())
         return;
     // Its middle stays where it is, but its title in sight.
     const QPoint corner = pos() - (rect().center() - QRect(QPoint(), before.size()).center());
-    move(corner.x(), std::max(corner.y(), screenRoom.top()));
+    move(corner.x(), std::max(corner.y(), onScreen.top()));
 }
 
 void OptionWindow::PressOn(const QKeySequence &keys, const QString &button)

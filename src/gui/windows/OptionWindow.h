@@ -20,6 +20,8 @@ protected:
 
 private:
     void KeepRoom();
+    /// What the pages need, whatever height there is.
+    QSize RoomOfPages(const QSize &room);
     /// Has the pages that are out of sight tell what room their captions need now.
     void MeasureAnew();
     void PressOn(const QKeySequence &keys, const QString &button);
