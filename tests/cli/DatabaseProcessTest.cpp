@@ -39,15 +39,24 @@ protected:
     {
         return RunCli({"database", file, "--values", "Months", "Folder"});
     }
-    /// Whether any process on the machine has this file open.
+    /// Whether any process on the machine has this file open, as far as it can be seen.
     static bool IsOpenAnywhere(const fs::path &file)
     {
         std::error_code error;
-        for (const auto &process : fs::directory_iterator("/proc", error)) {
-            for (const auto &open : fs::directory_iterator(process.path() / "fd", error)) {
-                if (fs::read_symlink(open.path(), error) == file)
-                    return true;
-            }
+        for (fs::directory_iterator process("/proc", error), end; process != end; process.increment(error)) {
+            if (HasOpen(process->path(), file))
+                return true;
+        }
+        return false;
+    }
+    /// The process may go while it is looked at.
+    static bool HasOpen(const fs::path &process, const fs::path &file)
+    {
+        std::error_code error;
+        for (fs::directory_iterator open(process / "fd", error), end; open != end; open.increment(error)) {
+            std::error_code gone;
+            if (fs::read_symlink(open->path(), gone) == file)
+                return true;
         }
         return false;
     }
