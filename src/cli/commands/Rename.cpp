@@ -229,13 +229,13 @@ void Renaming::TellChanges()
 void Renaming::RenameAll(RenameFolder &folder)
 {
     tally.Started(changes.size());
-    EntryPath fromPath = folder.Paths();
-    EntryPath toPath = folder.Paths();
+    QString from;
+    QString to;
     QString aside; // the name for the time being of an entry that waits for its own
     for (qsizetype done = 0; done < plan.steps.size(); ++done) {
         const RenameStep &step = plan.steps.at(done);
-        const QString &from = fromPath.Of(step.change.from);
-        const QString &to = toPath.Of(step.change.to);
+        folder.PutPath(from, step.change.from);
+        folder.PutPath(to, step.change.to);
         // Nothing stops a run while a name waits.
         if (aside.isNull())
             tally.Next(from);

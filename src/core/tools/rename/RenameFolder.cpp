@@ -24,7 +24,9 @@ RenameFolder::~RenameFolder() = default;
 
 void RenameFolder::Rename(const QString &name, const QString &newName)
 {
-    files.Rename(from.Of(name), to.Of(newName));
+    PutPath(from, name);
+    PutPath(to, newName);
+    files.Rename(from, to);
 }
 
 bool RenameFolder::HasFile(const QString &name)

@@ -7,34 +7,11 @@
 #include <QStringList>
 
 #include <memory>
-#include <utility>
 
 namespace tressel {
 
 class FileSystem;
 class FolderHold;
-
-/// The path of one entry of a folder after the other, each in the room of the one before.
-class EntryPath {
-public:
-    /// `folder` ends in the separator.
-    explicit EntryPath(QString folder)
-        : path(std::move(folder))
-        , length(path.size())
-    {
-    }
-
-    /// Good until the next call.
-    const QString &Of(const QString &name)
-    {
-        path.truncate(length);
-        return path += name;
-    }
-
-private:
-    QString path;
-    qsizetype length; ///< of the folder
-};
 
 /// A folder whose direct children are renamed. What it holds is looked at once, when this is made; what
 /// comes, goes or gets other names afterwards isn't noted. The folder is held as long as this lives.
@@ -61,14 +38,18 @@ public:
     bool TellsCaseApart();
     /// The whole path of an entry.
     QString PathOf(const QString &name) const { return base + name; }
-    /// The same for one after the other.
-    EntryPath Paths() const { return EntryPath(base); }
+    /// Writes the whole path of an entry in the place of another, in the same room.
+    void PutPath(QString &path, const QString &name) const
+    {
+        path.truncate(0);
+        path.append(base).append(name);
+    }
 
 private:
     FileSystem &files;
     QString base; ///< of the paths of all entries: the folder with the separator at its end
-    EntryPath from{base};
-    EntryPath to{base};
+    QString from; ///< room for the paths of the present rename
+    QString to;
     std::unique_ptr<FolderHold> hold;
     QStringList folders;
     QStringList others;

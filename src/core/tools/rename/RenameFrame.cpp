@@ -217,7 +217,7 @@ void RenameFrame::RenameEach(RenameFolder &folder, const QStringList &names,
 
 void RenameFrame::ComeTo(const RenameFolder &folder, const QString &name)
 {
-    underWay = folder.PathOf(name);
+    folder.PutPath(underWay, name);
     context.watch.Next(underWay);
     context.machine.events.LetEventsRun();
     StepProgress();
@@ -231,9 +231,9 @@ void RenameFrame::RenameToDetour(RenameFolder &folder, const QString &name, cons
 void RenameFrame::RenameFromDetour(RenameFolder &folder, const QString &name, const QString &newName)
 {
     const QString detour = newName + detourMark;
-    underWay = folder.PathOf(detour);
+    folder.PutPath(underWay, detour);
     folder.Rename(detour, WithoutLast(detour, detourMark.size()));
-    underWay = folder.PathOf(newName);
+    folder.PutPath(underWay, newName);
     context.watch.Did(name == newName ? Outcome::Kept : Outcome::Renamed, underWay);
 }
 
