@@ -160,9 +160,8 @@ void MainForm::btnGBToolbarLoadList_Click()
 void MainForm::btnGBToolbarBrowse_Click()
 {
     clickSound.Play();
-    const QString present = area.txtStrtPath.Text();
-    const QString folder = BrowseForFolder(machine.dialogs, machine.files, u"Select Destination Folder..."_s,
-                                           FolderExists(machine.files, present) ? present : QString());
+    const QString folder = BrowseFromPresent(machine.dialogs, machine.files,
+                                             u"Select Destination Folder..."_s, area.txtStrtPath.Text());
     if (!folder.isEmpty())
         area.txtStrtPath.SetText(folder);
 }

@@ -26,4 +26,9 @@ QString BrowseForFolder(Dialogs &dialogs, FileSystem &files, const QString &Titl
     return IsDriveRoot(files, asRoot) ? asRoot : chosen;
 }
 
+QString BrowseFromPresent(Dialogs &dialogs, FileSystem &files, const QString &title, const QString &present)
+{
+    return BrowseForFolder(dialogs, files, title, FolderExists(files, present) ? present : QString());
+}
+
 } // namespace tressel

@@ -14,4 +14,7 @@ class FileSystem;
 /// empty text if the user cancelled. Fails with 6 for a start path beyond 32767 characters.
 QString BrowseForFolder(Dialogs &dialogs, FileSystem &files, const QString &Title, const QString &StartPath);
 
+/// The same, starting at the present folder if there is one of that path, and nowhere else.
+QString BrowseFromPresent(Dialogs &dialogs, FileSystem &files, const QString &title, const QString &present);
+
 } // namespace tressel

@@ -6,7 +6,6 @@
 #include "base/Steps.h"
 #include "language/Session.h"
 #include "machine/Dialogs.h"
-#include "machine/Paths.h"
 #include "machine/Shell.h"
 #include "settings/Settings.h"
 #include "tools/ClickSound.h"
@@ -82,9 +81,8 @@ void ListingPage::BrowseListFolder()
 {
     Steps steps;
     steps.Do([&] {
-        const QString present = CboFilePath.Text();
-        const QString folder = BrowseForFolder(machine.dialogs, machine.files, u"Select Folder to list..."_s,
-                                               FolderExists(machine.files, present) ? present : QString());
+        const QString folder = BrowseFromPresent(machine.dialogs, machine.files,
+                                                 u"Select Folder to list..."_s, CboFilePath.Text());
         if (folder.isEmpty())
             return;
         CboFilePath.SetText(folder);

@@ -157,10 +157,8 @@ void RenamePage::txtCurrentPath_Drop(const QStringList &paths)
 void RenamePage::btnGBBrowsePath_Click()
 {
     context.clickSound.Play();
-    const QString present = txtCurrentPath.Text();
     const QString folder =
-        BrowseForFolder(context.machine.dialogs, context.machine.files, {},
-                        FolderExists(context.machine.files, present) ? present : QString());
+        BrowseFromPresent(context.machine.dialogs, context.machine.files, {}, txtCurrentPath.Text());
     if (!folder.isEmpty())
         txtCurrentPath.SetText(folder);
 }
