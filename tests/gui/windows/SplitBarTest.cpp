@@ -5,6 +5,7 @@
 
 #include "gui/GuiTest.h"
 #include "gui/windows/DesktopStage.h"
+#include "widgets/SystemColours.h"
 
 #include <QWindow>
 
@@ -42,6 +43,28 @@ private Q_SLOTS:
         QCOMPARE(barReleases, 0);
         stage.Settle();
         QCOMPARE(stage.Form().PicStrip.Left() - before, 20 * 15);
+    }
+
+    void TheBarHasAColourOfItsOwnWhileItIsDragged()
+    {
+        DesktopStage stage;
+        stage.Start();
+        // What the start left to the timer is laid out now, and not in the middle of the drag.
+        stage.Form().erase.Timer1.Elapse();
+        stage.Settle();
+        auto &bar = stage.Face<QWidget>(u"PicStrip"_s);
+        const auto colour = [&] { return bar.grab().toImage().pixelColor(1, bar.height() / 4); };
+        const QPalette &desktop = bar.palette();
+        QCOMPARE(colour(), ColourOf(SystemColour::ButtonFace, desktop));
+        QWindow *window = stage.Window().windowHandle();
+        const QPoint start = bar.mapTo(&stage.Window(), QPoint(0, 5));
+        QTest::mousePress(window, Qt::LeftButton, {}, start);
+        QTest::mouseMove(window, start + QPoint(30, 0));
+        stage.Settle();
+        QCOMPARE(colour(), ColourOf(SystemColour::GrayText, desktop));
+        QTest::mouseRelease(window, Qt::LeftButton, {}, start + QPoint(30, 0));
+        stage.Settle();
+        QCOMPARE(colour(), ColourOf(SystemColour::ButtonFace, desktop));
     }
 
     void APressOnTheBarBesideTheGripDragsIt()
