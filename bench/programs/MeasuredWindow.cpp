@@ -27,7 +27,7 @@ MeasuredWindow::MeasuredWindow(char **arguments)
 {
     Put(keys::ShowTips, u"0"_s);
     Put(keys::Sound, u"1"_s);
-    // A database that isn't there is told in a box, which would wait for an answer.
+    // No box of what a database lacks is to wait for an answer.
     Put(keys::DatabaseFile, {});
 }
 

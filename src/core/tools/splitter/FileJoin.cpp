@@ -100,8 +100,12 @@ bool FileJoin::JoinPart(std::int16_t part)
     const QString name = PartName(target, part);
     run.context.machine.events.LetEventsRun();
     const std::int32_t length = run.Length(name);
-    room.clear();
-    room = makeRoom(length < 0 ? length : length + qint64{1});
+    const qint64 wanted = length < 0 ? length : length + qint64{1};
+    // Parts are of one size as a rule, and fresh room costs as much as a read.
+    if (room.size() != wanted) {
+        room.clear();
+        room = makeRoom(wanted);
+    }
     std::unique_ptr<OpenFile> file;
     if (!OpenForRun(file, name, Links::Follow))
         return EndAs(u"Join Count: Read Error"_s);

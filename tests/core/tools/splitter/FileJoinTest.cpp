@@ -299,6 +299,27 @@ TEST_F(FileJoinTest, RoomIsAskedForOneByteMoreThanThePart)
     EXPECT_EQ(Bytes(target), "one-three");
 }
 
+TEST_F(FileJoinTest, PartsOfOneSizeShareTheirRoom)
+{
+    PutParts({"one-", "two-", "end"});
+    LeftOpen leftOpen;
+    QList<qint64> asked;
+    FileJoin(context, page, leftOpen, [&](qint64 bytes) {
+        asked += bytes;
+        return QByteArray(bytes, 'x');
+    }).JoinFiles(target);
+    EXPECT_EQ(asked, (QList<qint64>{5, 4}));
+    EXPECT_EQ(Bytes(target), "one-two-end");
+}
+
+TEST_F(FileJoinTest, WhatCannotBeReadIsZerosAlsoInRoomThatServedBefore)
+{
+    PutParts({"one-", "two-"});
+    machine.files.FailAt(Operation::ReadBytes, PartName(target, 2), 1, FailureNumber::DeviceIoError);
+    Join();
+    EXPECT_EQ(Bytes(target), QByteArray("one-\0\0\0\0", 8));
+}
+
 TEST_F(FileJoinTest, NoRoomEndsTheProgram)
 {
     PutParts({"one"});
