@@ -104,7 +104,8 @@ public:
     /// What is read next comes from the medium itself, as far as the system lets it.
     virtual void ForgetCached() { }
     /// Where the file's bytes stand, by their offsets, without its holes. Nothing where that can't be told,
-    /// or where they aren't the file's alone or stand there in another form, packed or encrypted.
+    /// or where they aren't the file's alone or stand there in another form, packed, encrypted
+    /// or in a journal too.
     virtual std::optional<QList<Extent>> Extents() const { return {}; }
     /// Does nothing for a file that is closed; all else fails with 52 then.
     virtual void Close() = 0;
