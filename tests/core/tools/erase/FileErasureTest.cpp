@@ -33,6 +33,13 @@ protected:
     {
         return {u"Folders ''"_s + path + u"'' cannot erased !!!"_s, u"Tressel"_s, BoxIcon::Exclamation};
     }
+    /// What stands in a file of so many blocks before it goes.
+    QByteArray TwoLines(int blocks) const
+    {
+        const QString date = QLocale().toString(machine.clock.Now().date(), QLocale::ShortFormat);
+        return "Erased by Tressel, the maker of many folders\r\nTimes to overwrite current files "
+            + QByteArray::number(blocks) + " and secure deleted " + date.toUtf8() + "\r\n";
+    }
     int BlocksWritten(const QString &path) const
     {
         int count = 0;
@@ -221,6 +228,8 @@ TEST_F(FileErasureTest, AFailureAtEachStepLeavesWhatIsTold)
         {Operation::OpenForWriting, 3, blanks},
         {Operation::ResizeFile, 1, blanks},
         {Operation::WriteBytes, 5, {}},
+        {Operation::CloseFile, 3, TwoLines(2)},
+        {Operation::RemoveFile, 1, TwoLines(2)},
     };
     for (const LeftBehind &row : rows) {
         ErasePage fresh{bench.On(*std::make_unique<Form>(u"other"_s).release())};
