@@ -47,6 +47,7 @@ TEST_F(RealDiscList, AnEndlessOneIsNone)
 {
     application.Start();
     machine.dialogs.ExpectOpenFile(u"/dev/zero"_s, u"/dev"_s);
+    machine.dialogs.ExpectBox(u"The list /dev/zero can't be loaded. It is no regular file."_s);
     application.frmMain().textLists.btnGBLoadFile.UserClicks();
     EXPECT_EQ(application.session.ListFile, u"/dev/zero"_s);
     EXPECT_EQ(CountOfEntries(), 0);
