@@ -49,30 +49,25 @@ Descriptor OpenToRead(const QString &path)
     }));
 }
 
-/// Makes a file that wasn't there, down to the medium; leaves none behind if that fails. False if something
-/// of that name is there.
+/// Puts contents into the place of a file's, or of none's.
+void PutInPlace(const QString &path, IfThere ifThere, const QByteArray &bytes)
+{
+    PosixReplacingFile file(NativePath(QStringView(path)), ifThere, nameBeside);
+    file.Write(bytes);
+    file.Commit();
+}
+
+/// Makes a file that wasn't there, as a whole or not at all. False if something of that name is there.
 bool MakeFile(const QString &path, const QByteArray &bytes)
 {
-    const NativePath native{QStringView(path)};
-    native.Demand();
-    Descriptor made(Retried([&] {
-        return openat(native.Folder(), native.Rest(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
-                      S_IRUSR | S_IWUSR);
-    }));
-    if (!made.IsOpen() && errno == EEXIST)
-        return false;
-    if (!made.IsOpen())
-        throw Failure(NumberOfError(errno));
-    PosixOpenFile file(std::move(made));
     try {
-        file.Write(bytes);
-        file.Flush();
-        file.Close();
-    } catch (const Failure &) {
-        unlinkat(native.Folder(), native.Rest(), 0);
-        throw;
+        PutInPlace(path, IfThere::Refuse, bytes);
+        return true;
+    } catch (const Failure &failure) {
+        if (failure.number != FailureNumber::FileAlreadyExists)
+            throw;
+        return false;
     }
-    return true;
 }
 
 HiveFile::Content ReadFrom(const QString &path)
@@ -145,9 +140,7 @@ std::optional<Descriptor> HiveFile::Lock(int milliseconds) const
 
 void HiveFile::Replace(const QByteArray &bytes) const
 {
-    PosixReplacingFile file(NativePath(QStringView(Path())), IfThere::Replace, nameBeside);
-    file.Write(bytes);
-    file.Commit();
+    PutInPlace(Path(), IfThere::Replace, bytes);
 }
 
 void HiveFile::SetAside(const QByteArray &bytes) const
