@@ -212,7 +212,7 @@ Finding Overall(const Finding &ofPart, const Evidence &evidence)
 {
     if (ofPart.state >= State::Leftover || evidence.now == evidence.done)
         return ofPart;
-    return {evidence.now == evidence.before ? State::Untouched : State::PartWay, {}};
+    return {evidence.now == evidence.before ? State::Untouched : State::PartWay, {}, {}};
 }
 
 Finding Reported(const Evidence &evidence)

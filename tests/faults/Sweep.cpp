@@ -16,6 +16,7 @@ constexpr bool once = false;
 constexpr bool alsoInShort = true;
 
 constexpr Fault faults[]{
+    {"EIO of all from here on", Kind::Any, EIO, lasting, alsoInShort},
     {"EIO", Kind::Open, EIO, once, alsoInShort},
     {"EMFILE", Kind::Open, EMFILE},
     {"EMFILE from here on", Kind::Open, EMFILE, lasting},
@@ -105,7 +106,16 @@ Verdict VerdictOfKilled(State state)
     return state == State::Done ? Verdict::Done : Verdict::Untouched;
 }
 
-Verdict VerdictOf(const Run &run, const Run &clean, const Fault &fault, State state)
+/// Where all fails from a moment on, nothing can be taken away again: then its name has to be told, but for a
+/// file that was on its way to replace another.
+bool IsExcused(const Run &run, const Fault &fault, const Finding &finding)
+{
+    const std::string name = finding.ownFile.substr(finding.ownFile.rfind('/') + 1);
+    const bool isTold = run.err.find(name) != std::string::npos || name.starts_with("~tr");
+    return fault.lasts && !name.empty() && run.status == 1 && isTold;
+}
+
+Verdict VerdictOf(const Run &run, const Run &clean, const Fault &fault, const Finding &finding)
 {
     // From here on a status stands for a program that couldn't be started, or that says which signal ended
     // it.
@@ -113,11 +123,13 @@ Verdict VerdictOf(const Run &run, const Run &clean, const Fault &fault, State st
     const bool isKilled = IsKilled(run, fault);
     if (!isKilled && (run.status < 0 || run.status >= firstOfTheEnded))
         return Verdict::Crash;
-    if (state == State::Damaged)
+    if (IsExcused(run, fault, finding))
+        return Verdict::Told;
+    if (finding.state == State::Damaged)
         return Verdict::HalfWritten;
-    if (state == State::Leftover)
+    if (finding.state == State::Leftover)
         return Verdict::Leftover;
-    return isKilled ? VerdictOfKilled(state) : VerdictOfEnded(run, clean, fault, state);
+    return isKilled ? VerdictOfKilled(finding.state) : VerdictOfEnded(run, clean, fault, finding.state);
 }
 
 std::string FirstLine(const std::string &text)
@@ -162,7 +174,7 @@ private:
             const Finding finding =
                 subject.check({run.before, clean.now, run.now, run.out, IsKilled(run, fault)});
             const std::string what = finding.state >= State::Leftover ? finding.what : FirstLine(run.err);
-            Add(VerdictOf(run, clean, fault, finding.state),
+            Add(VerdictOf(run, clean, fault, finding),
                 std::to_string(number) + ". " + run.where + ": " + fault.name, run, what);
         }
     }

@@ -45,9 +45,10 @@ Finding WhatIsStrange(const Evidence &evidence)
     for (const auto &[path, entry] : evidence.now) {
         if (Has(evidence.before, path, entry) || Has(evidence.done, path, entry))
             continue;
-        if (evidence.before.contains(path) || evidence.done.contains(path))
-            return {State::Damaged, path + " is neither the old nor the new one"};
-        worst = {State::Leftover, path + " stays behind"};
+        const bool isOfUser = evidence.before.contains(path);
+        if (isOfUser || evidence.done.contains(path))
+            return {State::Damaged, path + " is neither the old nor the new one", isOfUser ? "" : path};
+        worst = {State::Leftover, path + " stays behind", path};
     }
     return worst;
 }
@@ -84,13 +85,13 @@ Finding EachWhole(const Evidence &evidence)
 {
     const std::string lost = WhatIsLost(evidence);
     if (!lost.empty())
-        return {State::Damaged, lost + " has gone"};
+        return {State::Damaged, lost + " has gone", {}};
     Finding strange = WhatIsStrange(evidence);
     if (strange.state != State::Done)
         return strange;
     if (evidence.now == evidence.done)
-        return {State::Done, {}};
-    return {evidence.now == evidence.before ? State::Untouched : State::PartWay, {}};
+        return {};
+    return {evidence.now == evidence.before ? State::Untouched : State::PartWay, {}, {}};
 }
 
 } // namespace tressel::faults

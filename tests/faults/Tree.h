@@ -45,6 +45,7 @@ enum class State {
 struct Finding {
     State state = State::Done;
     std::string what; ///< of the last two
+    std::string ownFile; ///< of the last two: a file that wasn't there before
 };
 
 /// Each file is the old or the new one, whole and with its rights; nothing else is there; nothing that is to

@@ -89,7 +89,8 @@ Overwritten MediumErasure::Erase(const QString &path)
     try {
         Remove(*file, last);
     } catch (const Failure &failure) {
-        if (last != path && files.Status(last, Links::Keep))
+        const bool hasGone = failure.number == FailureNumber::FileNotFound;
+        if (last != path && !hasGone)
             GiveNameBack(last, path, failure);
         throw;
     }
