@@ -79,6 +79,16 @@ TEST_F(Empty, UnreadableFolderIsNamedAndCountsAsFull)
     EXPECT_TRUE(memory.files.Exists(u"C:\\Work\\w\\a\\b"_s));
 }
 
+TEST_F(Empty, FolderThatCannotBeLookedAtIsNamedAndLeftAlone)
+{
+    memory.files.FailAt(Operation::Status, u"C:\\Work\\w\\c"_s, 0, FailureNumber::DeviceIoError);
+    const Ended ended = Run({u"empty"_s, u"remove"_s, u"--cascade"_s, u"w"_s});
+    EXPECT_EQ(ended.status, SomethingFailed);
+    EXPECT_EQ(ended.err, "tressel-cli: C:\\Work\\w\\c: Path/File access error\n");
+    EXPECT_EQ(ended.out, "removed 3, failed 1\n");
+    EXPECT_TRUE(memory.files.Exists(u"C:\\Work\\w\\c"_s));
+}
+
 TEST_F(Empty, LinksAreContentAndNeverFollowed)
 {
     memory.files.PutFolder(u"C:\\Other\\x"_s);

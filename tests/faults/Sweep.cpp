@@ -16,7 +16,7 @@ constexpr bool once = false;
 constexpr bool alsoInShort = true;
 
 constexpr Fault faults[]{
-    {"EIO of all from here on", Kind::Any, EIO, lasting, alsoInShort},
+    {"EIO of all from here on", Kind::Any, EIO, lasting},
     {"EIO", Kind::Open, EIO, once, alsoInShort},
     {"EMFILE", Kind::Open, EMFILE},
     {"EMFILE from here on", Kind::Open, EMFILE, lasting},

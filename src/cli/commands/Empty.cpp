@@ -50,6 +50,7 @@ public:
 private:
     bool Goes(const QString &folder);
     bool AllGo(const QString &folder, const QList<FolderEntry> &entries);
+    bool IsOurs(const QString &folder);
     bool Take(const QString &folder);
     void TellCount();
 
@@ -92,11 +93,26 @@ bool EmptyFolders::AllGo(const QString &folder, const QList<FolderEntry> &entrie
             allGo = false;
             continue;
         }
-        const auto status = files.Status(path, Links::Keep);
-        const bool isOurs = !status || status->volume == volume;
-        allGo = isOurs && Goes(path) && allGo;
+        allGo = IsOurs(path) && Goes(path) && allGo;
     }
     return allGo;
+}
+
+/// Whether the folder isn't mounted here from elsewhere. Where that can't be told, it is left alone as
+/// failed.
+bool EmptyFolders::IsOurs(const QString &folder)
+{
+    if (const auto status = files.Status(folder, Links::Keep))
+        return status->volume == volume;
+    try {
+        files.Read(folder);
+    } catch (const Failure &failure) {
+        // It has gone, which its own turn finds too.
+        if (failure.number == FailureNumber::PathNotFound)
+            return true;
+    }
+    tally.Failed(folder, Failure(FailureNumber::PathFileAccessError));
+    return false;
 }
 
 bool EmptyFolders::Take(const QString &folder)
