@@ -82,9 +82,13 @@ void Desktop::MakeWindow(Form &form)
         return;
     if (dynamic_cast<MainWindow *>(window.get()))
         machine.screen.SetMainWindow(window.get());
+    const bool isOwned = form.Name() == u"frmAbout"_s || form.Name() == u"frmOption"_s;
+    // A desktop keeps no other kind of window before its owner.
+    if (isOwned)
+        window->setWindowFlag(Qt::Dialog);
     auto face = std::make_unique<WindowFace>(form, *window, makers, machine.updates);
     shown.push_back({std::move(window), std::move(face)});
-    if (form.Name() == u"frmAbout"_s || form.Name() == u"frmOption"_s)
+    if (isOwned)
         form.Activate.Also([this, &form] { PutBeforeMain(form); });
 }
 

@@ -95,6 +95,7 @@ private Q_SLOTS:
         QVERIFY(!about.isModal());
         QCOMPARE(about.windowTitle(), u"About Tressel"_s);
         QCOMPARE(about.windowHandle()->transientParent(), stage.Window().windowHandle());
+        QCOMPARE(about.windowHandle()->type(), Qt::Dialog);
         QTest::mouseClick(&PartOf(stage, u"frmAbout"_s, u"btnGBOK"_s), Qt::LeftButton);
         stage.Settle();
         QVERIFY(!about.isVisible());
