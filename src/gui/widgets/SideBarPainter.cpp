@@ -118,7 +118,7 @@ void SideBarPainter::PaintRow(int number)
         painter.fillRect(Leading(row, markWidth), look.Colour(SideBarColour::OpenMark));
     QRect text = row.adjusted(margin + markWidth, 1, -margin - markWidth, 0);
     if (entry.image > 0) {
-        PaintIcon(Leading(text, SideBarLook::iconSize), entry);
+        PaintIcon(Leading(text, SideBarLook::iconSize), entry, ground);
         text = Trailing(text, text.width() - SideBarLook::iconSize - margin);
     }
     painter.setFont(look.TitleFont());
@@ -134,7 +134,7 @@ void SideBarPainter::PaintCell(int number)
     if (number == view.open)
         painter.fillRect(QRect(cell.left(), cell.bottom() + 1 - markWidth, cell.width(), markWidth),
                          look.Colour(SideBarColour::OpenMark));
-    if (PaintIcon(cell, entry))
+    if (PaintIcon(cell, entry, ground))
         return;
     painter.setFont(look.TitleFont());
     painter.setPen(look.TitleOn(ground));
@@ -184,9 +184,11 @@ void SideBarPainter::PaintText(const QRect &rect, const QString &text, const QCo
     painter.restore();
 }
 
-bool SideBarPainter::PaintIcon(const QRect &rect, const SideBarEntryView &entry)
+bool SideBarPainter::PaintIcon(const QRect &rect, const SideBarEntryView &entry, const QColor &ground)
 {
-    const QIcon icon = icons && entry.image > 0 ? icons(entry.image) : QIcon();
+    const QIcon icon = icons && entry.image > 0
+        ? icons(entry.image, PictureColoursOn(ground, look.TitleOn(ground)))
+        : QIcon();
     if (icon.isNull())
         return false;
     const int size = std::min(SideBarLook::iconSize, rect.width());

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "widgets/PictureImages.h"
 #include "widgets/SideBarLayout.h"
 #include "widgets/SideBarLook.h"
 #include "widgets/SideBarView.h"
@@ -15,8 +16,8 @@ class QPainter;
 
 namespace tressel {
 
-/// Gives the icon of an image number.
-using IconProvider = std::function<QIcon(int)>;
+/// Gives the icon of an image number in the colours that its ground asks for.
+using IconProvider = std::function<QIcon(int image, const PictureColours &colours)>;
 
 /// What the mouse and the keyboard are at.
 struct SideBarTouch {
@@ -43,8 +44,8 @@ private:
     void PaintFocus();
     void PaintChevron(const QRect &rect, bool up, bool active, const QColor &ground);
     void PaintText(const QRect &rect, const QString &text, const QColor &colour);
-    /// The icon in the middle of the rectangle; false if there is none.
-    bool PaintIcon(const QRect &rect, const SideBarEntryView &entry);
+    /// The icon in the middle of the rectangle, which has that ground; false if there is none.
+    bool PaintIcon(const QRect &rect, const SideBarEntryView &entry, const QColor &ground);
     QColor EntryGround(int number, const QColor &rest) const;
     QColor ButtonGround(SideBarPart::Kind kind, const QColor &rest) const;
     /// A piece of the given width at the leading edge, or at the trailing one.

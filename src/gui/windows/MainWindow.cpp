@@ -7,7 +7,7 @@
 #include "faces/PlainTips.h"
 #include "forms/MainForm.h"
 #include "widgets/IsButtonWidget.h"
-#include "widgets/ProgramIcons.h"
+#include "widgets/PictureImages.h"
 #include "widgets/SideBarWidget.h"
 #include "windows/ClickPlaces.h"
 #include "windows/ElidedLabel.h"
@@ -40,12 +40,18 @@ constexpr std::array createKeys{QKeyCombination(Qt::ControlModifier, Qt::Key_Ret
                                 QKeyCombination(Qt::ControlModifier, Qt::Key_Enter)};
 
 /// The icons of the side bar's entries, by their image numbers from 1.
-QIcon IconOfEntry(int image)
+QIcon IconOfEntry(int image, const PictureColours &colours)
 {
     static const QStringList names{u"browse-files"_s,  u"text-lists"_s, u"numbered-folders"_s,
                                    u"file-splitter"_s, u"database"_s,   u"empty-folders"_s,
                                    u"rename"_s};
-    return image >= 1 && image <= names.size() ? ProgramIcon(names.at(image - 1)) : QIcon();
+    QIcon icon;
+    if (image < 1 || image > names.size())
+        return icon;
+    for (const int scale : {1, 2, 3})
+        icon.addPixmap(QPixmap::fromImage(
+            ImageOf(Picture(names.at(image - 1)), scale * SideBarLook::iconSize, colours)));
+    return icon;
 }
 
 IsButtonWidget *ToolButton(const QString &name)

@@ -62,7 +62,7 @@ SideBarColours SideBarStage::FirstPalette()
             0xFFFFFF, 0xDFDFDF, 0x9C9C9C, 0x4DB9F3, 0xB6E2FA};
 }
 
-QIcon SideBarStage::Icon(int number)
+QIcon SideBarStage::Icon(int number, const PictureColours & /*colours*/)
 {
     QIcon icon;
     for (const int size : {20, 40, 60}) {

@@ -25,7 +25,7 @@ public:
     /// The palette that a first start shows.
     static SideBarColours FirstPalette();
     /// A plain drawing to stand for the icon of that number.
-    static QIcon Icon(int number);
+    static QIcon Icon(int number, const PictureColours &colours);
     static QPalette DarkDesktop();
 
     Form form{QStringLiteral("frmMain")};

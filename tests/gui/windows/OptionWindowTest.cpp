@@ -74,6 +74,19 @@ QString SpokenName(QWidget *widget)
     return spoken ? spoken->text(QAccessible::Name).trimmed() : QString();
 }
 
+/// Pixels of the pictures' own line colour in the bar of icons at the side bar's foot.
+int DarkLinesAtTheFoot(QWidget &bar)
+{
+    constexpr int height = 24;
+    const QImage image = bar.grab().toImage();
+    int count = 0;
+    for (int y = image.height() - height; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            count += image.pixelColor(x, y) == QColor(0x2F, 0x48, 0x58) ? 1 : 0;
+    }
+    return count;
+}
+
 int PaintsOf(QWidget &widget, const std::function<void()> &act)
 {
     struct Counter : QObject {
@@ -128,6 +141,7 @@ private Q_SLOTS:
     {
         const OptionStage stage;
         QCOMPARE(stage.Dialog().windowHandle()->transientParent(), stage.Window().windowHandle());
+        QCOMPARE(stage.Dialog().windowHandle()->type(), Qt::Dialog);
         const QPoint away = stage.Dialog().geometry().center() - stage.Window().geometry().center();
         QVERIFY2(away.manhattanLength() <= 4, qPrintable(u"%1, %2"_s.arg(away.x()).arg(away.y())));
     }
@@ -309,6 +323,11 @@ private Q_SLOTS:
                     light += qGray(exit.pixel(x, y)) > 200 ? 1 : 0;
             }
             QVERIFY2(light > 40, qPrintable(QString::number(light)));
+            // The side bar in the desktop's colours has its icons on a dark ground, too.
+            QVERIFY(DarkLinesAtTheFoot(stage.Face<QWidget>(u"EyeDropper1"_s)) > 0);
+            stage.Open(3);
+            stage.Click(u"btnGBColorSystem"_s);
+            QCOMPARE(DarkLinesAtTheFoot(stage.Face<QWidget>(u"EyeDropper1"_s)), 0);
         }
         QApplication::setPalette(before);
     }
