@@ -39,8 +39,9 @@ constexpr Column ofKills[]{
     {"leftover", Verdict::Leftover}, {"false success", Verdict::FalseSuccess},
 };
 
-/// A short sweep goes to one of so many points.
+/// A short sweep goes to one of so many points; of the window, which takes longest to start, to fewer.
 constexpr int shortStride = 3;
+constexpr int shortStrideOfWindow = 12;
 
 struct Wishes {
     bool isShort = false;
@@ -88,6 +89,13 @@ std::vector<Fault> FaultsOf(const Case &subject, const Wishes &wishes)
     return faults;
 }
 
+int StrideOf(const Case &subject, const Wishes &wishes)
+{
+    if (!wishes.isShort)
+        return 1;
+    return subject.subject == Subject::Window ? shortStrideOfWindow : shortStride;
+}
+
 void PrintHead(std::span<const Column> columns)
 {
     std::printf("%-30s %6s", "", "points");
@@ -128,7 +136,7 @@ int main(int count, char **arguments)
     for (const Case &subject : Cases()) {
         if (!IsWanted(subject, wishes))
             continue;
-        const Row row = Sweep(bench, subject, FaultsOf(subject, wishes), wishes.isShort ? shortStride : 1);
+        const Row row = Sweep(bench, subject, FaultsOf(subject, wishes), StrideOf(subject, wishes));
         PrintRow(row, columns);
         AddTo(total, row);
         isSound = isSound && row.mistakes.empty();
