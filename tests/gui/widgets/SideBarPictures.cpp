@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// One picture: what is done to a new side bar before it is taken.
-struct Picture {
+struct StatePicture {
     QString name;
     QSize size;
     double scale = 1;
@@ -29,7 +29,7 @@ void FirstStart(SideBarStage &stage)
     stage.bar.SetColors(SideBarStage::FirstPalette());
 }
 
-QList<Picture> Pictures()
+QList<StatePicture> Pictures()
 {
     const QSize first(340, 365);
     const QSize tall(360, 620);
@@ -84,7 +84,7 @@ QList<Picture> Pictures()
     };
 }
 
-bool Save(const Picture &picture, const QDir &folder)
+bool Save(const StatePicture &picture, const QDir &folder)
 {
     const QPalette usual = QApplication::palette();
     if (picture.dark)
@@ -120,7 +120,7 @@ int main(int count, char **arguments)
         return 2;
     }
     int failures = 0;
-    for (const Picture &picture : Pictures())
+    for (const StatePicture &picture : Pictures())
         failures += Save(picture, QDir(words.at(1))) ? 0 : 1;
     return failures == 0 ? 0 : 1;
 }

@@ -136,17 +136,23 @@ private Q_SLOTS:
         QVERIFY_THROWS_EXCEPTION(ProcessEnded, stage.Form().btnGBToolbarExit.UserClicks());
         stage.Settle();
         QVERIFY(!stage.Window().isVisible());
+        const TemporaryFolder folder;
+        const PosixSystemFacts facts;
+        FileHive settings(folder.Path(), facts);
+        settings.Write(SettingsHive::Root::User, u"Software\\Some Maker"_s, u"a"_s, 1U);
+        const HeldFolder held(folder.Path());
         QStringList told;
         WhenUp<QMessageBox>([&](QMessageBox &box) {
             told += box.windowTitle();
             told += box.text();
             box.accept();
         });
-        stage.desktop->TellUnsaved(u"Disk full: /home/me/.config/tressel/settings"_s);
+        QVERIFY(!SaveSettings(settings, stage.desktop.get()));
         QCOMPARE(told,
                  (QStringList{u"Tressel"_s,
                               u"The settings of this run could not be saved.\n\n"
-                              "Disk full: /home/me/.config/tressel/settings"_s}));
+                              "Another program holds the settings folder "_s
+                                  + folder.Path() + u'.'}));
     }
 
     void ASignalEndsTheProgramAlsoWhereTheBoxStands()

@@ -170,7 +170,8 @@ private Q_SLOTS:
         passed.start();
         stage.Start();
         QCOMPARE(stage.server.requests.size(), 1);
-        QVERIFY2(passed.elapsed() >= 2900, qPrintable(QString::number(passed.elapsed())));
+        // The toolkit's timers may be five in a hundred early.
+        QVERIFY2(passed.elapsed() >= 2850, qPrintable(QString::number(passed.elapsed())));
         QVERIFY(stage.Window().isVisible());
         QVERIFY(!stage.Notice().isVisible());
     }
