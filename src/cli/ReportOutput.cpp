@@ -34,12 +34,13 @@ QString ReportOutput::Shown(const QString &name) const
     return file ? name : console.Shown(name);
 }
 
-void ReportOutput::WriteLine(const QString &line)
+void ReportOutput::WriteLine(const QString &line, const QString &rest)
 {
     const qsizetype before = held.size();
     held.reserve(2 * heldAtMost);
-    held.resize(before + line.size() * 3);
-    held.truncate(WriteUtf8(line, NameBytes::Raw, held.data() + before) - held.constData());
+    held.resize(before + (line.size() + rest.size()) * 3);
+    char *const middle = WriteUtf8(line, NameBytes::Raw, held.data() + before);
+    held.truncate(WriteUtf8(rest, NameBytes::Raw, middle) - held.constData());
     held += end;
     if (held.size() >= heldAtMost)
         Pass();

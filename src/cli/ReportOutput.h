@@ -27,8 +27,8 @@ public:
 
     /// A name as it may stand in a line.
     QString Shown(const QString &name) const;
-    /// A line without its end. A file fails as ReplacingFile::Write does.
-    void WriteLine(const QString &line);
+    /// A line without its end, which may come in two pieces. A file fails as ReplacingFile::Write does.
+    void WriteLine(const QString &line, const QString &rest = {});
     /// Writes the rest, and puts the file in place. Without it the file is left as it was.
     void Commit();
 

@@ -60,6 +60,7 @@ private:
     FileSystem &files;
     const QString folder;
     const ReportStyle style;
+    const QString fileLineStart{StartOfFileLine(style)};
     std::optional<QString> outputPath; ///< none for standard output
 
     /// What the folder of the output held before the output was begun.
@@ -133,7 +134,7 @@ QStringList Report::WriteBlock(ReportOutput &output, const QString &path)
         }
         ++listedFiles;
         if (!style.foldersOnly)
-            output.WriteLine(FileLine(output.Shown(entry.name), style));
+            output.WriteLine(fileLineStart, output.Shown(entry.name));
     }
     output.WriteLine(start.begun + EndOfBlock());
     return below;

@@ -3,8 +3,6 @@
 
 #include "tools/listing/ReportLines.h"
 
-#include <QStringBuilder>
-
 namespace tressel {
 
 using namespace Qt::StringLiterals;
@@ -23,9 +21,14 @@ BlockStart StartOfBlock(const QString &folder, const ReportStyle &style)
     return {{u" "_s, folder}, {}};
 }
 
+QString StartOfFileLine(const ReportStyle &style)
+{
+    return style.namesSetIn ? u"   "_s : QString();
+}
+
 QString FileLine(const QString &name, const ReportStyle &style)
 {
-    return style.namesSetIn ? QString(u"   " % name) : name;
+    return StartOfFileLine(style) + name;
 }
 
 QString EndOfBlock()

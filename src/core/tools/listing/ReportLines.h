@@ -24,6 +24,8 @@ struct BlockStart {
     QString begun; ///< a line that the next one goes on with
 };
 BlockStart StartOfBlock(const QString &folder, const ReportStyle &style);
+/// What stands ahead of the name in a file's line.
+QString StartOfFileLine(const ReportStyle &style);
 /// A file's line; none is written with folders alone.
 QString FileLine(const QString &name, const ReportStyle &style);
 /// The line that ends a block.
