@@ -5,6 +5,8 @@
 
 #include "tools/ToolContext.h"
 
+#include <QString>
+
 namespace tressel {
 
 /// Shows the folder list as a tree: a root and one child for each entry. The tree is thrown away and
