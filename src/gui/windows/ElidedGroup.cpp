@@ -7,6 +7,7 @@
 #include "faces/PlainTips.h"
 
 #include <QHelpEvent>
+#include <QLayout>
 #include <QStyleOptionGroupBox>
 #include <QStylePainter>
 
@@ -24,7 +25,7 @@ QSize ElidedGroup::minimumSizeHint() const
 {
     constexpr int widestThatStays = 140;
     const QSize least = QGroupBox::minimumSizeHint();
-    const int content = QWidget::minimumSizeHint().width();
+    const int content = layout() ? layout()->totalMinimumSize().width() : 0;
     return {std::max(std::min(least.width(), widestThatStays), content), least.height()};
 }
 

@@ -43,6 +43,11 @@ void ElidedLabel::paintEvent(QPaintEvent *)
                           palette(), isEnabled(), ShownText(), foregroundRole());
 }
 
+void ElidedLabel::PaintWhole(QPaintEvent *event)
+{
+    QLabel::paintEvent(event);
+}
+
 int CaptionLabel::Flags() const
 {
     return static_cast<int>(alignment()) | (buddy() ? Qt::TextShowMnemonic : 0);
@@ -63,7 +68,7 @@ void CaptionLabel::paintEvent(QPaintEvent *event)
 {
     const QString shown = ShownText();
     if (shown == text()) {
-        QLabel::paintEvent(event);
+        PaintWhole(event);
         return;
     }
     QPainter painter(this);

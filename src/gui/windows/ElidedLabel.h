@@ -18,6 +18,9 @@ public:
 protected:
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+
+    /// Paints the whole text as any label does.
+    void PaintWhole(QPaintEvent *event);
 };
 
 /// The same for a caption, which keeps its line breaks and gives way to a field beside it only where it is
