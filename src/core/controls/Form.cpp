@@ -5,6 +5,7 @@
 
 #include "controls/Control.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace tressel {
@@ -35,6 +36,9 @@ void Form::Move(int newLeft, int newTop)
 
 void Form::SetSize(int newWidth, int newHeight)
 {
+    // A stored size may be any number, a window's is never less than nothing.
+    newWidth = std::max(newWidth, 0);
+    newHeight = std::max(newHeight, 0);
     if (width == newWidth && height == newHeight)
         return;
     width = newWidth;

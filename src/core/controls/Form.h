@@ -46,7 +46,7 @@ public:
     int Width() const { return width; }
     int Height() const { return height; }
     void Move(int newLeft, int newTop);
-    /// Raises Resize if the size differs.
+    /// Raises Resize if the size differs. What is below 0 counts as 0.
     void SetSize(int newWidth, int newHeight);
 
     /// The user can't make the window smaller, in twips. At 0 the window's own content says what is least.

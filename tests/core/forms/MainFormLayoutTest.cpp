@@ -3,6 +3,8 @@
 
 #include "MainFormTest.h"
 
+#include <limits>
+
 using namespace tressel;
 using namespace Qt::StringLiterals;
 
@@ -26,6 +28,13 @@ TEST_F(MainFormTest, TheWindowAsItWasDrawn)
 {
     EXPECT_EQ(form.Width(), 13470);
     EXPECT_EQ(form.Height(), 19275);
+}
+
+TEST_F(MainFormTest, NoWindowIsSmallerThanNothing)
+{
+    form.SetSize(std::numeric_limits<int>::min(), -1);
+    EXPECT_EQ(form.Width(), 0);
+    EXPECT_EQ(form.Height(), 0);
 }
 
 TEST_F(MainFormTest, AWindowThatCannotBeSeenIsNotLaidOut)
