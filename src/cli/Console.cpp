@@ -48,6 +48,11 @@ void Console::Line(const QString &text)
     streams.Out().Write(EncodeText(text, NameBytes::Raw) + lineEnd);
 }
 
+void Console::Cell(const QString &text)
+{
+    streams.Out().Write(EncodeText(text, NameBytes::Raw) + (EndsInNul() ? '\0' : '\t'));
+}
+
 QString Console::Shown(const QString &name) const
 {
     return streams.Out().IsTerminal() && !EndsInNul() ? SafeName(name) : name;

@@ -40,6 +40,8 @@ public:
 
     /// A result: the text and a line end, or a NUL with --null. Names in it have gone through Shown.
     void Line(const QString &text);
+    /// What stands before others in a line: the text and a tab, or a NUL with --null.
+    void Cell(const QString &text);
     /// A name as a result shows it: byte for byte, but for a terminal as SafeName has it.
     QString Shown(const QString &name) const;
     /// Something that failed: what, and why. It counts.

@@ -8,6 +8,7 @@ namespace tressel::jet {
 namespace {
 
 constexpr unsigned bitsInByte = 8;
+constexpr std::size_t kindPlace = 4; // in a frame, behind the length
 
 std::uint64_t ReadNumber(std::string_view bytes)
 {
@@ -20,9 +21,9 @@ std::uint64_t ReadNumber(std::string_view bytes)
 } // namespace
 
 Packer::Packer(FrameKind kind)
-    : frame(4, '\0')
+    : frame(FrameHeadLength, '\0')
 {
-    Number8(static_cast<std::uint8_t>(kind));
+    As(kind);
 }
 
 Packer &Packer::Number8(std::uint8_t number)
@@ -64,10 +65,16 @@ Packer &Packer::Bytes(std::string_view bytes)
     return *this;
 }
 
+Packer &Packer::As(FrameKind kind)
+{
+    frame[kindPlace] = static_cast<char>(kind);
+    return *this;
+}
+
 const std::string &Packer::Frame()
 {
     auto length = static_cast<std::uint32_t>(frame.size() - FrameHeadLength);
-    for (std::size_t index = 0; index < 4; ++index, length >>= bitsInByte)
+    for (std::size_t index = 0; index < kindPlace; ++index, length >>= bitsInByte)
         frame[index] = static_cast<char>(length & 0xFFU);
     return frame;
 }
@@ -115,8 +122,8 @@ std::optional<FrameHead> ReadHead(std::string_view bytes)
 {
     if (bytes.size() < FrameHeadLength)
         return {};
-    const auto length = static_cast<std::uint32_t>(ReadNumber(bytes.substr(0, 4)));
-    const auto kind = static_cast<std::uint8_t>(bytes[4]);
+    const auto length = static_cast<std::uint32_t>(ReadNumber(bytes.substr(0, kindPlace)));
+    const auto kind = static_cast<std::uint8_t>(bytes[kindPlace]);
     if (length > LongestFrame || kind < static_cast<std::uint8_t>(FrameKind::AskObjects)
         || kind > static_cast<std::uint8_t>(FrameKind::End)) {
         return {};

@@ -18,15 +18,18 @@
 /// isn't whole; Failed may come at any place and is the last frame then.
 namespace tressel::jet {
 
-inline constexpr std::uint8_t ProtocolVersion = 1;
+inline constexpr std::uint8_t ProtocolVersion = 2;
 inline constexpr std::size_t FrameHeadLength = 5;
 /// The longest content that either side takes.
 inline constexpr std::uint32_t LongestFrame = 128U << 20U;
+/// The longest question, with its head: what a pipe holds before anybody reads it.
+inline constexpr std::size_t LongestQuestion = 64U << 10U;
 /// The descriptor under which tressel-jet finds the file, open for reading.
 inline constexpr int FileDescriptor = 3;
 
 enum class FrameKind : std::uint8_t {
-    // Questions: the road (8 bits, 1 for the older one), the table, the field.
+    // Questions: the road (8 bits, 1 for the older one), the table, the number of fields (16 bits), the
+    // fields.
     AskObjects = 1,
     AskFields,
     AskValues,
@@ -35,9 +38,10 @@ enum class FrameKind : std::uint8_t {
     Object, ///< ObjectKind (8 bits), name
     Field, ///< type code (16 bits), size (32 bits), name
     Opened, ///< what was asked for is open: the list of objects, or the table whose values come then
-    Value, ///< ValueKind (8 bits) and the value
-    Failed, ///< FailureCode (8 bits)
-    End, ///< how many frames of the kind that was asked for came before (64 bits)
+    Value, ///< ValueKind (8 bits) and the value; more of the same row follow
+    LastValue, ///< the same for the last value of a row, also if it is the only one
+    Failed, ///< FailureCode (8 bits), which one of the fields is missing (16 bits, 0 for all other codes)
+    End, ///< how many frames of what was asked for came before (64 bits)
 };
 
 enum class ObjectKind : std::uint8_t { Table = 1, View, LinkedTable, SystemTable };
@@ -78,6 +82,8 @@ public:
     Packer &Number64(std::uint64_t number);
     Packer &Text(std::u16string_view text);
     Packer &Bytes(std::string_view bytes);
+    /// Makes it a frame of another kind.
+    Packer &As(FrameKind kind);
 
     /// The whole frame.
     const std::string &Frame();

@@ -19,6 +19,7 @@
 #include <new>
 #include <unistd.h>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -68,15 +69,14 @@ struct Question {
     FrameKind kind;
     bool older;
     std::u16string table;
-    std::u16string field;
+    std::vector<std::u16string> fields;
 };
 
 std::string ReadInput()
 {
-    constexpr std::size_t longest = 64U << 10U;
     std::string input;
     std::array<char, 4096> piece{};
-    while (input.size() <= longest) {
+    while (input.size() <= LongestQuestion) {
         const ssize_t got = read(STDIN_FILENO, piece.data(), piece.size());
         if (got > 0)
             input.append(piece.data(), static_cast<std::size_t>(got));
@@ -93,8 +93,10 @@ Question ReadQuestion()
     if (!head || head->kind > FrameKind::AskValues || input.size() != FrameHeadLength + head->length)
         _exit(unusable);
     Unpacker unpacker(std::string_view(input).substr(FrameHeadLength));
-    Question question{head->kind, unpacker.Number8() != 0, unpacker.Text(), unpacker.Text()};
-    if (!unpacker.IsWhole())
+    Question question{head->kind, unpacker.Number8() != 0, unpacker.Text(), {}};
+    for (std::uint16_t left = unpacker.Number16(); left > 0; --left)
+        question.fields.push_back(unpacker.Text());
+    if (!unpacker.IsWhole() || (question.kind == FrameKind::AskValues && question.fields.empty()))
         _exit(unusable);
     return question;
 }
@@ -135,16 +137,31 @@ void TellFields(JetFile &file, const std::u16string &table, Output &output)
     }
 }
 
+std::vector<std::size_t> ColumnsOf(const JetTable &table, const std::vector<std::u16string> &fields)
+{
+    std::vector<std::size_t> columns;
+    for (const std::u16string &field : fields) {
+        const auto column = table.Find(field);
+        if (!column)
+            throw Refusal{FailureCode::NoSuchField, static_cast<std::uint16_t>(columns.size())};
+        columns.push_back(*column);
+    }
+    return columns;
+}
+
 void TellValues(JetFile &file, const Question &question, Output &output)
 {
     JetTable table(file, PageOfTable(file, question.table));
     output.Send(Packer(FrameKind::Opened));
     output.TakeCount();
-    const auto column = table.Find(question.field);
+    std::vector<std::size_t> columns;
     while (table.NextRow()) {
-        if (!column)
-            throw Refusal{FailureCode::NoSuchField};
-        output.Send(ValueOf(file, table, *column));
+        // Not before there is a row: in a table without any no field is missed.
+        if (columns.empty())
+            columns = ColumnsOf(table, question.fields);
+        for (std::size_t place = 0; place + 1 < columns.size(); ++place)
+            output.Send(ValueOf(file, table, columns[place]));
+        output.Send(ValueOf(file, table, columns.back()).As(FrameKind::LastValue));
     }
 }
 
@@ -164,9 +181,10 @@ void Answer(const Question &question, Output &output)
     output.Send(Packer(FrameKind::End).Number64(output.TakeCount()));
 }
 
-void Refuse(FailureCode code, Output &output)
+void Refuse(const Refusal &refusal, Output &output)
 {
-    output.Send(Packer(FrameKind::Failed).Number8(static_cast<std::uint8_t>(code)));
+    output.Send(
+        Packer(FrameKind::Failed).Number8(static_cast<std::uint8_t>(refusal.code)).Number16(refusal.field));
 }
 
 } // namespace
@@ -182,9 +200,9 @@ int main()
     try {
         Answer(question, output);
     } catch (const Refusal &refusal) {
-        Refuse(refusal.code, output);
+        Refuse(refusal, output);
     } catch (const std::bad_alloc &) {
-        Refuse(FailureCode::Damaged, output);
+        Refuse({FailureCode::Damaged}, output);
     }
     output.Flush();
     // At once: what is left of a damaged file had better not be cleaned up.

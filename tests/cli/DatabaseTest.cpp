@@ -67,6 +67,45 @@ TEST_F(Database, WritesAllValuesOfAField)
     EXPECT_EQ(Of({u"--values"_s, u"Empty"_s, u"Name"_s}).out, QByteArray());
 }
 
+TEST_F(Database, WritesTheValuesOfSeveralFieldsRowByRow)
+{
+    const Ended rows = Of({u"--values"_s, u"Goods"_s, u"Name"_s, u"Price"_s, u"Since"_s, u"--plain"_s});
+    EXPECT_EQ(rows.out, QByteArray("Chair\t12.5\t2004-03-31\nTable\\Oak\t\t2004-03-31 12:00:00\n"));
+    EXPECT_EQ(rows.status, AllDone);
+    // In the order of the words, the same one twice if somebody wants it so.
+    EXPECT_EQ(Of({u"--values"_s, u"Goods"_s, u"price"_s, u"Name"_s, u"Price"_s}).out,
+              QByteArray("12.5\tChair\t12.5\n\tTable\\Oak\t\n"));
+    EXPECT_EQ(Of({u"--null"_s, u"--values"_s, u"Goods"_s, u"Name"_s, u"Price"_s}).out,
+              QByteArray("Chair\0"
+                         "12.5\0"
+                         "Table\\Oak\0"
+                         "\0",
+                         22));
+    EXPECT_EQ(Of({u"--values"_s, u"Empty"_s, u"Name"_s, u"Name"_s}).out, QByteArray());
+}
+
+TEST_F(Database, TabsAndLineBreaksOfValuesAreRawInAPipeAndQuotedOnATerminal)
+{
+    memory.databases.PutTable(u"C:\\Work\\shop.mdb"_s,
+                              {u"Odd"_s,
+                               {{u"A"_s, fieldTypes::Text, 40}, {u"B"_s, fieldTypes::Text, 40}},
+                               {{u"one\ttwo"_s, u"three\nfour"_s}}});
+    const QStringList words{u"--values"_s, u"Odd"_s, u"A"_s, u"B"_s};
+    EXPECT_EQ(Of(words).out, QByteArray("one\ttwo\tthree\nfour\n"));
+    EXPECT_EQ(Of(words + QStringList{u"--null"_s}).out, QByteArray("one\ttwo\0three\nfour\0", 19));
+    out.isTerminal = true;
+    EXPECT_EQ(Of(words).out, QByteArray("'one'$'\\t''two'\t'three'$'\\n''four'\n"));
+}
+
+TEST_F(Database, TellsOfValuesOfSeveralFieldsThatAreNoText)
+{
+    const Ended ended = Of({u"--values"_s, u"Goods"_s, u"Picture"_s, u"Name"_s, u"Picture"_s});
+    EXPECT_EQ(ended.out, QByteArray("\tChair\t\n\tTable\\Oak\t\n"));
+    EXPECT_EQ(ended.err,
+              QByteArray("tressel-cli: 4 values can't be written as text; their places are empty\n"));
+    EXPECT_EQ(ended.status, SomethingFailed);
+}
+
 TEST_F(Database, TellsOfValuesThatAreNoText)
 {
     const Ended ended = Of({u"--values"_s, u"Goods"_s, u"Picture"_s});
@@ -83,6 +122,8 @@ TEST_F(Database, NamesWhatFailed)
     EXPECT_TRUE(Of({u"--fields"_s, u"None"_s}).err.contains("There is no table 'None'"));
     EXPECT_EQ(Of({u"--values"_s, u"Goods"_s, u"None"_s}).status, SomethingFailed);
     EXPECT_EQ(Of({u"--values"_s, u"A view"_s, u"Name"_s}).status, SomethingFailed);
+    EXPECT_EQ(Of({u"--values"_s, u"Goods"_s, u"Name"_s, u"None"_s}).status, SomethingFailed);
+    EXPECT_EQ(Of({u"--values"_s, u"Goods"_s, u"Name"_s, u"None"_s}).out, QByteArray());
     EXPECT_EQ(Run({u"database"_s, u"none.mdb"_s}).status, SomethingFailed);
 }
 
@@ -90,6 +131,7 @@ TEST_F(Database, WantsOneQuestion)
 {
     for (const QStringList &words : QList<QStringList>{{u"--tables"_s, u"--fields"_s, u"Goods"_s},
                                                        {u"--values"_s, u"Goods"_s},
+                                                       {u"--values"_s, u"Goods"_s, u"Name"_s, u""_s},
                                                        {u"--fields"_s, u"Goods"_s, u"Name"_s},
                                                        {u"--plain"_s}})
         EXPECT_EQ(Of(words).status, WrongUsage);

@@ -29,12 +29,12 @@ inline QList<DatabaseField> AllFields(Databases &databases, const QString &file,
     return fields;
 }
 
-/// All values of a field.
+/// All values of some fields, row by row.
 inline QList<DatabaseValue> AllValues(Databases &databases, const QString &file, const QString &table,
-                                      const QString &field)
+                                      const QStringList &fields)
 {
     QList<DatabaseValue> values;
-    const auto reader = databases.Read(file, table, field);
+    const auto reader = databases.Read(file, table, fields);
     while (const auto value = reader->Next())
         values += *value;
     return values;

@@ -48,17 +48,15 @@ private:
     bool isOpen = true;
 };
 
-/// Reads a field of a table that no longer changes.
+/// Reads fields of a table that no longer changes.
 class MemoryFieldReader : public FieldReader {
 public:
-    MemoryFieldReader(MemoryDatabases &databases, MemoryTable table, const QString &field)
+    MemoryFieldReader(MemoryDatabases &databases, MemoryTable table, const QStringList &fields)
         : databases(databases)
         , table(std::move(table))
     {
-        const auto found = std::ranges::find_if(
-            this->table.fields, [&](const DatabaseField &each) { return AreSame(each.name, field); });
-        if (found != this->table.fields.end())
-            column = found - this->table.fields.begin();
+        for (const QString &field : fields)
+            columns += ColumnOf(field);
     }
     int State() const override { return isOpen ? 1 : 0; }
     void Close() override
@@ -71,16 +69,30 @@ public:
         if (row >= table.rows.size())
             return {};
         databases.Obey(u"NextValue"_s);
-        if (column < 0)
+        if (columns.contains(-1))
             throw Failure(databaseFailures::NoSuchField, u"No such field."_s);
-        return table.rows.at(row++).at(column);
+        const DatabaseValue value = table.rows.at(row).at(columns.at(place));
+        if (++place == columns.size()) {
+            place = 0;
+            ++row;
+        }
+        return value;
     }
 
 private:
+    /// -1 if there is no such field.
+    qsizetype ColumnOf(const QString &field) const
+    {
+        const auto found = std::ranges::find_if(
+            table.fields, [&](const DatabaseField &each) { return AreSame(each.name, field); });
+        return found == table.fields.end() ? -1 : found - table.fields.begin();
+    }
+
     MemoryDatabases &databases;
     MemoryTable table;
-    qsizetype column = -1;
+    QList<qsizetype> columns;
     qsizetype row = 0;
+    qsizetype place = 0; ///< in the row
     bool isOpen = true;
 };
 
@@ -144,10 +156,10 @@ std::unique_ptr<FieldListReader> MemoryDatabases::OpenFields(const QString &file
 }
 
 std::unique_ptr<FieldReader> MemoryDatabases::Read(const QString &file, const QString &table,
-                                                   const QString &field)
+                                                   const QStringList &fields)
 {
-    Note(u"OpenTable"_s, file, table + u' ' + field);
-    return std::make_unique<MemoryFieldReader>(*this, Find(file, table, DatabaseRoad::Newer), field);
+    Note(u"OpenTable"_s, file, table + u' ' + fields.join(u' '));
+    return std::make_unique<MemoryFieldReader>(*this, Find(file, table, DatabaseRoad::Newer), fields);
 }
 
 void MemoryDatabases::Obey(const QString &what)

@@ -43,13 +43,13 @@ public:
     /// "NextValue" or "Close" fails. An order that never came due fails the test.
     void OrderFailure(const QString &what, int nth, const Failure &failure);
 
-    // The journal has "OpenSchema", "ListFields" and "OpenTable" about the file, with table and field as
+    // The journal has "OpenSchema", "ListFields" and "OpenTable" about the file, with table and fields as
     // detail, and "CloseDatabase".
     std::unique_ptr<ObjectReader> OpenSchema(const QString &file, DatabaseRoad road) override;
     std::unique_ptr<FieldListReader> OpenFields(const QString &file, const QString &table,
                                                 DatabaseRoad road) override;
     std::unique_ptr<FieldReader> Read(const QString &file, const QString &table,
-                                      const QString &field) override;
+                                      const QStringList &fields) override;
 
     // For the readers.
 

@@ -130,7 +130,7 @@ void Creation::ReadField(const QString &file)
 {
     const ValueWriter writer{QLocale()};
     const auto reader = console.machine.databases.Read(console.Path(file), arguments.Need(tableOption),
-                                                       arguments.Need(fieldOption));
+                                                       {arguments.Need(fieldOption)});
     qint64 row = 0;
     while (const auto value = reader->Next()) {
         ++row;

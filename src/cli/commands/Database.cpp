@@ -46,12 +46,14 @@ void ListFields(Console &console, const QString &file, const QString &table)
     }
 }
 
-void ListValues(Console &console, const QString &file, const QString &table, const QString &field,
+void ListValues(Console &console, const QString &file, const QString &table, const QStringList &fields,
                 bool isPlain)
 {
     const ValueWriter writer = isPlain ? ValueWriter::Plain() : ValueWriter(QLocale());
-    const auto reader = console.machine.databases.Read(file, table, field);
+    const auto reader = console.machine.databases.Read(file, table, fields);
     qint64 without = 0;
+    qsizetype place = 0; // in the row
+    // A value at a time: a row of long texts may be more than the memory holds.
     while (const auto value = reader->Next()) {
         QString text;
         try {
@@ -60,23 +62,30 @@ void ListValues(Console &console, const QString &file, const QString &table, con
         } catch (const Failure &) {
             ++without;
         }
-        console.Line(console.Shown(text));
-        console.BetweenSteps();
+        if (++place < fields.size()) {
+            console.Cell(console.Shown(text));
+        } else {
+            console.Line(console.Shown(text));
+            console.BetweenSteps();
+            place = 0;
+        }
     }
-    if (without > 0)
-        console.FailAs(u"%1 values can't be written as text; their lines are empty"_s.arg(without));
+    if (without > 0) {
+        const QString what = fields.size() == 1 ? u"lines"_s : u"places"_s;
+        console.FailAs(u"%1 values can't be written as text; their %2 are empty"_s.arg(without).arg(what));
+    }
 }
 
-/// The file, and behind --values the field.
+/// The file, and behind --values the fields.
 QStringList OperandsOf(const Arguments &arguments)
 {
     const int questions = (arguments.Has(tablesOption) ? 1 : 0) + (arguments.Has(fieldsOption) ? 1 : 0)
         + (arguments.Has(valuesOption) ? 1 : 0);
     const QStringList &operands = arguments.Operands();
-    const qsizetype wanted = arguments.Has(valuesOption) ? 2 : 1;
-    if (questions > 1 || operands.size() != wanted || operands.contains(QString()))
+    const bool isRight = arguments.Has(valuesOption) ? operands.size() > 1 : operands.size() == 1;
+    if (questions > 1 || !isRight || operands.contains(QString()))
         throw UsageError{
-            u"database takes FILE and one of --tables, --fields TABLE or --values TABLE FIELD"_s};
+            u"database takes FILE and one of --tables, --fields TABLE or --values TABLE FIELD..."_s};
     if (arguments.Has(plainOption) && !arguments.Has(valuesOption))
         throw UsageError{u"--plain goes with --values"_s};
     return operands;
@@ -90,7 +99,7 @@ int Run(const Arguments &arguments, Console &console)
         if (const auto table = arguments.Value(fieldsOption))
             ListFields(console, file, *table);
         else if (const auto tableOfValues = arguments.Value(valuesOption))
-            ListValues(console, file, *tableOfValues, operands.last(), arguments.Has(plainOption));
+            ListValues(console, file, *tableOfValues, operands.sliced(1), arguments.Has(plainOption));
         else
             ListTables(console, file);
     } catch (const Failure &failure) {
@@ -106,14 +115,17 @@ Command DatabaseCommand()
     return {
         u"database"_s,
         u"shows what a database file holds"_s,
-        {u"FILE [--tables]"_s, u"FILE --fields TABLE"_s, u"FILE --values TABLE FIELD [--plain]"_s},
+        {u"FILE [--tables]"_s, u"FILE --fields TABLE"_s, u"FILE --values TABLE FIELD... [--plain]"_s},
         uR"(Reads a Jet database (.mdb, .accdb) and changes nothing. Without an option, or with --tables, it lists the
 tables, one a line; behind the name of a query or of a table in another file, neither of which can be
 read, stands what it is. --fields lists the fields of a table with their types and sizes. --values writes
-the value of one field in each row, in the order of the table; a row without a value is an empty line.)"_s,
+the value of one field in each row, in the order of the table; a row without a value is an empty line. Of
+several fields it writes the values of each row in one line, in the order in which the fields were named,
+with a tab between. In a file or a pipe a tab or a line break inside a value stands there as it is: with
+--null a NUL ends each value, those within a row too, and every row has as many as fields were named.)"_s,
         {{tablesOption, {}, u"lists the tables"_s},
          {fieldsOption, u"TABLE"_s, u"lists the fields of a table"_s},
-         {valuesOption, u"TABLE"_s, u"writes all values of the field that the next word names"_s},
+         {valuesOption, u"TABLE"_s, u"writes all values of the fields that the next words name"_s},
          {plainOption, {}, u"a decimal point, and dates as 2004-03-31 14:05:00, whatever the language"_s},
          shared::Null()},
         {},

@@ -8,6 +8,7 @@
 #include <QByteArray>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
 #include <memory>
@@ -134,11 +135,12 @@ public:
     virtual std::optional<DatabaseField> Next() = 0;
 };
 
-/// The values of one field of a table, row by row.
+/// The values of one or several fields of a table, row by row.
 class FieldReader : public DatabaseReader {
 public:
-    /// The value in the next row, in the order in which the table gives them; nothing behind the last.
-    /// Fails with databaseFailures::NoSuchField at the first row if the table has no such field.
+    /// The next value; nothing behind the last row. The values of a row come one after the other in the order
+    /// in which their fields were asked for, the rows in the order in which the table gives them.
+    /// Fails with databaseFailures::NoSuchField at the first row if the table lacks one of the fields.
     virtual std::optional<DatabaseValue> Next() = 0;
 };
 
@@ -154,9 +156,11 @@ public:
     /// table.
     virtual std::unique_ptr<FieldListReader> OpenFields(const QString &file, const QString &table,
                                                         DatabaseRoad road) = 0;
-    /// Opens a table to read one field. Fails as OpenFields does; an unknown field fails with the first row.
+    /// Opens a table to read at least one field. Fails as OpenFields does, and with
+    /// databaseFailures::NoSuchField where the names are longer than those of any table; an unknown field
+    /// fails with the first row.
     virtual std::unique_ptr<FieldReader> Read(const QString &file, const QString &table,
-                                              const QString &field) = 0;
+                                              const QStringList &fields) = 0;
 };
 
 } // namespace tressel

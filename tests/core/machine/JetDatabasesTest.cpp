@@ -25,6 +25,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+QByteArray Octal(const std::string &bytes)
+{
+    QByteArray text = "printf '";
+    for (const char byte : bytes)
+        text += '\\' + QByteArray::number(static_cast<unsigned char>(byte), 8).rightJustified(3, '0');
+    return text + '\'';
+}
+
+const std::string hello = jet::Packer(jet::FrameKind::Hello).Number8(jet::ProtocolVersion).Frame();
+
 class JetDatabasesTest : public testing::Test {
 protected:
     QString At(const QString &name) const { return folder.Path() + u'/' + name; }
@@ -56,6 +66,21 @@ protected:
         }
         return {};
     }
+    /// What asking such a program for two fields comes to: the values, then the failure.
+    QStringList AskingForRows(const std::string &answer)
+    {
+        PutFile("a.mdb", "anything");
+        QStringList told;
+        try {
+            JetDatabases asked(events, Script(Octal(answer)));
+            const auto reader = asked.Read(At(u"a.mdb"_s), u"T"_s, {u"F"_s, u"G"_s});
+            while (const auto value = reader->Next())
+                told += std::get<QString>(*value);
+        } catch (const Failure &failure) {
+            told += QString::number(failure.Number()) + u' ' + failure.description;
+        }
+        return told;
+    }
     QString Damaged() const { return u"3045 The file is already in use or damaged."_s; }
 
     TemporaryFolder folder;
@@ -63,16 +88,6 @@ protected:
     MemoryEvents events{journal};
     JetDatabases databases{events};
 };
-
-QByteArray Octal(const std::string &bytes)
-{
-    QByteArray text = "printf '";
-    for (const char byte : bytes)
-        text += '\\' + QByteArray::number(static_cast<unsigned char>(byte), 8).rightJustified(3, '0');
-    return text + '\'';
-}
-
-const std::string hello = jet::Packer(jet::FrameKind::Hello).Number8(jet::ProtocolVersion).Frame();
 
 TEST_F(JetDatabasesTest, FailsInWordsForWhatIsNoDatabase)
 {
@@ -130,14 +145,58 @@ TEST_F(JetDatabasesTest, BelievesNothingThatCannotBeAnAnswer)
               Damaged());
     EXPECT_EQ(Asking(Script(Octal(begin + jet::Packer(jet::FrameKind::Value).Number8(1).Frame() + end(1)))),
               Damaged());
-    EXPECT_EQ(Asking(Script(Octal(begin + jet::Packer(jet::FrameKind::Failed).Number8(99).Frame()))),
-              Damaged());
+    EXPECT_EQ(
+        Asking(Script(Octal(begin + jet::Packer(jet::FrameKind::Failed).Number8(99).Number16(0).Frame()))),
+        Damaged());
     EXPECT_EQ(Asking(Script(Octal(
                   begin + jet::Packer(jet::FrameKind::Object).Number8(1).Number32(4000).Frame() + end(1)))),
               Damaged());
     // A frame of four gigabytes.
     EXPECT_EQ(Asking(Script(Octal(begin + std::string("\377\377\377\377\005", 5)) + "; cat /dev/zero")),
               Damaged());
+}
+
+TEST_F(JetDatabasesTest, BelievesNoRowThatIsNotWhole)
+{
+    const std::string begin = hello + jet::Packer(jet::FrameKind::Opened).Frame();
+    const auto value = [](jet::FrameKind kind, std::u16string_view text) {
+        return jet::Packer(kind).Number8(static_cast<std::uint8_t>(jet::ValueKind::Text)).Text(text).Frame();
+    };
+    const auto end = [](std::uint64_t count) {
+        return jet::Packer(jet::FrameKind::End).Number64(count).Frame();
+    };
+    const std::string first = value(jet::FrameKind::Value, u"f");
+    const std::string last = value(jet::FrameKind::LastValue, u"g");
+    const std::string row = first + last;
+    EXPECT_EQ(AskingForRows(begin + end(0)), QStringList());
+    EXPECT_EQ(AskingForRows(begin + row + row + end(4)), QStringList({u"f"_s, u"g"_s, u"f"_s, u"g"_s}));
+    // Too few values in a row, too many, none, and none of the next row.
+    EXPECT_EQ(AskingForRows(begin + last + end(1)), QStringList({Damaged()}));
+    EXPECT_EQ(AskingForRows(begin + first + first + last + end(3)), QStringList({u"f"_s, Damaged()}));
+    EXPECT_EQ(AskingForRows(begin + row + last + row + end(5)), QStringList({u"f"_s, u"g"_s, Damaged()}));
+    EXPECT_EQ(AskingForRows(begin + row + first), QStringList({u"f"_s, u"g"_s, u"f"_s, Damaged()}));
+    // The end in the middle of a row, also where it counts right.
+    EXPECT_EQ(AskingForRows(begin + row + first + end(3)), QStringList({u"f"_s, u"g"_s, u"f"_s, Damaged()}));
+    // An end that counts rows and not values.
+    EXPECT_EQ(AskingForRows(begin + row + end(1)), QStringList({u"f"_s, u"g"_s, Damaged()}));
+    // The older version of the talk.
+    EXPECT_EQ(AskingForRows(jet::Packer(jet::FrameKind::Hello).Number8(1).Frame() + row + end(2)),
+              QStringList({Damaged()}));
+}
+
+TEST_F(JetDatabasesTest, BelievesNoMissingFieldThatNobodyAskedFor)
+{
+    const auto missing = [](std::uint16_t place) {
+        return hello + jet::Packer(jet::FrameKind::Opened).Frame()
+            + jet::Packer(jet::FrameKind::Failed)
+                  .Number8(static_cast<std::uint8_t>(jet::FailureCode::NoSuchField))
+                  .Number16(place)
+                  .Frame();
+    };
+    EXPECT_EQ(AskingForRows(missing(0)), QStringList({u"3265 The table 'T' has no field 'F'."_s}));
+    EXPECT_EQ(AskingForRows(missing(1)), QStringList({u"3265 The table 'T' has no field 'G'."_s}));
+    EXPECT_EQ(AskingForRows(missing(2)), QStringList({Damaged()}));
+    EXPECT_EQ(AskingForRows(missing(65535)), QStringList({Damaged()}));
 }
 
 TEST_F(JetDatabasesTest, KillsAProgramThatGivesNoAnswerWhileTheWindowPaints)
@@ -180,11 +239,11 @@ TEST_F(JetDatabasesTest, LeavesNoProcessBehind)
 TEST_F(JetDatabasesTest, TakesAReaderThatIsGivenUp)
 {
     const std::string opened = jet::Packer(jet::FrameKind::Opened).Frame();
-    const std::string value = jet::Packer(jet::FrameKind::Value).Number8(8).Text(u"again").Frame();
+    const std::string value = jet::Packer(jet::FrameKind::LastValue).Number8(8).Text(u"again").Frame();
     PutFile("a.mdb", "anything");
     JetDatabases asked(events, Script(Octal(hello + opened) + "; while :; do " + Octal(value) + "; done"),
                        20s);
-    const auto reader = asked.Read(At(u"a.mdb"_s), u"T"_s, u"F"_s);
+    const auto reader = asked.Read(At(u"a.mdb"_s), u"T"_s, {u"F"_s});
     for (int row = 0; row < 3; ++row)
         EXPECT_EQ(reader->Next(), DatabaseValue(u"again"_s));
 }

@@ -71,7 +71,7 @@ protected:
     QStringList Texts(const QString &file, const QString &table, const QString &field)
     {
         QStringList texts;
-        for (const DatabaseValue &value : AllValues(databases, file, table, field)) {
+        for (const DatabaseValue &value : AllValues(databases, file, table, {field})) {
             const auto *text = std::get_if<QString>(&value);
             texts += text ? *text : u"-"_s;
         }
@@ -105,7 +105,7 @@ TEST_F(JetWriterTest, ValuesOfAllTypesComeBack)
         EXPECT_EQ(fields.at(index).name, table.columns.at(index).name);
         EXPECT_EQ(fields.at(index).type, table.columns.at(index).type);
         EXPECT_EQ(
-            AllValues(databases, file, table.name, fields.at(index).name),
+            AllValues(databases, file, table.name, {fields.at(index).name}),
             QList<DatabaseValue>({table.rows.at(0).values.at(index), table.rows.at(1).values.at(index)}))
             << qPrintable(fields.at(index).name);
     }
@@ -113,11 +113,39 @@ TEST_F(JetWriterTest, ValuesOfAllTypesComeBack)
     EXPECT_EQ(fields.at(3).size, 4);
 }
 
+TEST_F(JetWriterTest, ValuesOfSeveralFieldsComeRowByRow)
+{
+    const WrittenTable table = AllTypes();
+    const QString file = PutTable(table);
+    QStringList names;
+    for (const WrittenColumn &column : table.columns)
+        names += column.name;
+    EXPECT_EQ(AllValues(databases, file, table.name, names),
+              table.rows.at(0).values + table.rows.at(1).values);
+    // In the order in which they are asked for, which needn't be the table's.
+    EXPECT_EQ(AllValues(databases, file, table.name, {u"memo"_s, u"Long"_s, u"MEMO"_s}),
+              QList<DatabaseValue>({u"memo"_s, std::int64_t{-2147483648}, u"memo"_s, std::monostate(),
+                                    std::monostate(), std::monostate()}));
+}
+
+TEST_F(JetWriterTest, RowsOfLongAndMovedValuesStayWhole)
+{
+    WrittenTable table{u"T"_s, {{u"A"_s, fieldTypes::Memo}, {u"B"_s}, {u"C"_s, fieldTypes::Memo}}};
+    QList<DatabaseValue> written;
+    for (int row = 0; row < 60; ++row) {
+        const QList<DatabaseValue> values{QString(row * 500, u'a'), QString::number(row),
+                                          QString(row * 301, u'c')};
+        table.rows.append({values, row % 7 == 3 ? RowFate::Moved : RowFate::Plain});
+        written += values;
+    }
+    EXPECT_EQ(AllValues(databases, PutTable(table), u"T"_s, {u"A"_s, u"B"_s, u"C"_s}), written);
+}
+
 TEST_F(JetWriterTest, AnEmptyTextIsNoNull)
 {
     WrittenTable table{u"T"_s, {{u"F"_s}, {u"G"_s}}};
     table.rows = {{{u""_s, u"x"_s}}, {{std::monostate(), u"y"_s}}};
-    EXPECT_EQ(AllValues(databases, PutTable(table), u"T"_s, u"F"_s),
+    EXPECT_EQ(AllValues(databases, PutTable(table), u"T"_s, {u"F"_s}),
               QList<DatabaseValue>({QString(u""_s), std::monostate()}));
 }
 
@@ -148,7 +176,7 @@ TEST_F(JetWriterTest, ATableMayHaveManyPages)
     for (std::int64_t number = 0; number < 50000; ++number)
         table.rows.append({{number, u"A folder with the number %1"_s.arg(number)}});
     const QString file = PutTable(table);
-    const QList<DatabaseValue> numbers = AllValues(databases, file, u"T"_s, u"N"_s);
+    const QList<DatabaseValue> numbers = AllValues(databases, file, u"T"_s, {u"N"_s});
     ASSERT_EQ(numbers.size(), 50000);
     EXPECT_EQ(numbers.last(), DatabaseValue(std::int64_t{49999}));
     EXPECT_EQ(Texts(file, u"T"_s, u"F"_s).at(33333), u"A folder with the number 33333"_s);
@@ -165,8 +193,12 @@ TEST_F(JetWriterTest, ATableMayHaveManyLongNames)
     table.rows.append({row});
     const QString file = PutTable(table);
     EXPECT_EQ(AllFields(databases, file, u"T"_s).size(), 200);
-    EXPECT_EQ(AllValues(databases, file, u"T"_s, QString(60, u'n') + u"199"_s),
+    EXPECT_EQ(AllValues(databases, file, u"T"_s, {QString(60, u'n') + u"199"_s}),
               QList<DatabaseValue>({std::int64_t{199}}));
+    QStringList names;
+    for (const WrittenColumn &column : table.columns)
+        names += column.name;
+    EXPECT_EQ(AllValues(databases, file, u"T"_s, names), row);
 }
 
 TEST_F(JetWriterTest, NamesKeepAllTheirLetters)
@@ -201,20 +233,39 @@ TEST_F(JetWriterTest, ObjectsHaveTheirKinds)
                                      {u"Server"_s, LinkedTable},
                                      {u"MSysObjects"_s, SystemTable}}));
     const auto failureOf = [&](const QString &table) {
-        return NumberThrownBy([&] { databases.Read(file, table, u"F"_s); });
+        return NumberThrownBy([&] { databases.Read(file, table, {u"F"_s}); });
     };
     EXPECT_EQ(failureOf(u"View"_s), databaseFailures::NotReadable);
     EXPECT_EQ(failureOf(u"Linked"_s), databaseFailures::NotReadable);
     EXPECT_EQ(failureOf(u"Nothing"_s), databaseFailures::NoSuchTable);
     EXPECT_EQ(failureOf(u""_s), databaseFailures::NoSuchTable);
     // An unknown field of a table without rows fails nobody.
-    EXPECT_EQ(databases.Read(file, u"A"_s, u"None"_s)->Next(), std::nullopt);
+    EXPECT_EQ(databases.Read(file, u"A"_s, {u"None"_s})->Next(), std::nullopt);
 }
 
 TEST_F(JetWriterTest, AnUnknownFieldFailsWithTheFirstRow)
 {
-    const auto reader = databases.Read(PutTable({u"T"_s, {{u"F"_s}}, {{{u"x"_s}}}}), u"T"_s, u"None"_s);
+    const auto reader = databases.Read(PutTable({u"T"_s, {{u"F"_s}}, {{{u"x"_s}}}}), u"T"_s, {u"None"_s});
     EXPECT_EQ(NumberThrownBy([&] { reader->Next(); }), databaseFailures::NoSuchField);
+}
+
+TEST_F(JetWriterTest, TheUnknownOneOfSeveralFieldsIsNamed)
+{
+    const QString file = PutTable({u"T"_s, {{u"F"_s}}, {{{u"x"_s}}}});
+    const auto asking = [&](const QStringList &fields) -> QString {
+        try {
+            AllValues(databases, file, u"T"_s, fields);
+        } catch (const Failure &failure) {
+            return QString::number(failure.Number()) + u' ' + failure.description;
+        }
+        return {};
+    };
+    EXPECT_EQ(asking({u"f"_s, u"None"_s, u"F"_s, u"Nothing"_s}),
+              u"3265 The table 'T' has no field 'None'."_s);
+    EXPECT_EQ(asking({u"F"_s, QString(10000, u'n')}),
+              u"3265 The table 'T' has no field '%1'."_s.arg(QString(10000, u'n')));
+    EXPECT_EQ(asking(QStringList(5, QString(10000, u'n'))),
+              u"3265 No table has fields with such long names."_s);
 }
 
 TEST_F(JetWriterTest, TheToolsOfTheLibraryReadThemToo)

@@ -61,8 +61,13 @@ std::string FrameOf(const JetQuestion &question)
 {
     jet::Packer packer(question.kind);
     packer.Number8(question.road == DatabaseRoad::Older ? 1 : 0);
-    packer.Text(View(question.table)).Text(View(question.field));
-    return packer.Frame();
+    packer.Text(View(question.table)).Number16(static_cast<std::uint16_t>(question.fields.size()));
+    for (const QString &field : question.fields)
+        packer.Text(View(field));
+    std::string frame = packer.Frame();
+    if (frame.size() > jet::LongestQuestion)
+        throw Failure(databaseFailures::NoSuchField, u"No table has fields with such long names."_s);
+    return frame;
 }
 
 std::optional<DatabaseValue> GuidFrom(std::string_view bytes)
@@ -171,7 +176,11 @@ Failure JetAnswer::Damaged() const
 Failure JetAnswer::FailureOf(const std::string &content) const
 {
     jet::Unpacker unpacker(content);
-    switch (static_cast<jet::FailureCode>(unpacker.Number8())) {
+    const auto code = static_cast<jet::FailureCode>(unpacker.Number8());
+    const qsizetype field = unpacker.Number16();
+    if (!unpacker.IsWhole() || (code == jet::FailureCode::NoSuchField && field >= question.fields.size()))
+        return Damaged();
+    switch (code) {
     case jet::FailureCode::UnknownFormat:
         return Failure(databaseFailures::UnknownFormat, u"The file has no known database format."_s);
     case jet::FailureCode::Password:
@@ -191,7 +200,7 @@ Failure JetAnswer::FailureOf(const std::string &content) const
                 question.table));
     case jet::FailureCode::NoSuchField:
         return Failure(databaseFailures::NoSuchField,
-                       u"The table '%1' has no field '%2'."_s.arg(question.table, question.field));
+                       u"The table '%1' has no field '%2'."_s.arg(question.table, question.fields.at(field)));
     case jet::FailureCode::Damaged:
         break;
     }

@@ -8,6 +8,7 @@
 #include "machine/posix/JetProcess.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 #include <string>
@@ -19,7 +20,7 @@ struct JetQuestion {
     jet::FrameKind kind;
     QString file;
     QString table;
-    QString field;
+    QStringList fields;
     DatabaseRoad road = DatabaseRoad::Newer;
 };
 

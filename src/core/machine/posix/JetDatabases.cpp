@@ -135,18 +135,31 @@ private:
 
 class JetFieldReader : public JetReader<FieldReader> {
 public:
-    using JetReader::JetReader;
+    JetFieldReader(std::unique_ptr<JetAnswer> opened, qsizetype fields)
+        : JetReader(std::move(opened))
+        , valuesInRow(fields)
+    {
+    }
 
     std::optional<DatabaseValue> Next() override
     {
-        const auto content = NextContent(jet::FrameKind::Value);
-        if (!content)
+        const bool isLast = place + 1 == valuesInRow;
+        const auto content = NextContent(isLast ? jet::FrameKind::LastValue : jet::FrameKind::Value);
+        if (!content) {
+            if (State() > 0 && place > 0)
+                throw Damaged(); // in the middle of a row
             return {};
+        }
         auto value = ValueFromFrame(*content);
         if (!value)
             throw Damaged();
+        place = isLast ? 0 : place + 1;
         return value;
     }
+
+private:
+    const qsizetype valuesInRow;
+    qsizetype place = 0; ///< in the row, of the next value
 };
 
 } // namespace
@@ -176,13 +189,13 @@ std::unique_ptr<FieldListReader> JetDatabases::OpenFields(const QString &file, c
 }
 
 std::unique_ptr<FieldReader> JetDatabases::Read(const QString &file, const QString &table,
-                                                const QString &field)
+                                                const QStringList &fields)
 {
     auto answer = std::make_unique<JetAnswer>(
-        JetQuestion{jet::FrameKind::AskValues, file, table, field, DatabaseRoad::Newer}, program, events,
+        JetQuestion{jet::FrameKind::AskValues, file, table, fields, DatabaseRoad::Newer}, program, events,
         patience);
     answer->Expect(jet::FrameKind::Opened);
-    return std::make_unique<JetFieldReader>(std::move(answer));
+    return std::make_unique<JetFieldReader>(std::move(answer), fields.size());
 }
 
 QByteArray JetDatabases::FindJet()

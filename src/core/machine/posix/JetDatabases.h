@@ -27,7 +27,7 @@ public:
     std::unique_ptr<FieldListReader> OpenFields(const QString &file, const QString &table,
                                                 DatabaseRoad road) override;
     std::unique_ptr<FieldReader> Read(const QString &file, const QString &table,
-                                      const QString &field) override;
+                                      const QStringList &fields) override;
 
     /// tressel-jet beside the running executable, or where it is installed.
     static QByteArray FindJet();

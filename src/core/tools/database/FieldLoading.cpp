@@ -55,7 +55,7 @@ void FieldLoading::LoadFieldToList(QString Table, ListBox &List, const QString &
     Table = page.Tables.Text();
     const QString path = page.txtDatabaseFile.Text();
     try {
-        const auto reader = context.machine.databases.Read(path, Table, Field);
+        const auto reader = context.machine.databases.Read(path, Table, {Field});
         // Before any row is read, so that the old list is gone even if there is none.
         List.Clear();
         const QList<DatabaseValue> rows = ReadRows(*reader);
