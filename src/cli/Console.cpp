@@ -7,11 +7,13 @@
 #include "ConsoleMachine.h"
 #include "SafeName.h"
 #include "machine/AbsolutePath.h"
+#include "machine/NameText.h"
 #include "machine/TextFile.h"
 
 #include <QDeadlineTimer>
 
 #include <algorithm>
+#include <array>
 #include <new>
 
 namespace tressel {
@@ -19,6 +21,8 @@ namespace tressel {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr qsizetype mostBytesOfLetter = 3;
 
 qint64 Now()
 {
@@ -45,12 +49,25 @@ QString Console::Path(const QString &typed, Links last) const
 
 void Console::Line(const QString &text)
 {
-    streams.Out().Write(EncodeText(text, NameBytes::Raw) + lineEnd);
+    WriteOut(text, lineEnd);
 }
 
 void Console::Cell(const QString &text)
 {
-    streams.Out().Write(EncodeText(text, NameBytes::Raw) + (EndsInNul() ? '\0' : '\t'));
+    WriteOut(text, EndsInNul() ? '\0' : '\t');
+}
+
+void Console::WriteOut(const QString &text, char end)
+{
+    // Most texts are short and need no memory of their own.
+    std::array<char, 512> room{};
+    if (text.size() * mostBytesOfLetter < static_cast<qsizetype>(room.size())) {
+        char *last = WriteUtf8(text, NameBytes::Raw, room.data());
+        *last++ = end;
+        streams.Out().Write({room.data(), last});
+    } else {
+        streams.Out().Write(EncodeText(text, NameBytes::Raw) + end);
+    }
 }
 
 QString Console::Shown(const QString &name) const

@@ -80,6 +80,7 @@ public:
     int Finish(int status);
 
 private:
+    void WriteOut(const QString &text, char end);
     void WriteAside(const QString &line);
     void ClearProgress();
 

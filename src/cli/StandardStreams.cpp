@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype outputAtOnce = 1 << 16;
+constexpr std::size_t outputAtOnce = 1 << 16;
 
 /// A failure of a stream, which has reasons that a file has not.
 Failure FailureOfStream(int error)
@@ -78,14 +78,15 @@ void DescriptorOutput::Write(QByteArrayView bytes)
 {
     if (problem)
         return;
-    held += bytes;
+    held.append(bytes.data(), static_cast<std::size_t>(bytes.size()));
     if (held.size() >= heldAtMost)
         Flush();
 }
 
 void DescriptorOutput::Flush()
 {
-    WriteThrough(std::exchange(held, {}));
+    WriteThrough(held);
+    held.clear();
 }
 
 void DescriptorOutput::WriteThrough(QByteArrayView bytes)

@@ -5,6 +5,8 @@
 
 #include "Streams.h"
 
+#include <string>
+
 namespace tressel {
 
 /// Opens /dev/null in place of each of the descriptors 0 to 2 that is closed, so that no file of ours gets
@@ -31,9 +33,9 @@ private:
     void WriteThrough(QByteArrayView bytes);
 
     int descriptor;
-    qsizetype heldAtMost;
+    std::size_t heldAtMost;
     bool isTerminal;
-    QByteArray held;
+    std::string held;
     std::optional<Failure> problem;
 };
 

@@ -5,7 +5,10 @@
 
 #include "Refusal.h"
 
+#include <algorithm>
+#include <array>
 #include <cstring>
+#include <numeric>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -18,6 +21,7 @@ constexpr std::uint16_t deletedFlag = 0x8000;
 constexpr std::uint16_t elsewhereFlag = 0x4000;
 constexpr std::uint16_t placeMask = 0x1FFF;
 constexpr std::size_t dataPage = 1;
+constexpr std::uint8_t asciiEnd = 0x80;
 
 std::uint64_t Number(Bytes bytes, std::size_t place, std::size_t count)
 {
@@ -49,6 +53,7 @@ std::uint64_t LengthOf(int descriptor)
 std::u16string Uncompressed(Bytes bytes)
 {
     std::u16string text;
+    text.reserve(bytes.size());
     bool isCompressed = true;
     for (std::size_t place = 0; place < bytes.size();) {
         if (bytes[place] == 0) {
@@ -77,14 +82,23 @@ JetFile::JetFile(int descriptor)
     close(descriptor);
     if (!handle)
         throw Refusal{FailureCode::Damaged};
-    if (!header.isOldest)
-        return;
-    // Opened now: later nothing can be loaded any more.
+    if (header.isOldest)
+        OpenConversion();
+}
+
+/// Now, as later nothing can be loaded any more.
+void JetFile::OpenConversion()
+{
     iconv_t opened = iconv_open("UTF-16LE", ("CP" + std::to_string(header.codePage)).c_str());
     if (opened == reinterpret_cast<iconv_t>(-1))
         opened = iconv_open("UTF-16LE", "CP1252");
     if (opened != reinterpret_cast<iconv_t>(-1))
         conversion.reset(new iconv_t(opened));
+    std::array<std::uint8_t, asciiEnd> letters{};
+    std::iota(letters.begin(), letters.end(), std::uint8_t{0});
+    leavesAscii = std::ranges::equal(Converted(letters), letters);
+    if (conversion)
+        iconv(*conversion, nullptr, nullptr, nullptr, nullptr); // back to its first state
 }
 
 void JetFile::CloseConversion::operator()(iconv_t *open) const
@@ -135,6 +149,14 @@ std::u16string JetFile::Text(Bytes bytes)
 }
 
 std::u16string JetFile::OldestText(Bytes bytes)
+{
+    // Most texts have no other letters, and a conversion takes its time.
+    if (leavesAscii && std::ranges::all_of(bytes, [](std::uint8_t byte) { return byte < asciiEnd; }))
+        return {bytes.begin(), bytes.end()};
+    return Converted(bytes);
+}
+
+std::u16string JetFile::Converted(Bytes bytes)
 {
     std::u16string text;
     std::string input(bytes.begin(), bytes.end());

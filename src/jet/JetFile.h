@@ -60,12 +60,15 @@ private:
     };
 
     std::size_t RowIndex() const { return handle->fmt->row_count_offset; }
+    void OpenConversion();
     std::u16string OldestText(Bytes bytes);
+    std::u16string Converted(Bytes bytes);
 
     Header header;
     std::uint64_t length = 0;
     std::unique_ptr<MdbHandle, Close> handle;
     std::unique_ptr<iconv_t, CloseConversion> conversion;
+    bool leavesAscii = false; ///< the conversion, as it is
 };
 
 /// Lowest byte first; refuses what lies beyond the end.

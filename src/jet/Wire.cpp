@@ -53,9 +53,12 @@ Packer &Packer::Number64(std::uint64_t number)
 Packer &Packer::Text(std::u16string_view text)
 {
     Number32(static_cast<std::uint32_t>(text.size() * 2));
-    frame.reserve(frame.size() + text.size() * 2);
-    for (const char16_t letter : text)
-        Number16(letter);
+    std::size_t place = frame.size();
+    frame.resize(place + text.size() * 2);
+    for (const char16_t letter : text) {
+        frame[place++] = static_cast<char>(letter & 0xFFU);
+        frame[place++] = static_cast<char>(letter >> bitsInByte);
+    }
     return *this;
 }
 
@@ -87,16 +90,23 @@ void Packer::Append(std::uint64_t number, int bytes)
 
 std::u16string Unpacker::Text()
 {
+    const std::string_view bytes = TextBytes();
+    std::u16string text(bytes.size() / 2, u'\0');
+    for (std::size_t index = 0; index < text.size(); ++index)
+        text[index] = LetterAt(bytes, index);
+    return text;
+}
+
+std::string_view Unpacker::TextBytes()
+{
     const std::uint32_t length = Number32();
     if (length % 2 != 0 || length > rest.size()) {
         tooShort = true;
         return {};
     }
-    std::u16string text(length / 2, u'\0');
-    for (std::size_t index = 0; index < text.size(); ++index)
-        text[index] = static_cast<char16_t>(ReadNumber(rest.substr(index * 2, 2)));
+    const std::string_view bytes = rest.substr(0, length);
     rest.remove_prefix(length);
-    return text;
+    return bytes;
 }
 
 std::string_view Unpacker::Rest()

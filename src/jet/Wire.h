@@ -107,6 +107,8 @@ public:
     std::uint32_t Number32() { return static_cast<std::uint32_t>(Number(4)); }
     std::uint64_t Number64() { return Number(8); }
     std::u16string Text();
+    /// The bytes of a text, two a letter, the lower one first.
+    std::string_view TextBytes();
     /// All that is left.
     std::string_view Rest();
 
@@ -119,6 +121,14 @@ private:
     std::string_view rest;
     bool tooShort = false;
 };
+
+/// One letter of the bytes of a text.
+inline char16_t LetterAt(std::string_view bytes, std::size_t index)
+{
+    const auto low = static_cast<unsigned char>(bytes[index * 2]);
+    const auto high = static_cast<unsigned char>(bytes[index * 2 + 1]);
+    return static_cast<char16_t>(low | high << 8U);
+}
 
 /// What the head of a frame says.
 struct FrameHead {

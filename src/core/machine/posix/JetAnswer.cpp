@@ -70,6 +70,16 @@ std::string FrameOf(const JetQuestion &question)
     return frame;
 }
 
+QString TextFrom(jet::Unpacker &unpacker)
+{
+    const std::string_view bytes = unpacker.TextBytes();
+    QString text(static_cast<qsizetype>(bytes.size() / 2), Qt::Uninitialized);
+    QChar *letter = text.data();
+    for (std::size_t index = 0; index < bytes.size() / 2; ++index)
+        *letter++ = jet::LetterAt(bytes, index);
+    return text;
+}
+
 std::optional<DatabaseValue> GuidFrom(std::string_view bytes)
 {
     if (bytes.size() != 16)
@@ -110,7 +120,7 @@ std::optional<DatabaseValue> Unpack(jet::ValueKind kind, jet::Unpacker &unpacker
     case jet::ValueKind::Date:
         return DateValue{std::bit_cast<double>(unpacker.Number64())};
     case jet::ValueKind::Text:
-        return QString::fromStdU16String(unpacker.Text());
+        return TextFrom(unpacker);
     case jet::ValueKind::Guid:
         return GuidFrom(unpacker.Rest());
     case jet::ValueKind::Decimal:
@@ -128,16 +138,17 @@ JetAnswer::JetAnswer(JetQuestion asked, const QByteArray &program, Events &event
     : question(std::move(asked))
     , process(program, OpenDatabase(question.file), FrameOf(question), events, patience)
 {
+    constexpr char version{jet::ProtocolVersion};
     const JetProcess::Frame hello = NextFrame();
-    if (hello.kind != jet::FrameKind::Hello || hello.content != std::string(1, char{jet::ProtocolVersion}))
+    if (hello.kind != jet::FrameKind::Hello || hello.content != std::string_view(&version, 1))
         throw Damaged();
 }
 
-std::optional<std::string> JetAnswer::Next(jet::FrameKind kind)
+std::optional<std::string_view> JetAnswer::Next(jet::FrameKind kind)
 {
     if (hasEnded)
         return {};
-    JetProcess::Frame frame = NextFrame();
+    const JetProcess::Frame frame = NextFrame();
     if (frame.kind == jet::FrameKind::End) {
         jet::Unpacker unpacker(frame.content);
         if (unpacker.Number64() != count || !unpacker.IsWhole())
@@ -148,7 +159,7 @@ std::optional<std::string> JetAnswer::Next(jet::FrameKind kind)
     if (frame.kind != kind)
         throw Damaged();
     ++count;
-    return std::move(frame.content);
+    return frame.content;
 }
 
 void JetAnswer::Expect(jet::FrameKind kind)
@@ -160,12 +171,12 @@ void JetAnswer::Expect(jet::FrameKind kind)
 
 JetProcess::Frame JetAnswer::NextFrame()
 {
-    auto frame = process.Next();
+    const auto frame = process.Next();
     if (!frame)
         throw Damaged();
     if (frame->kind == jet::FrameKind::Failed)
         throw FailureOf(frame->content);
-    return std::move(*frame);
+    return *frame;
 }
 
 Failure JetAnswer::Damaged() const
@@ -173,7 +184,7 @@ Failure JetAnswer::Damaged() const
     return Failure(databaseFailures::Unusable, u"The file is already in use or damaged."_s);
 }
 
-Failure JetAnswer::FailureOf(const std::string &content) const
+Failure JetAnswer::FailureOf(std::string_view content) const
 {
     jet::Unpacker unpacker(content);
     const auto code = static_cast<jet::FailureCode>(unpacker.Number8());
@@ -207,7 +218,7 @@ Failure JetAnswer::FailureOf(const std::string &content) const
     return Damaged();
 }
 
-std::optional<DatabaseValue> ValueFromFrame(const std::string &content)
+std::optional<DatabaseValue> ValueFromFrame(std::string_view content)
 {
     jet::Unpacker unpacker(content);
     auto value = Unpack(static_cast<jet::ValueKind>(unpacker.Number8()), unpacker);

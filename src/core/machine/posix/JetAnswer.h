@@ -11,7 +11,7 @@
 #include <QStringList>
 
 #include <optional>
-#include <string>
+#include <string_view>
 
 namespace tressel {
 
@@ -32,9 +32,9 @@ public:
     JetAnswer(JetQuestion question, const QByteArray &program, Events &events,
               std::chrono::milliseconds patience);
 
-    /// The content of the next frame, which must be of this kind; nothing from the end of the whole answer
-    /// on.
-    std::optional<std::string> Next(jet::FrameKind kind);
+    /// The content of the next frame, which must be of this kind; good until the next one is asked for.
+    /// Nothing from the end of the whole answer on.
+    std::optional<std::string_view> Next(jet::FrameKind kind);
     /// Waits for a frame of this kind without content.
     void Expect(jet::FrameKind kind);
 
@@ -43,7 +43,7 @@ public:
 
 private:
     JetProcess::Frame NextFrame();
-    Failure FailureOf(const std::string &content) const;
+    Failure FailureOf(std::string_view content) const;
 
     JetQuestion question;
     JetProcess process;
@@ -52,6 +52,6 @@ private:
 };
 
 /// A content as a value. Nothing if it is none.
-std::optional<DatabaseValue> ValueFromFrame(const std::string &content);
+std::optional<DatabaseValue> ValueFromFrame(std::string_view content);
 
 } // namespace tressel

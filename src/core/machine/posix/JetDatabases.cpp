@@ -33,7 +33,7 @@ std::optional<DatabaseObjectKind> KindFrom(std::uint8_t number)
     return {};
 }
 
-std::optional<DatabaseObject> ObjectFrom(const std::string &content)
+std::optional<DatabaseObject> ObjectFrom(std::string_view content)
 {
     jet::Unpacker unpacker(content);
     const auto kind = KindFrom(unpacker.Number8());
@@ -43,7 +43,7 @@ std::optional<DatabaseObject> ObjectFrom(const std::string &content)
     return DatabaseObject{name, *kind};
 }
 
-std::optional<DatabaseField> FieldFrom(const std::string &content)
+std::optional<DatabaseField> FieldFrom(std::string_view content)
 {
     jet::Unpacker unpacker(content);
     DatabaseField field;
@@ -73,8 +73,9 @@ public:
     void Close() override { answer.reset(); }
 
 protected:
-    /// The next frame's content; nothing once the answer is closed or has come to its end.
-    std::optional<std::string> NextContent(jet::FrameKind kind)
+    /// The next frame's content, good until the one behind it; nothing once the answer is closed or has come
+    /// to its end.
+    std::optional<std::string_view> NextContent(jet::FrameKind kind)
     {
         return answer ? answer->Next(kind) : std::nullopt;
     }

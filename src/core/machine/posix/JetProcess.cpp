@@ -12,7 +12,6 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <spawn.h>
-#include <string_view>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -147,15 +146,16 @@ void JetProcess::Start(const QByteArray &program, int question, int answer, int 
 
 std::optional<JetProcess::Frame> JetProcess::Next()
 {
+    auto frame = TakeFrame();
+    if (frame)
+        return frame;
     const Clock::time_point deadline = Clock::now() + patience;
-    while (true) {
-        if (auto frame = TakeFrame())
-            return frame;
-        if (!output.IsOpen())
-            return {};
+    while (!frame && output.IsOpen()) {
         if (!Receive(deadline))
             output = Descriptor();
+        frame = TakeFrame();
     }
+    return frame;
 }
 
 std::optional<JetProcess::Frame> JetProcess::TakeFrame()
@@ -171,9 +171,8 @@ std::optional<JetProcess::Frame> JetProcess::TakeFrame()
     }
     if (rest.size() - jet::FrameHeadLength < head->length)
         return {};
-    Frame frame{head->kind, std::string(rest.substr(jet::FrameHeadLength, head->length))};
     taken += jet::FrameHeadLength + head->length;
-    return frame;
+    return Frame{head->kind, rest.substr(jet::FrameHeadLength, head->length)};
 }
 
 /// Takes what the process has written. False if nothing will come any more.

@@ -11,6 +11,7 @@
 #include <chrono>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <sys/types.h>
 
 namespace tressel {
@@ -23,7 +24,7 @@ class JetProcess {
 public:
     struct Frame {
         jet::FrameKind kind;
-        std::string content;
+        std::string_view content; ///< good until the next frame is asked for
     };
 
     /// `program` is its whole path, `file` the database open for reading. `patience` is how long it may take

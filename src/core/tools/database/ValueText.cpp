@@ -6,9 +6,12 @@
 #include <QDate>
 #include <QTime>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <string>
+#include <string_view>
 #include <utility>
 
 namespace tressel {
@@ -35,18 +38,30 @@ QString TimeForm(const QLocale &locale)
     return form.replace(u"mm"_s, u"mm"_s + between + u"ss"_s);
 }
 
-/// A decimal number without needless zeros: the last `scale` of the digits stand behind the point.
-QString DecimalText(bool negative, QString digits, qsizetype scale, const QString &point)
+QLatin1StringView Latin1(std::string_view text)
 {
-    digits = digits.rightJustified(scale + 1, u'0');
-    QString whole = digits.chopped(scale);
-    QString fraction = digits.last(scale);
-    while (fraction.endsWith(u'0'))
-        fraction.chop(1);
-    while (whole.size() > 1 && whole.startsWith(u'0'))
-        whole.remove(0, 1);
-    const QString text = fraction.isEmpty() ? whole : whole + point + fraction;
-    return negative && text != u"0"_s ? u'-' + text : text;
+    return {text.data(), static_cast<qsizetype>(text.size())};
+}
+
+/// A decimal number without needless zeros: the last `scale` of the digits stand behind the point.
+QString DecimalText(bool negative, std::string digits, std::size_t scale, const QString &point)
+{
+    if (digits.size() <= scale)
+        digits.insert(0, scale + 1 - digits.size(), '0');
+    std::string_view whole = digits;
+    std::string_view fraction = whole.substr(digits.size() - scale);
+    whole.remove_suffix(scale);
+    while (fraction.ends_with('0'))
+        fraction.remove_suffix(1);
+    while (whole.size() > 1 && whole.starts_with('0'))
+        whole.remove_prefix(1);
+    QString text;
+    if (negative && (whole != "0" || !fraction.empty()))
+        text += u'-';
+    text += Latin1(whole);
+    if (!fraction.empty())
+        text += point + Latin1(fraction);
+    return text;
 }
 
 /// The shortest digits that read back as the same number. From 10 to the power of `precision` on, and below a
@@ -60,26 +75,31 @@ template <typename Number> QString RealText(Number number, int precision, const 
     std::array<char, 64> room{};
     const auto written = std::to_chars(room.data(), room.data() + room.size(), std::abs(number),
                                        std::chars_format::scientific);
-    const QString text = QString::fromLatin1(room.data(), written.ptr - room.data());
-    QString digits = text.section(u'e', 0, 0).remove(u'.');
-    const int exponent = text.section(u'e', 1).toInt();
+    char *const mark = std::find(room.data(), written.ptr, 'e');
+    int exponent = 0;
+    std::from_chars(mark + 2, written.ptr, exponent);
+    if (mark[1] == '-')
+        exponent = -exponent;
+    std::string digits(room.data(), mark);
+    std::erase(digits, '.');
+    const int behindFirst = static_cast<int>(digits.size()) - 1;
     constexpr int lowest = -4;
     if (exponent < lowest || exponent >= precision) {
         const QString sign = exponent < 0 ? u"-"_s : u"+"_s;
         return DecimalText(number < 0, digits, digits.size() - 1, point) + u'E' + sign
             + QString::number(std::abs(exponent)).rightJustified(2, u'0');
     }
-    const qsizetype scale = digits.size() - 1 - exponent;
-    if (scale < 0)
-        digits = digits.leftJustified(digits.size() - scale, u'0');
-    return DecimalText(number < 0, digits, std::max<qsizetype>(scale, 0), point);
+    if (exponent > behindFirst)
+        digits.append(static_cast<std::size_t>(exponent - behindFirst), '0');
+    return DecimalText(number < 0, digits, static_cast<std::size_t>(std::max(behindFirst - exponent, 0)),
+                       point);
 }
 
 QString MoneyText(MoneyValue money, const QString &point)
 {
     const bool negative = money.tenThousandths < 0;
     const auto whole = static_cast<quint64>(money.tenThousandths);
-    return DecimalText(negative, QString::number(negative ? 0 - whole : whole), 4, point);
+    return DecimalText(negative, std::to_string(negative ? 0 - whole : whole), 4, point);
 }
 
 QString GuidText(const GuidValue &guid)
@@ -134,8 +154,8 @@ QString ValueWriter::Text(const DatabaseValue &value) const
         QString operator()(const GuidValue &guid) const { return GuidText(guid); }
         QString operator()(const DecimalValue &decimal) const
         {
-            return DecimalText(decimal.negative, QString::fromLatin1(decimal.digits), decimal.scale,
-                               form.point);
+            return DecimalText(decimal.negative, decimal.digits.toStdString(),
+                               static_cast<std::size_t>(decimal.scale), form.point);
         }
         QString operator()(BinaryValue) const { throw Failure(FailureNumber::TypeMismatch); }
     };
@@ -156,12 +176,22 @@ QString ValueWriter::DateText(DateValue date) const
         day += 1;
         seconds = 0;
     }
+    if (day != 0 && seconds == 0)
+        return DayText(static_cast<qint64>(day));
     const QString time = locale.toString(QTime(0, 0).addSecs(static_cast<int>(seconds)), timeForm);
-    if (day == 0)
-        return time;
-    const QDate first(1899, 12, 30);
-    const QString text = locale.toString(first.addDays(static_cast<qint64>(day)), dateForm);
-    return seconds == 0 ? text : text + u' ' + time;
+    return day == 0 ? time : DayText(static_cast<qint64>(day)) + u' ' + time;
+}
+
+/// A table has the same days again and again, and the locale takes its time over each.
+QString ValueWriter::DayText(qint64 day) const
+{
+    constexpr qsizetype mostDays = 10000;
+    if (days.size() > mostDays)
+        days.clear();
+    QString &text = days[day];
+    if (text.isEmpty())
+        text = locale.toString(QDate(1899, 12, 30).addDays(day), dateForm);
+    return text;
 }
 
 } // namespace tressel

@@ -5,6 +5,7 @@
 
 #include "machine/Databases.h"
 
+#include <QHash>
 #include <QLocale>
 
 namespace tressel {
@@ -26,11 +27,13 @@ public:
 private:
     ValueWriter(QString point, QString dateForm, QString timeForm, const QLocale &locale);
     QString DateText(DateValue date) const;
+    QString DayText(qint64 day) const;
 
     QString point;
     QString dateForm;
     QString timeForm;
     QLocale locale; ///< of the words in a date
+    mutable QHash<qint64, QString> days; ///< those that were written already
 };
 
 } // namespace tressel
