@@ -174,7 +174,8 @@ void JetTable::Crack(const RowPlace &place)
 
 bool JetTable::IsNull(std::size_t column) const
 {
-    const auto number = static_cast<std::size_t>(columns[column].layout->row_col_num);
+    // By the number that its bit in the row has, which counts deleted columns too.
+    const auto number = static_cast<std::size_t>(columns[column].layout->col_num);
     return number >= presentColumns || fields[column].is_null != 0;
 }
 

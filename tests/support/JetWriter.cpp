@@ -113,7 +113,7 @@ QByteArray ColumnBytes(const WrittenTable &table, qsizetype index, qsizetype fix
     Put(bytes, 1, newMark, 4);
     Put(bytes, 5, static_cast<quint64>(index), 2);
     Put(bytes, 7, static_cast<quint64>(variable), 2);
-    Put(bytes, 9, static_cast<quint64>(index), 2);
+    Put(bytes, 9, static_cast<quint64>(index + table.firstOrdinal), 2);
     if (column.type == fieldTypes::Numeric) {
         bytes[11] = 18;
         bytes[12] = static_cast<char>(column.scale);

@@ -40,6 +40,7 @@ struct WrittenTable {
     QList<WrittenRow> rows = {};
     bool isCompressed = false; ///< texts have one byte a letter where they can
     std::uint32_t flags = 0; ///< of the object in the file's list
+    int firstOrdinal = 0; ///< of the first column where their order is told; some programs begin with 1
 };
 
 /// Puts a database file of the format Jet 4 together: what the tests and the program's own sample are made

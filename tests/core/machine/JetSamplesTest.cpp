@@ -150,6 +150,9 @@ TEST_F(JetSamples, HaveTheirValues)
               QStringList({u"row1col1"_s, u"row2col1"_s, u"-"_s, u"row4col1"_s}));
     EXPECT_EQ(Values(u"fixedNumericTestV2000.mdb"_s, u"test"_s, u"col6"_s),
               QList<DatabaseValue>({DecimalValue{true, 0, "1"}}));
+    EXPECT_EQ(Texts(u"nwind.mdb"_s, u"Suppliers"_s, u"HomePage"_s).first(3),
+              QStringList({u"-"_s, u"#CAJUN.HTM#"_s, u"-"_s}));
+    EXPECT_EQ(Values(u"testV2007.accdb"_s, u"Table1"_s, u"I"_s), QList<DatabaseValue>({false, true}));
     EXPECT_EQ(Values(u"testV2007.accdb"_s, u"Table1"_s, u"H"_s),
               QList<DatabaseValue>({MoneyValue{0}, MoneyValue{35000}}));
     EXPECT_EQ(Values(u"DateTestDatabase.mdb"_s, u"DateTest"_s, u"DateTimeCol"_s).at(3),

@@ -14,6 +14,7 @@
 #include "support/TemporaryFolder.h"
 #include "support/Text.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -126,6 +127,17 @@ TEST_F(JetWriterTest, ValuesOfSeveralFieldsComeRowByRow)
     EXPECT_EQ(AllValues(databases, file, table.name, {u"memo"_s, u"Long"_s, u"MEMO"_s}),
               QList<DatabaseValue>({u"memo"_s, std::int64_t{-2147483648}, u"memo"_s, std::monostate(),
                                     std::monostate(), std::monostate()}));
+}
+
+TEST_F(JetWriterTest, TheLastColumnHasItsValuesWhereverTheirOrderBegins)
+{
+    WrittenTable table{u"T"_s, {{u"Text"_s}, {u"Yes"_s, fieldTypes::YesNo}}};
+    table.rows = {{{u"a"_s, true}}, {{u"b"_s, false}}};
+    table.firstOrdinal = 1;
+    EXPECT_EQ(AllValues(databases, PutTable(table), u"T"_s, {u"Yes"_s}), QList<DatabaseValue>({true, false}));
+    std::ranges::reverse(table.columns);
+    table.rows = {{{true, u"a"_s}}, {{true, u"b"_s}}};
+    EXPECT_EQ(Texts(PutTable(table), u"T"_s, u"Text"_s), QStringList({u"a"_s, u"b"_s}));
 }
 
 TEST_F(JetWriterTest, RowsOfLongAndMovedValuesStayWhole)
