@@ -75,12 +75,30 @@ void FileJoin::FindParts()
     for (;;) {
         number = ToInt16(number + 1.0);
         const QString part = PartName(target, number);
-        if (!FileExists(run.context.machine.files, run.Whole(part)))
+        if (!HasPart(part))
             break;
         run.page.ctlProgress1.SetMax(
             ToInt32(static_cast<double>(run.page.ctlProgress1.Max()) + run.Length(part)));
     }
     count = ToInt16(number - 1.0);
+}
+
+/// Whether there is a part of that name. One that can't be looked at is no end of the parts: what comes of
+/// them without it would pass for the whole.
+bool FileJoin::HasPart(const QString &name)
+{
+    FileSystem &files = run.context.machine.files;
+    const QString path = run.Whole(name);
+    if (const auto status = files.Status(path, Links::Follow))
+        return status->kind != EntryKind::Folder;
+    try {
+        files.Open(path, OpenFor::Reading)->Close();
+        return true;
+    } catch (const Failure &failure) {
+        if (failure.number == FailureNumber::FileNotFound)
+            return false;
+        throw;
+    }
 }
 
 bool FileJoin::JoinParts()

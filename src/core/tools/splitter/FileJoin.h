@@ -21,6 +21,7 @@ public:
 private:
     bool IsTargetFree();
     void FindParts();
+    bool HasPart(const QString &name);
     bool JoinParts();
     bool JoinPart(std::int16_t part);
     void ReadPart(OpenFile &file, const QString &name, qint64 length);

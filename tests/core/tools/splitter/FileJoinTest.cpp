@@ -286,6 +286,26 @@ TEST_F(FileJoinTest, APartThatCannotBeReadIsZeros)
     EXPECT_EQ(watch.lines.at(1), u"failed 57 C:\\W\\m.avi.2"_s);
 }
 
+TEST_F(FileJoinTest, APartThatCannotBeLookedAtIsNoEndOfTheParts)
+{
+    PutParts({"one-", "two-", "three"});
+    machine.files.FailAt(Operation::Status, PartName(target, 2), 1, FailureNumber::DeviceIoError);
+    Join();
+    EXPECT_EQ(Bytes(target), "one-two-three");
+    EXPECT_EQ(Count(), u"File Count: Finished (3 Files)"_s);
+}
+
+TEST_F(FileJoinTest, APartThatCannotBeReachedAtAllEndsTheProgram)
+{
+    PutParts({"one-", "two-", "three"});
+    page.chkDeleteParts.SetChecked(true);
+    machine.files.FailAt(Operation::Status, PartName(target, 2), 0, FailureNumber::DeviceIoError);
+    machine.files.FailAt(Operation::OpenForReading, PartName(target, 2), 0, FailureNumber::DeviceIoError);
+    Join();
+    EXPECT_EQ(fatal, QList<int>{57});
+    EXPECT_EQ(Tree(), (QStringList{u"m.avi.1"_s, u"m.avi.2"_s, u"m.avi.3"_s}));
+}
+
 TEST_F(FileJoinTest, RoomIsAskedForOneByteMoreThanThePart)
 {
     PutParts({"one-", "", "three"});
