@@ -4,9 +4,11 @@
 #include "JetFile.h"
 
 #include "Refusal.h"
+#include "core/machine/posix/Retried.h"
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cstring>
 #include <numeric>
 #include <sys/stat.h>
@@ -35,17 +37,38 @@ std::uint64_t Number(Bytes bytes, std::size_t place, std::size_t count)
 Header HeaderOf(int descriptor)
 {
     HeaderBytes bytes{};
-    if (pread(descriptor, bytes.data(), bytes.size(), 0) != static_cast<ssize_t>(bytes.size()))
-        throw Refusal{FailureCode::UnknownFormat};
+    for (std::size_t got = 0; got < bytes.size();) {
+        const ssize_t piece = Retried([&] {
+            return pread(descriptor, bytes.data() + got, bytes.size() - got, static_cast<off_t>(got));
+        });
+        if (piece < 0)
+            throw Refusal{FailureCode::Damaged};
+        if (piece == 0)
+            throw Refusal{FailureCode::UnknownFormat};
+        got += static_cast<std::size_t>(piece);
+    }
     return ReadHeader(bytes);
 }
 
 std::uint64_t LengthOf(int descriptor)
 {
     struct stat status = {};
-    if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode))
+    if (fstat(descriptor, &status) != 0)
+        throw Refusal{FailureCode::Damaged};
+    if (!S_ISREG(status.st_mode))
         throw Refusal{FailureCode::UnknownFormat};
     return static_cast<std::uint64_t>(status.st_size);
+}
+
+/// Null if the library can't open the file.
+MdbHandle *Opened(const std::string &path)
+{
+    MdbHandle *opened = nullptr;
+    do {
+        errno = 0;
+        opened = mdb_open(path.c_str(), MDB_NOFLAGS);
+    } while (!opened && errno == EINTR);
+    return opened;
 }
 
 /// Texts of newer files may have their letters in one byte each, where the highest one would be zero. A zero
@@ -78,7 +101,7 @@ JetFile::JetFile(int descriptor)
     , length(LengthOf(descriptor))
 {
     const std::string path = "/proc/self/fd/" + std::to_string(descriptor);
-    handle.reset(mdb_open(path.c_str(), MDB_NOFLAGS));
+    handle.reset(Opened(path));
     close(descriptor);
     if (!handle)
         throw Refusal{FailureCode::Damaged};
@@ -109,7 +132,7 @@ void JetFile::CloseConversion::operator()(iconv_t *open) const
 
 Bytes JetFile::OtherPage(std::uint32_t number)
 {
-    if (mdb_read_alt_pg(handle.get(), number) != handle->fmt->pg_size)
+    if (!HasPage(number) || mdb_read_alt_pg(handle.get(), number) != handle->fmt->pg_size)
         throw Refusal{FailureCode::Damaged};
     return {handle->alt_pg_buf, PageLength()};
 }

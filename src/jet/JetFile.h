@@ -39,6 +39,9 @@ public:
     std::uint64_t Length() const { return length; }
     std::size_t PageLength() const { return static_cast<std::size_t>(handle->fmt->pg_size); }
 
+    /// Whether the file has all of a page.
+    bool HasPage(std::uint32_t number) const { return (number + std::uint64_t{1}) * PageLength() <= length; }
+
     /// The page that the library read last.
     Bytes Page() const { return {handle->pg_buf, PageLength()}; }
     /// Another page, good until the next one is asked for; Page() stays. Refuses one that isn't there.

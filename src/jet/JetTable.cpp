@@ -109,6 +109,9 @@ bool JetTable::NextRow()
 bool JetTable::NextPage()
 {
     const int next = mdb_read_next_dpg(table.get());
+    // What isn't in the file any more reads as zeros.
+    if (!file.HasPage(table->cur_phys_pg) || (next <= 0 && HasMorePages()))
+        throw Refusal{FailureCode::Damaged};
     if (next <= 0)
         return false;
     // The map has each page once, in their order; whatever comes back would never end.
@@ -118,6 +121,19 @@ bool JetTable::NextPage()
     rows = file.RowCount(file.Page());
     row = 0;
     return true;
+}
+
+/// Whether there are pages behind the one that the library stopped at: to it, one that can't be read is as
+/// good as none.
+bool JetTable::HasMorePages() const
+{
+    const std::uint32_t at = table->cur_phys_pg;
+    const int listed =
+        mdb_map_find_next(&file.Handle(), table->usage_map, static_cast<unsigned>(table->map_sz), at);
+    if (listed >= 0)
+        return listed > 0 && static_cast<std::uint32_t>(listed) != at;
+    // A map that it doesn't know: it went through all pages of the file, and has counted the one it tried.
+    return at > 0 && file.HasPage(at - 1);
 }
 
 bool JetTable::Locate(std::size_t number)

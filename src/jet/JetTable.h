@@ -47,6 +47,7 @@ private:
 
     void ReadNames();
     bool NextPage();
+    bool HasMorePages() const;
     bool Locate(std::size_t number);
     bool Follow(Bytes pointer);
     void Crack(const RowPlace &place);
