@@ -3,15 +3,12 @@
 
 #include "Cases.h"
 
-#include "settings/HiveText.h"
+#include "Findings.h"
 #include "support/SampleDatabase.h"
 
 #include <QCryptographicHash>
 
-#include <cstdio>
-#include <fnmatch.h>
 #include <fstream>
-#include <sstream>
 
 namespace tressel::faults {
 
@@ -41,6 +38,15 @@ void FolderToFill(const fs::path &folder)
     Put(folder / "files/Five.txt", "5");
     const QByteArray database = SampleDatabase();
     Put(folder / "shop.mdb", database.toStdString());
+}
+
+/// A database of several pages.
+void LongTable(const fs::path &folder)
+{
+    PutBystander(folder);
+    constexpr std::int64_t rows = 300;
+    const QByteArray database = LongDatabase(rows);
+    Put(folder / "long.mdb", database.toStdString());
 }
 
 void Series(const fs::path &folder)
@@ -83,9 +89,6 @@ std::string Bytes(size_t length)
         bytes += static_cast<char>('a' + index * index % 23);
     return bytes;
 }
-
-const std::string settingsFile = "config/tressel/settings";
-const std::string storedValue = "\"Show Tips at Startup\"=\"0\"\n";
 
 constexpr size_t filmLength = 700'000;
 
@@ -160,111 +163,16 @@ void Settings(const fs::path &folder)
     fs::permissions((folder / settingsFile).parent_path(), fs::perms::owner_all);
 }
 
+template <void (*SetUp)(const fs::path &folder)> void WithSettings(const fs::path &folder)
+{
+    Settings(folder);
+    SetUp(folder / workedIn);
+}
+
 void DamagedSettings(const fs::path &folder)
 {
     Settings(folder);
     std::ofstream(folder / settingsFile, std::ios::app) << "no line of ours\n";
-}
-
-// What is said of the folder afterwards. What a kill may leave stands in README.md.
-
-/// The same without some paths, of which then nothing is said.
-Evidence Without(Evidence evidence, const std::string &pattern)
-{
-    const auto matches = [&](const auto &each) {
-        return fnmatch(pattern.c_str(), each.first.c_str(), 0) == 0;
-    };
-    for (Tree *tree : {&evidence.before, &evidence.done, &evidence.now})
-        std::erase_if(*tree, matches);
-    return evidence;
-}
-
-size_t CountLines(const std::string &text, const std::string &pattern)
-{
-    size_t count = 0;
-    std::istringstream lines(text);
-    for (std::string line; std::getline(lines, line);)
-        count += fnmatch(pattern.c_str(), line.c_str(), 0) == 0 ? 1 : 0;
-    return count;
-}
-
-/// A report that leaves out what couldn't be read is whole if it has all that its last line tells of.
-bool IsWholeWithout(const std::string &report, const std::string &told)
-{
-    size_t folders = 0;
-    size_t files = 0;
-    size_t unreadable = 0;
-    constexpr int numbers = 3;
-    return std::sscanf(told.c_str(), "listed %zu folders, %zu files, unreadable %zu", &folders, &files,
-                       &unreadable)
-        == numbers
-        && unreadable > 0 && report.ends_with("\r\n \r\n") && CountLines(report, "/*") == folders
-        && CountLines(report, "   ?*") == files;
-}
-
-Finding Replaced(const Evidence &evidence)
-{
-    return EachWhole(evidence.isKilled ? Without(evidence, "*~tr?????.tmp") : evidence);
-}
-
-/// What is found of a part of the evidence, with how far the whole has come.
-Finding Overall(const Finding &ofPart, const Evidence &evidence)
-{
-    if (ofPart.state >= State::Leftover || evidence.now == evidence.done)
-        return ofPart;
-    return {evidence.now == evidence.before ? State::Untouched : State::PartWay, {}, {}};
-}
-
-Finding Reported(const Evidence &evidence)
-{
-    const auto report = evidence.now.find("lists/music.txt");
-    if (report == evidence.now.end() || !IsWholeWithout(report->second.contents, evidence.out))
-        return Replaced(evidence);
-    Evidence asDone = evidence;
-    asDone.now["lists/music.txt"].contents = evidence.done.at("lists/music.txt").contents;
-    return Overall(Replaced(asDone), evidence);
-}
-
-Finding Split(const Evidence &evidence)
-{
-    return evidence.isKilled ? Overall(Replaced(Without(evidence, "film.[0-9]*")), evidence)
-                             : EachWhole(evidence);
-}
-
-/// A file that is to be erased may hold anything as soon as that has begun, but is found by its name or gone.
-Finding Erased(const Evidence &evidence)
-{
-    Evidence others = Without(evidence, "letters/[so]*.txt");
-    if (evidence.isKilled)
-        others = Without(others, "letters/[0-9a-f]*[0-9a-f]");
-    return Overall(EachWhole(others), evidence);
-}
-
-Finding SavedAtLast(const Evidence &evidence)
-{
-    return EachWhole(evidence.isKilled ? Without(evidence, "*/.tressel-settings.tmp") : evidence);
-}
-
-/// Whether the settings are what one of several saves has written, with what the user had stored before.
-bool AreSettingsWhole(const std::string &settings, const Evidence &evidence)
-{
-    const QByteArray bytes = QByteArray::fromStdString(settings);
-    const HiveReading reading = HiveFromText(bytes);
-    const auto before = evidence.before.find(settingsFile);
-    const bool keepsValue =
-        before == evidence.before.end() || settings.find(storedValue) != std::string::npos;
-    return !reading.isDamaged && HiveToText(reading.tree) == bytes && keepsValue;
-}
-
-Finding Saved(const Evidence &evidence)
-{
-    const auto settings = evidence.now.find(settingsFile);
-    if (settings != evidence.now.end() && AreSettingsWhole(settings->second.contents, evidence)) {
-        Evidence asDone = evidence;
-        asDone.now[settingsFile] = evidence.done.at(settingsFile);
-        return Overall(SavedAtLast(asDone), evidence);
-    }
-    return SavedAtLast(evidence);
 }
 
 } // namespace
@@ -322,6 +230,28 @@ const std::vector<Case> &Cases()
         {"database --values",
          {"database", "@/shop.mdb", "--values", "Products", "ProductName"},
          FolderToFill},
+        {"reader --tables", {"database", "@/shop.mdb", "--tables"}, FolderToFill, EachWhole, Reader},
+        {"reader --fields",
+         {"database", "@/shop.mdb", "--fields", "Products"},
+         FolderToFill,
+         EachWhole,
+         Reader},
+        {"reader --values",
+         {"database", "@/shop.mdb", "--values", "Products", "ProductName"},
+         FolderToFill,
+         EachWhole,
+         Reader},
+        {"reader --values, long",
+         {"database", "@/long.mdb", "--values", "Rows", "Name"},
+         LongTable,
+         EachWhole,
+         Reader},
+        {"reader, create",
+         {"create", "--to", "@/work", "--database", "@/shop.mdb", "--table", "Products", "--field",
+          "ProductName"},
+         FolderToFill,
+         EachWhole,
+         Reader},
         // What is refused stays as it is, also where a look at it fails.
         {"report onto a file",
          {"report", "@/music", "--output", "@/lists/music.txt"},
@@ -354,6 +284,48 @@ const std::vector<Case> &Cases()
         {"window, settings", {}, Settings, Saved, Window},
         {"window, first start", {}, Nothing, Saved, Window},
         {"window, damaged settings", {}, DamagedSettings, Saved, Window},
+        {"window report",
+         {"report", "@/place/music"},
+         WithSettings<Music>,
+         ReportedInWindow,
+         WindowTool,
+         0,
+         ReportPassesOver},
+        {"window split",
+         {"split", "@/place/film"},
+         WithSettings<Film>,
+         SplitInWindow,
+         WindowTool,
+         0,
+         SplitPassesOver},
+        {"window join",
+         {"join", "@/place/film"},
+         WithSettings<PartsAndFilm>,
+         JoinedInWindow,
+         WindowTool,
+         0,
+         JoinPassesOver},
+        {"window erase",
+         {"erase", "@/place/letters"},
+         WithSettings<Secrets>,
+         ErasedInWindow,
+         WindowTool,
+         0,
+         ErasePassesOver},
+        {"window rename",
+         {"rename", "@/place/photos"},
+         WithSettings<Photos>,
+         RenamedInWindow,
+         WindowTool,
+         0,
+         PassesOverAll},
+        {"window empty",
+         {"empty", "@/place/tree"},
+         WithSettings<EmptyFolders>,
+         RemovedInWindow,
+         WindowTool,
+         0,
+         PassesOverAll},
     };
     return cases;
 }

@@ -11,13 +11,18 @@
 
 namespace tressel::faults {
 
+/// The folder that a tool of the window works in, below a case's.
+constexpr const char *workedIn = "place";
+
 /// Which program a case runs.
 enum class Subject {
     CommandLine,
     OldSystem, ///< the same on a system that knows neither renaming without overwriting nor files without a
                ///< name
+    Reader, ///< the command line, and faults strike the reader of databases that it starts
     ListSave, ///< the window's form saving its list, without a display
     Window, ///< the program with its window, which is asked to end when it is up
+    WindowTool, ///< the same, and one of its tools is put to work before; faults strike what that works on
 };
 
 /// One thing that a program does with the disc.
@@ -31,6 +36,9 @@ struct Case {
     Finding (*check)(const Evidence &evidence) = EachWhole;
     Subject subject = Subject::CommandLine;
     int status = 0; ///< of a run without a fault
+    /// Whether its tool is known to pass over a fault without a word: the call and its path as a run has
+    /// them, and the error. What is said of the folder holds then too.
+    bool (*passesOver)(const std::string &where, int error, const Evidence &evidence) = nullptr;
 };
 
 /// The table of all cases.

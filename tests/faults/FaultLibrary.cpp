@@ -5,154 +5,35 @@
 // program makes through the C library and lets the one fail that the plan names. Everything that Tressel
 // calls on files is here; what it doesn't call isn't.
 
-#include "FaultPlan.h"
+#include "Strike.h"
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
-#include <csignal>
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <dirent.h>
-#include <dlfcn.h>
 #include <fcntl.h>
-#include <string_view>
+#include <spawn.h>
+#include <string>
 #include <sys/file.h>
-#include <sys/mman.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <sys/syscall.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
-using tressel::faults::FaultPlan;
-using tressel::faults::Kind;
+using namespace tressel::faults;
 
 namespace {
 
-/// The call behind ours, in the C library.
-template <typename Call> Call *Next(Call * /*ours*/, const char *name)
+std::string Setting(const char *name, const char *value)
 {
-    return reinterpret_cast<Call *>(dlsym(RTLD_NEXT, name));
+    return std::string(name) + "=" + value;
 }
 
-/// A bare call to the system.
-template <typename... Words> long Bare(long number, Words... words)
-{
-    // Found when it is first needed: other libraries may call before this one is set up.
-    static const auto next = Next(&syscall, "syscall");
-    return next(number, words...);
-}
-
-/// By the bare calls, since those with names lead back to this library.
-FaultPlan *OpenPlan()
-{
-    const char *path = std::getenv(tressel::faults::planVariable);
-    if (!path)
-        return nullptr;
-    const auto file = static_cast<int>(Bare(SYS_openat, AT_FDCWD, path, O_RDWR | O_CLOEXEC));
-    void *memory = mmap(nullptr, sizeof(FaultPlan), PROT_READ | PROT_WRITE, MAP_SHARED, file, 0);
-    Bare(SYS_close, file);
-    return memory == MAP_FAILED ? nullptr : static_cast<FaultPlan *>(memory);
-}
-
-FaultPlan *const plan = OpenPlan();
-
-bool IsBelowRoot(std::string_view path)
-{
-    const std::string_view root = plan->root.data();
-    return path.starts_with(root) && (path.size() == root.size() || path[root.size()] == '/');
-}
-
-using PathRoom = std::array<char, PATH_MAX>;
-
-/// The path of what a link of /proc leads to, in the room.
-std::string_view PathBehind(const char *link, PathRoom &room)
-{
-    const long length = Bare(SYS_readlink, link, room.data(), room.size());
-    return {room.data(), static_cast<std::size_t>(std::max(length, 0L))};
-}
-
-std::string_view PathOf(int file, PathRoom &room)
-{
-    std::array<char, 32> link;
-    std::snprintf(link.data(), link.size(), "/proc/self/fd/%d", file);
-    return PathBehind(link.data(), room);
-}
-
-std::string_view FolderOf(int folder, PathRoom &room)
-{
-    return folder == AT_FDCWD ? PathBehind("/proc/self/cwd", room) : PathOf(folder, room);
-}
-
-void Note(const char *call, std::string_view path)
-{
-    std::snprintf(plan->call.data(), plan->call.size(), "%s", call);
-    const int most = static_cast<int>(std::min(path.size(), plan->path.size() - 1));
-    std::snprintf(plan->path.data(), plan->path.size(), "%.*s", most, path.data());
-    plan->struck = true;
-}
-
-/// Counts a call that is about the path and tells whether it is to be struck.
-bool IsStruck(Kind kind, const char *call, std::string_view path)
-{
-    if ((plan->kind != kind && plan->kind != Kind::Any) || !IsBelowRoot(path))
-        return false;
-    const int number = ++plan->calls;
-    const bool strikes =
-        number == plan->number || (plan->lasts && plan->number != 0 && number > plan->number);
-    if (!strikes)
-        return false;
-    Note(call, path);
-    if (plan->outcome == tressel::faults::killed)
-        Bare(SYS_kill, Bare(SYS_getpid), SIGKILL);
-    return true;
-}
-
-/// True if the call fails, with errno set.
-bool Fails(Kind kind, const char *call, std::string_view path)
-{
-    if (!IsStruck(kind, call, path) || plan->outcome == tressel::faults::shortened)
-        return false;
-    errno = plan->outcome;
-    return true;
-}
-
-bool FailsAt(Kind kind, const char *call, int folder, const char *path)
-{
-    PathRoom room;
-    if (!plan)
-        return false;
-    if (*path == '/')
-        return Fails(kind, call, path);
-    const std::string_view above = FolderOf(folder, room);
-    PathRoom whole;
-    const int length = std::snprintf(whole.data(), whole.size(), "%.*s/%s", static_cast<int>(above.size()),
-                                     above.data(), path);
-    return Fails(kind, call, {whole.data(), std::min(static_cast<std::size_t>(length), whole.size() - 1)});
-}
-
-bool FailsOn(Kind kind, const char *call, int file)
-{
-    PathRoom room;
-    return plan && Fails(kind, call, PathOf(file, room));
-}
-
-/// The bytes that a call which reads or writes is carried out for; nothing goes if it fails.
-bool FailsOrShortens(Kind kind, const char *call, int file, std::size_t &length)
-{
-    PathRoom room;
-    if (!plan || !IsStruck(kind, call, PathOf(file, room)))
-        return false;
-    if (plan->outcome == tressel::faults::shortened) {
-        length = std::min(length, std::max<std::size_t>(1, length / 2));
-        return false;
-    }
-    errno = plan->outcome;
-    return true;
-}
+/// The last stream of which a read failed.
+FILE *struckStream = nullptr;
 
 mode_t ModeOf(int flags, va_list rest)
 {
@@ -427,6 +308,59 @@ int fremovexattr(int file, const char *name) noexcept
 {
     static const auto next = Next(&fremovexattr, "fremovexattr");
     return FailsOn(Kind::Attribute, "fremovexattr", file) ? -1 : next(file, name);
+}
+
+// Streams, as libraries use them. They go on by themselves where a call is interrupted or comes short.
+
+FILE *fopen(const char *path, const char *mode)
+{
+    static const auto next = Next(&fopen, "fopen");
+    return FailsAt(Kind::Open, "fopen", AT_FDCWD, path) ? nullptr : next(path, mode);
+}
+
+size_t fread(void *room, size_t size, size_t count, FILE *stream)
+{
+    static const auto next = Next(&fread, "fread");
+    const bool goesOn = plan && (plan->outcome == shortened || plan->outcome == EINTR);
+    if (goesOn || !FailsOn(Kind::Read, "fread", fileno(stream)))
+        return next(room, size, count, stream);
+    struckStream = stream;
+    return 0;
+}
+
+int ferror(FILE *stream) noexcept
+{
+    static const auto next = Next(&ferror, "ferror");
+    return stream == struckStream ? 1 : next(stream);
+}
+
+int fseeko(FILE *stream, off_t position, int from)
+{
+    static const auto next = Next(&fseeko, "fseeko");
+    return FailsOn(Kind::Seek, "fseeko", fileno(stream)) ? -1 : next(stream, position, from);
+}
+
+// Other programs
+
+/// Nothing of this library gets into a program that is started without the environment, so it is put there.
+int posix_spawn(pid_t *process, const char *path, const posix_spawn_file_actions_t *actions,
+                const posix_spawnattr_t *attributes, char *const *arguments, char *const *environment)
+{
+    static const auto next = Next(&posix_spawn, "posix_spawn");
+    std::string preload = Setting("LD_PRELOAD", std::getenv("LD_PRELOAD"));
+    std::string planPath = Setting(planVariable, std::getenv(planVariable));
+    std::string started = Setting(startedVariable, "1");
+    const std::array<char *, 4> ours{preload.data(), planPath.data(), started.data(), nullptr};
+    return next(process, path, actions, attributes, arguments, *environment ? environment : ours.data());
+}
+
+/// Behind this call a process can't ask where its files lead.
+int seccomp_load(void *filter)
+{
+    static const auto next = Next(&seccomp_load, "seccomp_load");
+    if (plan)
+        NotePaths();
+    return next(filter);
 }
 
 } // extern "C"

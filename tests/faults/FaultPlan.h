@@ -42,6 +42,8 @@ constexpr int killed = -2; ///< the process is killed instead
 
 /// The variable that holds the path of the file in which both sides have the plan.
 constexpr const char *planVariable = "TRESSEL_FAULT_PLAN";
+/// Set in a program that the one under test has started.
+constexpr const char *startedVariable = "TRESSEL_FAULT_STARTED";
 
 /// What the runner asks of the library in the program under test, and what it hears back: memory that the
 /// two share. Calls count only where they touch something at the root or below.
@@ -51,6 +53,7 @@ struct FaultPlan {
     int number; ///< the call to strike, from 1 on; 0 for none
     int outcome; ///< an error of the system, or one of the two above
     bool lasts; ///< all calls of the kind from that one on fail
+    bool inStarted; ///< faults strike what the program under test starts, and not that one itself
     bool isOldSystem; ///< it knows neither renaming without overwriting nor files without a name
 
     std::atomic<int> calls; ///< of the kind, so far

@@ -60,11 +60,13 @@ Bench::~Bench()
 
 void Bench::SetPlan(const Case &subject, const Fault &fault, int number)
 {
-    std::snprintf(plan->root.data(), plan->root.size(), "%s", root.c_str());
+    const fs::path struck = subject.subject == Subject::WindowTool ? disc / workedIn : root;
+    std::snprintf(plan->root.data(), plan->root.size(), "%s", struck.c_str());
     plan->kind = fault.kind;
     plan->number = number;
     plan->outcome = fault.outcome;
     plan->lasts = fault.lasts;
+    plan->inStarted = subject.subject == Subject::Reader;
     plan->isOldSystem = subject.subject == Subject::OldSystem;
     plan->calls = 0;
     plan->struck = false;
@@ -99,10 +101,12 @@ std::string Bench::FirstWordOf(const Case &subject) const
     switch (subject.subject) {
     case Subject::CommandLine:
     case Subject::OldSystem:
+    case Subject::Reader:
         return TRESSEL_CLI;
     case Subject::ListSave:
         return TRESSEL_LIST_SAVE;
     case Subject::Window:
+    case Subject::WindowTool:
         return TRESSEL_WINDOW;
     }
     return {};

@@ -4,6 +4,7 @@
 #include "Sweep.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <csignal>
 
@@ -79,7 +80,20 @@ constexpr Fault none{"none", Kind::Any, EIO};
 
 bool NamesSomething(const std::string &message)
 {
-    return message.find("/disc") != std::string::npos || message.find("standard output") != std::string::npos;
+    constexpr std::array<const char *, 3> names{"/disc", "standard output", "told in the window"};
+    return std::ranges::any_of(names,
+                               [&](const char *name) { return message.find(name) != std::string::npos; });
+}
+
+/// An interrupted call and one that did a part of its work are no failures.
+bool IsToGoOn(const Fault &fault)
+{
+    return fault.outcome == EINTR || fault.outcome == shortened;
+}
+
+bool IsPassedOver(const Case &subject, const Run &run, const Fault &fault, const Evidence &evidence)
+{
+    return subject.passesOver && !IsToGoOn(fault) && subject.passesOver(run.where, fault.outcome, evidence);
 }
 
 Verdict VerdictOfEnded(const Run &run, const Run &clean, const Fault &fault, State state)
@@ -91,7 +105,7 @@ Verdict VerdictOfEnded(const Run &run, const Run &clean, const Fault &fault, Sta
         return Verdict::FalseSuccess;
     if (run.status != 1 || !NamesSomething(run.err))
         return Verdict::NoReason;
-    return fault.outcome == EINTR || fault.outcome == shortened ? Verdict::GaveUp : Verdict::Told;
+    return IsToGoOn(fault) ? Verdict::GaveUp : Verdict::Told;
 }
 
 bool IsKilled(const Run &run, const Fault &fault)
@@ -116,7 +130,8 @@ bool IsExcused(const Run &run, const Fault &fault, const Finding &finding)
     return fault.lasts && !name.empty() && run.status == 1 && isTold;
 }
 
-Verdict VerdictOf(const Run &run, const Run &clean, const Fault &fault, const Finding &finding)
+Verdict VerdictOf(const Case &subject, const Run &run, const Run &clean, const Fault &fault,
+                  const Evidence &evidence, const Finding &finding)
 {
     // From here on a status stands for a program that couldn't be started, or that says which signal ended
     // it.
@@ -130,7 +145,11 @@ Verdict VerdictOf(const Run &run, const Run &clean, const Fault &fault, const Fi
         return Verdict::HalfWritten;
     if (finding.state == State::Leftover)
         return Verdict::Leftover;
-    return isKilled ? VerdictOfKilled(finding.state) : VerdictOfEnded(run, clean, fault, finding.state);
+    if (isKilled)
+        return VerdictOfKilled(finding.state);
+    const Verdict verdict = VerdictOfEnded(run, clean, fault, finding.state);
+    const bool isUntold = verdict == Verdict::FalseSuccess || verdict == Verdict::NoReason;
+    return isUntold && IsPassedOver(subject, run, fault, evidence) ? Verdict::Silent : verdict;
 }
 
 std::string FirstLine(const std::string &text)
@@ -172,10 +191,10 @@ private:
             if (!run.metFault)
                 return;
             ++row.points;
-            const Finding finding =
-                subject.check({run.before, clean.now, run.now, run.out, IsKilled(run, fault)});
+            const Evidence evidence{run.before, clean.now, run.now, run.out, IsKilled(run, fault)};
+            const Finding finding = subject.check(evidence);
             const std::string what = finding.state >= State::Leftover ? finding.what : FirstLine(run.err);
-            Add(VerdictOf(run, clean, fault, finding),
+            Add(VerdictOf(subject, run, clean, fault, evidence, finding),
                 std::to_string(number) + ". " + run.where + ": " + fault.name, run, what);
         }
     }

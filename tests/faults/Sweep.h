@@ -18,6 +18,7 @@ enum class Verdict {
     Told, ///< it failed and said so
     Untouched, ///< killed: all is as it was
     PartWay, ///< killed: some of it is done, and what is there is whole
+    Silent, ///< it failed where its tool passes over that without a word
     FalseSuccess, ///< it said that all is done, and it isn't
     Crash, ///< ended by a signal, or hung
     HalfWritten, ///< a file is neither the old nor the new one, or has gone
@@ -25,7 +26,7 @@ enum class Verdict {
     GaveUp, ///< it took a call for failed that a signal interrupted, or that did a part of its work
     Leftover, ///< something of its own stays behind
 };
-constexpr std::size_t verdictCount = 10;
+constexpr std::size_t verdictCount = 11;
 
 /// All points of one case.
 struct Row {

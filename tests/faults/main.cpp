@@ -23,13 +23,10 @@ struct Column {
 };
 
 constexpr Column ofFaults[]{
-    {"done", Verdict::Done},
-    {"told", Verdict::Told},
-    {"false success", Verdict::FalseSuccess},
-    {"crash", Verdict::Crash},
-    {"half-written", Verdict::HalfWritten},
-    {"no reason", Verdict::NoReason},
-    {"gave up", Verdict::GaveUp},
+    {"done", Verdict::Done},          {"told", Verdict::Told},
+    {"silent", Verdict::Silent},      {"false success", Verdict::FalseSuccess},
+    {"crash", Verdict::Crash},        {"half-written", Verdict::HalfWritten},
+    {"no reason", Verdict::NoReason}, {"gave up", Verdict::GaveUp},
     {"leftover", Verdict::Leftover},
 };
 
@@ -37,6 +34,7 @@ constexpr Column ofKills[]{
     {"new", Verdict::Done},          {"old", Verdict::Untouched},
     {"part way", Verdict::PartWay},  {"half-written", Verdict::HalfWritten},
     {"leftover", Verdict::Leftover}, {"false success", Verdict::FalseSuccess},
+    {"told", Verdict::Told},
 };
 
 /// A short sweep goes to one of so many points; of the window, which takes longest to start, to fewer.
@@ -64,10 +62,15 @@ Wishes WishesOf(int count, char **arguments)
     return wishes;
 }
 
+bool HasWindow(const Case &subject)
+{
+    return subject.subject == Subject::Window || subject.subject == Subject::WindowTool;
+}
+
 bool IsWanted(const Case &subject, const Wishes &wishes)
 {
     const auto isNamed = [&](std::string_view part) { return subject.name.find(part) != std::string::npos; };
-    if (subject.subject == Subject::Window && std::strlen(TRESSEL_WINDOW) == 0)
+    if (HasWindow(subject) && std::strlen(TRESSEL_WINDOW) == 0)
         return false;
     return wishes.names.empty() || std::ranges::any_of(wishes.names, isNamed);
 }
@@ -75,7 +78,7 @@ bool IsWanted(const Case &subject, const Wishes &wishes)
 /// A short sweep starts the window, which takes longest, for the likeliest fault alone.
 bool IsInShortSweep(const Fault &fault, const Case &subject)
 {
-    return fault.isInShortSweep && (subject.subject != Subject::Window || fault.kind == Kind::Write);
+    return fault.isInShortSweep && (!HasWindow(subject) || fault.kind == Kind::Write);
 }
 
 std::vector<Fault> FaultsOf(const Case &subject, const Wishes &wishes)
@@ -93,7 +96,7 @@ int StrideOf(const Case &subject, const Wishes &wishes)
 {
     if (!wishes.isShort)
         return 1;
-    return subject.subject == Subject::Window ? shortStrideOfWindow : shortStride;
+    return HasWindow(subject) ? shortStrideOfWindow : shortStride;
 }
 
 void PrintHead(std::span<const Column> columns)
