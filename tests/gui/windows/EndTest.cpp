@@ -5,9 +5,11 @@
 #include "ProgramAtHome.h"
 #include "gui/GuiTest.h"
 #include "gui/WhenUp.h"
+#include "settings/HiveText.h"
 
 #include <QDir>
 #include <QMessageBox>
+#include <QSessionManager>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -39,6 +41,17 @@ private:
     int descriptor;
     bool isHeld;
 };
+
+/// What the system does when the desktop session ends.
+void EndSession()
+{
+    Q_EMIT qApp->commitDataRequest(*qApp->findChild<QSessionManager *>());
+}
+
+QByteArray Stored(DesktopStage &stage)
+{
+    return HiveToText(stage.hive.Tree(SettingsHive::Root::User));
+}
 
 /// The palette of a first start is put down when the main window has loaded.
 bool HasLoaded(const ProgramAtHome &program)
@@ -73,6 +86,43 @@ private Q_SLOTS:
         QCOMPARE(program.SettingsFile(), before);
         for (const KeyEntry &key : told)
             QCOMPARE(program.Stored(key), u"7"_s);
+    }
+
+    void TheEndOfTheSessionWhileABoxStandsInTheStartLeavesTheSettings()
+    {
+        DesktopStage stage;
+        stage.Put(keys::DatabaseFile, stage.Place(u"gone.mdb"_s));
+        for (const KeyEntry &key : {keys::SplitSize, keys::GenLastPath, keys::Menu.At(1), keys::LastPath})
+            stage.Put(key, u"7"_s);
+        const QByteArray before = Stored(stage);
+        QByteArray atTheEnd;
+        // In a test the program goes on behind its end, and comes to further boxes.
+        QTimer glances;
+        connect(&glances, &QTimer::timeout, this, [&] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (!box)
+                return;
+            if (atTheEnd.isEmpty()) {
+                QVERIFY_THROWS_EXCEPTION(ProcessEnded, EndSession());
+                atTheEnd = Stored(stage);
+            }
+            box->accept();
+        });
+        glances.start(0);
+        stage.Start();
+        QCOMPARE(atTheEnd, before);
+    }
+
+    void TheEndOfTheSessionSavesAWindowThatHasLoaded()
+    {
+        DesktopStage stage;
+        stage.Start();
+        const QList<QByteArray> names{"\"MainLeft\"", "\"Menu7\"", "\"LastNumPath\"", "\"SplitSize\""};
+        for (const QByteArray &name : names)
+            QVERIFY2(!Stored(stage).contains(name), name.constData());
+        QVERIFY_THROWS_EXCEPTION(ProcessEnded, EndSession());
+        for (const QByteArray &name : names)
+            QVERIFY2(Stored(stage).contains(name), name.constData());
     }
 
     void AKillWhileTheWindowFoldsUpLosesNothing()
