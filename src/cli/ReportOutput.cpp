@@ -6,6 +6,8 @@
 #include "Console.h"
 #include "machine/NameText.h"
 
+#include <algorithm>
+
 namespace tressel {
 
 namespace {
@@ -36,13 +38,15 @@ QString ReportOutput::Shown(const QString &name) const
 
 void ReportOutput::WriteLine(const QString &line, const QString &rest)
 {
-    const qsizetype before = held.size();
-    held.reserve(2 * heldAtMost);
-    held.resize(before + (line.size() + rest.size()) * 3);
-    char *const middle = WriteUtf8(line, NameBytes::Raw, held.data() + before);
-    held.truncate(WriteUtf8(rest, NameBytes::Raw, middle) - held.constData());
-    held += end;
-    if (held.size() >= heldAtMost)
+    const qsizetype longest = (line.size() + rest.size()) * 3 + end.size();
+    if (held.size() - taken < longest)
+        held.resize(taken + std::max(longest, 2 * heldAtMost));
+    char *to = held.data() + taken;
+    to = WriteUtf8(line, NameBytes::Raw, to);
+    to = WriteUtf8(rest, NameBytes::Raw, to);
+    to = std::ranges::copy(end, to).out;
+    taken = to - held.constData();
+    if (taken >= heldAtMost)
         Pass();
 }
 
@@ -56,10 +60,10 @@ void ReportOutput::Commit()
 void ReportOutput::Pass()
 {
     if (file)
-        file->Write(held);
+        file->Write(held.first(taken));
     else
-        console.streams.Out().Write(held);
-    held.resize(0);
+        console.streams.Out().Write(QByteArrayView(held).first(taken));
+    taken = 0;
 }
 
 } // namespace tressel

@@ -38,7 +38,8 @@ private:
     Console &console;
     std::unique_ptr<ReplacingFile> file; ///< none for standard output
     QByteArray end;
-    QByteArray held;
+    QByteArray held; ///< room for lines, of which so many bytes are taken
+    qsizetype taken = 0;
 };
 
 } // namespace tressel

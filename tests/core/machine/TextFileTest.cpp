@@ -155,6 +155,23 @@ TEST(DecodeText, AnyBytesComeBackFromRawText)
     EXPECT_EQ(DecodeText(bytes).size(), bytes.size());
 }
 
+TEST(EncodeText, ACharacterAmongAsciiIsTheSameInEachPlace)
+{
+    const QStringList characters{u"\u007F"_s, u"\u0080"_s, u"\u00E9"_s,    u"\u0100"_s,
+                                 u"\u7F7F"_s, u"\uFFFF"_s, u"\U0001F600"_s};
+    for (int length = 0; length <= 17; ++length) {
+        for (int place = 0; place <= length; ++place) {
+            for (const QString &character : characters) {
+                const QString text = QString(length, u'z').insert(place, character);
+                EXPECT_EQ(EncodeText(text), text.toUtf8());
+                EXPECT_EQ(DecodeText(text.toUtf8()), text);
+            }
+            const QByteArray odd = QByteArray(length, 'z').insert(place, '\xFF');
+            EXPECT_EQ(EncodeText(DecodeText(odd, NameBytes::Raw), NameBytes::Raw), odd);
+        }
+    }
+}
+
 TEST(EncodeText, HalfAPairBecomesTheReplacementCharacter)
 {
     EXPECT_EQ(EncodeText(Mark(0xD800) + u'a'),

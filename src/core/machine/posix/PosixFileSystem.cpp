@@ -180,6 +180,8 @@ QList<FolderEntry> PosixFileSystem::List(const QString &folder, Lengths lengths)
 {
     PosixFolderReader reader(OpenFolder(folder), lengths);
     QList<FolderEntry> entries;
+    constexpr qsizetype mostHaveFewer = 128;
+    entries.reserve(mostHaveFewer);
     while (std::optional<FolderEntry> entry = reader.Next())
         entries.append(std::move(*entry));
     SortByName(entries);
