@@ -232,7 +232,8 @@ TEST_F(FileErasureTest, AFailureAtEachStepLeavesWhatIsTold)
         {Operation::RemoveFile, 1, TwoLines(2)},
     };
     for (const LeftBehind &row : rows) {
-        ErasePage fresh{bench.On(*std::make_unique<Form>(u"other"_s).release())};
+        Form other(u"other"_s);
+        ErasePage fresh{bench.On(other)};
         machine.files.PutFile(u"C:\\W\\f"_s, old);
         machine.files.FailAt(row.operation, u"C:\\W\\f"_s, row.nth, FailureNumber::DeviceIoError);
         fresh.run.WipeFileClean(u"C:\\W\\f"_s);
