@@ -128,7 +128,7 @@ TEST_F(JetHostile, AnAnswerFromAFileThatWasCutIsWholeOrAFailure)
     const QByteArray whole = LongDatabase(300);
     PutFile(whole);
     const QString table = u"Rows"_s;
-    const QString field = u"Name"_s;
+    const QStringList field{u"Name"_s};
     const qsizetype objects = AllObjects(databases, path).size();
     const QList<DatabaseValue> values = AllValues(databases, path, table, field);
     ASSERT_EQ(values.size(), 300);
