@@ -54,6 +54,18 @@ TEST_F(Erase, ItIsSaidWhereTheFileSystemWroteElsewhereOrDoesNotTell)
         "medium\nerased 1, failed 0\n");
 }
 
+TEST_F(Erase, ItIsSaidWhereTheFileSystemKeepsAJournalOfContents)
+{
+    memory.files.SetPlace(u"C:\\Work\\f"_s, 8192);
+    memory.files.PutInJournal(u"C:\\Work\\f"_s);
+    const Ended ended = EraseF();
+    EXPECT_EQ(ended.status, AllDone);
+    EXPECT_EQ(
+        ended.out,
+        "C:\\Work\\f: overwritten, but the file system keeps a journal of contents too: the old ones may "
+        "still be in it\nerased 1, failed 0\n");
+}
+
 TEST_F(Erase, KeepNameRemovesTheFileUnderItsOwnName)
 {
     EraseF({u"--keep-name"_s});

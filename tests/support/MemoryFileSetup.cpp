@@ -80,6 +80,11 @@ void MemoryFileSystem::SetPlace(const QString &path, quint64 place, bool movesOn
     node->movesOnWriting = movesOnWriting;
 }
 
+void MemoryFileSystem::PutInJournal(const QString &path)
+{
+    FindFile(path)->isInJournal = true;
+}
+
 void MemoryFileSystem::SetModified(const QString &path, const QDateTime &modified)
 {
     FindFile(path)->modified = modified;

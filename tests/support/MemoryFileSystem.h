@@ -50,6 +50,8 @@ public:
     /// Puts a file at a place of its medium, which can be told then; it stays there unless it moves on
     /// writing.
     void SetPlace(const QString &path, quint64 place, bool movesOnWriting = false);
+    /// What is written to a file goes through a journal from now on.
+    void PutInJournal(const QString &path);
     /// Another program holds the file, or lets it go.
     void HoldByAnother(const QString &path, bool held = true);
     bool Exists(const QString &path);

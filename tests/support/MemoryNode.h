@@ -24,6 +24,7 @@ struct MemoryNode {
     quint64 names = 1;
     std::optional<QList<Extent>> extents; ///< where the file stands, if that can be told
     bool movesOnWriting = false; ///< each write puts it somewhere else
+    bool isInJournal = false; ///< what is written to it goes through a journal
     QString target; ///< of a link
     std::map<QString, std::shared_ptr<MemoryNode>> children; ///< of a folder, by the folded name
 };

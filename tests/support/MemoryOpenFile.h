@@ -24,6 +24,7 @@ public:
     void Resize(qint64 length) override;
     void Flush() override;
     std::optional<QList<Extent>> Extents() const override { return node->extents; }
+    bool IsInJournal() const override { return node->isInJournal; }
     void Close() override;
     void TakeAttributesOf(const OpenFile &other) override;
 

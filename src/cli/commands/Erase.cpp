@@ -39,6 +39,8 @@ QString Sentence(Overwritten outcome)
         return u"overwritten in place"_s;
     case Overwritten::Elsewhere:
         return u"overwritten, but the file system wrote elsewhere: the old contents may still be on the medium"_s;
+    case Overwritten::Journalled:
+        return u"overwritten, but the file system keeps a journal of contents too: the old ones may still be in it"_s;
     case Overwritten::Unknown:
         return u"overwritten; whether in place the file system doesn't tell"_s;
     }

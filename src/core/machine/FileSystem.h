@@ -111,6 +111,8 @@ public:
     virtual void Close() = 0;
     /// Takes over rights and time of change of another file of the same file system, as far as they can be
     /// given; where the rights can't, nobody but the owner gets any.
+    /// Whether what is written to the file goes through a journal, where nobody can tell what is left of it.
+    virtual bool IsInJournal() const { return false; }
     virtual void TakeAttributesOf(const OpenFile & /*other*/) { }
 };
 

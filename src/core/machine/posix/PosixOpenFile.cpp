@@ -3,6 +3,7 @@
 
 #include "machine/posix/PosixOpenFile.h"
 
+#include "machine/posix/DataJournal.h"
 #include "machine/posix/FileRights.h"
 #include "machine/posix/Retried.h"
 #include "machine/posix/SystemError.h"
@@ -32,13 +33,6 @@ constexpr qint64 sentAtOnce = 8 << 20;
 [[noreturn]] void ThrowError()
 {
     throw Failure(NumberOfError(errno));
-}
-
-/// Whether a file's bytes stand in a journal too, where nobody can tell what is left of them.
-bool IsInJournal(int file)
-{
-    int flags = 0;
-    return ioctl(file, FS_IOC_GETFLAGS, &flags) == 0 && (flags & FS_JOURNAL_DATA_FL) != 0;
 }
 
 QByteArray Room(qint64 length)
@@ -160,7 +154,7 @@ std::optional<QList<Extent>> PosixOpenFile::Extents() const
     constexpr quint32 notItsOwnBytes = FIEMAP_EXTENT_UNKNOWN | FIEMAP_EXTENT_DELALLOC | FIEMAP_EXTENT_ENCODED
         | FIEMAP_EXTENT_DATA_ENCRYPTED | FIEMAP_EXTENT_NOT_ALIGNED | FIEMAP_EXTENT_DATA_INLINE
         | FIEMAP_EXTENT_DATA_TAIL | FIEMAP_EXTENT_SHARED;
-    if (IsInJournal(file.Number()))
+    if (IsInJournal())
         return {};
     std::vector<std::byte> room(sizeof(fiemap) + atOnce * sizeof(fiemap_extent));
     QList<Extent> extents;
@@ -203,6 +197,11 @@ void PosixOpenFile::TakeAttributesOf(const OpenFile &other)
     const FileRights rights(from.Number());
     rights.GiveTo(file.Number());
     const std::array<timespec, 2> times{rights.Status().st_atim, rights.Status().st_mtim};
+bool PosixOpenFile::IsInJournal() const
+{
+    return HasDataInJournal(file.Number());
+}
+
     if (futimens(file.Number(), times.data()) != 0)
         ThrowError();
 }

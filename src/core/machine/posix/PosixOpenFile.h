@@ -27,6 +27,7 @@ public:
     void ForgetCached() override;
     std::optional<QList<Extent>> Extents() const override;
     void Close() override;
+    bool IsInJournal() const override;
     void TakeAttributesOf(const OpenFile &other) override;
 
     /// What the system knows it by, -1 once it is closed.

@@ -84,7 +84,8 @@ Overwritten MediumErasure::Erase(const QString &path)
     for (int pass = 1; pass <= passes; ++pass)
         WritePass(*file, length);
     ReadBack(*file, length);
-    const Overwritten outcome = Compare(before, file->Extents());
+    const Overwritten outcome =
+        file->IsInJournal() ? Overwritten::Journalled : Compare(before, file->Extents());
     const QString last = keepsName ? path : TakeName(path);
     try {
         Remove(*file, last);

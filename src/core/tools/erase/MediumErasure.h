@@ -15,6 +15,7 @@ namespace tressel {
 enum class Overwritten {
     InPlace, ///< the new bytes stand where the old ones stood
     Elsewhere, ///< the file system put new bytes at other places: the old ones may still be there
+    Journalled, ///< in a journal too: the new bytes, and so perhaps the old ones before them
     Unknown, ///< the file system doesn't tell, or keeps bytes packed, shared or encrypted
 };
 
