@@ -125,6 +125,15 @@ ssize_t pwrite(int file, const void *bytes, size_t length, off_t position)
     return FailsOrShortens(Kind::Write, "pwrite", file, length) ? -1 : next(file, bytes, length, position);
 }
 
+ssize_t copy_file_range(int from, off64_t *fromPosition, int file, off64_t *position, size_t length,
+                        unsigned flags)
+{
+    static const auto next = Next(&copy_file_range, "copy_file_range");
+    return FailsOrShortens(Kind::Write, "copy_file_range", file, length)
+        ? -1
+        : next(from, fromPosition, file, position, length, flags);
+}
+
 off_t lseek(int file, off_t position, int from) noexcept
 {
     static const auto next = Next(&lseek, "lseek");

@@ -7,6 +7,7 @@
 #include "Names.h"
 #include "base/Steps.h"
 #include "commands/CommandFiles.h"
+#include "machine/CopiedAtOnce.h"
 #include "machine/Paths.h"
 #include "tools/splitter/SplitRules.h"
 
@@ -24,8 +25,6 @@ namespace {
 
 const QString deleteOption = u"delete-parts"_s;
 
-/// Small enough to stay near the processor.
-constexpr qint64 copiedAtOnce = 256 << 10;
 constexpr qint64 longestChecksums = 64 << 20;
 
 /// One join: the parts are looked at as a whole first, then written beside the place of the file.
@@ -67,6 +66,7 @@ private:
     void JoinAll();
     bool WriteAll(ReplacingFile &output);
     void WritePart(ReplacingFile &output, qint64 number, qint64 length);
+    qint64 CopyPiece(ReplacingFile &output, OpenFile &part, qint64 number, QCryptographicHash &hash);
     bool Holds(const QString &file, const QCryptographicHash &hash) const;
     void DeleteParts();
     void DeleteBatch();
@@ -230,21 +230,18 @@ void Join::WritePart(ReplacingFile &output, qint64 number, qint64 length)
     console.BetweenSteps();
     at = partPath;
     const auto part = files.Open(partPath, OpenFor::Reading);
+    // Checksums need to see the bytes.
+    const bool mayTake = !digests.contains(partName) && !digests.contains(name);
     qint64 got = 0;
     for (;;) {
-        at = partPath;
-        const auto bytes = QByteArray::fromRawData(
-            room.data(), part->ReadInto({room.data(), static_cast<size_t>(copiedAtOnce)}));
-        if (bytes.isEmpty())
+        const qint64 left = length - got;
+        qint64 moved = mayTake && left > 0 ? output.TakeFrom(*part, std::min(left, takenAtOnce)) : 0;
+        if (moved == 0)
+            moved = CopyPiece(output, *part, number, hash);
+        if (moved == 0)
             break;
-        at = path;
-        output.Write(bytes);
-        if (digests.contains(partName))
-            hash.addData(bytes);
-        if (digests.contains(name))
-            whole.addData(bytes);
-        got += bytes.size();
-        copied += bytes.size();
+        got += moved;
+        copied += moved;
         console.ShowProgress(static_cast<double>(copied), static_cast<double>(total));
         console.BetweenSteps();
     }
@@ -253,6 +250,23 @@ void Join::WritePart(ReplacingFile &output, qint64 number, qint64 length)
         throw Failure(FailureNumber::DeviceIoError, u"It changed while it was read"_s);
     if (!Holds(partName, hash))
         console.Fail(partPath, u"Its checksum doesn't hold"_s);
+}
+
+/// By reading and writing. How many bytes it were, none at the end of the part.
+qint64 Join::CopyPiece(ReplacingFile &output, OpenFile &part, qint64 number, QCryptographicHash &hash)
+{
+    at = PartName(path, number);
+    const qint64 got = part.ReadInto({room.data(), static_cast<size_t>(copiedAtOnce)});
+    if (got == 0)
+        return 0;
+    const auto bytes = QByteArray::fromRawData(room.data(), got);
+    at = path;
+    output.Write(bytes);
+    if (digests.contains(PartName(name, number)))
+        hash.addData(bytes);
+    if (digests.contains(name))
+        whole.addData(bytes);
+    return got;
 }
 
 /// True for a file of which the checksums say nothing, too.

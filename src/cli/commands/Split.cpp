@@ -8,6 +8,7 @@
 #include "SafeName.h"
 #include "base/Steps.h"
 #include "commands/CommandFiles.h"
+#include "machine/CopiedAtOnce.h"
 #include "machine/Paths.h"
 #include "tools/splitter/SplitRules.h"
 
@@ -27,9 +28,6 @@ const QString sizeOption = u"size"_s;
 const QString countOption = u"count"_s;
 const QString batchOption = u"batch"_s;
 const QString checksumsOption = u"checksums"_s;
-
-/// Small enough to stay near the processor.
-constexpr qint64 copiedAtOnce = 256 << 10;
 
 /// A whole number from 1 on; nothing for another text, or for one beyond 64 bits.
 std::optional<qint64> WholeNumber(const QString &text)
@@ -105,6 +103,7 @@ private:
     void WriteParts();
     void WritePart(OpenFile &source, qint64 number);
     void CopyPart(OpenFile &source, qint64 number);
+    qint64 CopyPiece(OpenFile &source, qint64 number, qint64 maximum, QCryptographicHash &hash);
     void WriteDownLast();
     void WriteOther(const QString &file, const QByteArray &bytes);
     void Close();
@@ -249,24 +248,34 @@ void Split::CopyPart(OpenFile &source, qint64 number)
 {
     QCryptographicHash hash(QCryptographicHash::Sha256);
     for (qint64 left = LengthOf(number); left > 0;) {
-        at = path;
-        const auto wanted = static_cast<size_t>(std::min(left, copiedAtOnce));
-        const auto bytes = QByteArray::fromRawData(room.data(), source.ReadInto({room.data(), wanted}));
-        if (bytes.isEmpty())
-            throw Failure(FailureNumber::DeviceIoError, u"It changed while it was read"_s);
-        at = PartName(path, number);
-        part->Write(bytes);
-        if (hasChecksums) {
-            hash.addData(bytes);
-            whole.addData(bytes);
-        }
-        left -= bytes.size();
-        copied += bytes.size();
+        // Checksums need to see the bytes.
+        qint64 moved = hasChecksums ? 0 : part->TakeFrom(source, std::min(left, takenAtOnce));
+        if (moved == 0)
+            moved = CopyPiece(source, number, std::min(left, copiedAtOnce), hash);
+        left -= moved;
+        copied += moved;
         console.ShowProgress(static_cast<double>(copied), static_cast<double>(length));
         console.BetweenSteps();
     }
     if (hasChecksums)
         checksums += ChecksumLine(PartName(name, number), hash.result());
+}
+
+/// By reading and writing. How many bytes it were.
+qint64 Split::CopyPiece(OpenFile &source, qint64 number, qint64 maximum, QCryptographicHash &hash)
+{
+    at = path;
+    const qint64 got = source.ReadInto({room.data(), static_cast<size_t>(maximum)});
+    if (got == 0)
+        throw Failure(FailureNumber::DeviceIoError, u"It changed while it was read"_s);
+    const auto bytes = QByteArray::fromRawData(room.data(), got);
+    at = PartName(path, number);
+    part->Write(bytes);
+    if (hasChecksums) {
+        hash.addData(bytes);
+        whole.addData(bytes);
+    }
+    return got;
 }
 
 void Split::WriteDownLast()

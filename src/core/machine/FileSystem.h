@@ -92,6 +92,10 @@ public:
     }
     /// Writes all of the bytes at the present position. Fails with 61 on a full disc.
     virtual void Write(const QByteArray &bytes) = 0;
+    /// A short way for who copies: writes up to `maximum` bytes that the source has from its present position
+    /// on, which the system needn't bring into the program. How many; none where there is no such way,
+    /// behind the end of the source, and where something fails: reading and writing then tell what.
+    virtual qint64 TakeFrom(OpenFile & /*source*/, qint64 /*maximum*/) { return 0; }
     virtual qint64 Position() const = 0;
     /// Fails with 5 for a negative position.
     virtual void Seek(qint64 position) = 0;
@@ -107,12 +111,12 @@ public:
     /// or where they aren't the file's alone or stand there in another form, packed, encrypted
     /// or in a journal too.
     virtual std::optional<QList<Extent>> Extents() const { return {}; }
+    /// Whether what is written to the file goes through a journal, where nobody can tell what is left of it.
+    virtual bool IsInJournal() const { return false; }
     /// Does nothing for a file that is closed; all else fails with 52 then.
     virtual void Close() = 0;
     /// Takes over rights and time of change of another file of the same file system, as far as they can be
     /// given; where the rights can't, nobody but the owner gets any.
-    /// Whether what is written to the file goes through a journal, where nobody can tell what is left of it.
-    virtual bool IsInJournal() const { return false; }
     virtual void TakeAttributesOf(const OpenFile & /*other*/) { }
 };
 
@@ -124,6 +128,8 @@ public:
 
     /// Adds to the new contents. Fails with 61 on a full disc.
     virtual void Write(const QByteArray &bytes) = 0;
+    /// The short way of an OpenFile.
+    virtual qint64 TakeFrom(OpenFile & /*source*/, qint64 /*maximum*/) { return 0; }
     /// Has everything written down to the medium and puts it in place; called once. Fails with 58 if nothing
     /// may be replaced and something has come meanwhile.
     virtual void Commit() = 0;

@@ -5,6 +5,7 @@
 // as the real one.
 
 #include "core/machine/FileSystemContract.h"
+#include "support/FullDisc.h"
 
 #include <cstdlib>
 #include <fcntl.h>
@@ -124,6 +125,16 @@ protected:
     }
     ~FileOnMedium() override { unlink(name.constData()); }
 
+    /// Another file, beside it, with its position at the beginning.
+    std::unique_ptr<OpenFile> OpenSource(const QByteArray &bytes)
+    {
+        const QString path = QString::fromUtf8(name) + u".source"_s;
+        files.Open(path, OpenFor::Writing)->Write(bytes);
+        auto source = files.Open(path, OpenFor::Reading);
+        files.RemoveFile(path);
+        return source;
+    }
+
     QByteArray name = "/var/tmp/tressel-test-XXXXXX";
     PosixFileSystem files;
     std::unique_ptr<OpenFile> file;
@@ -161,6 +172,45 @@ TEST_F(FileOnMedium, PlacesOfAFileWhoseBytesStandInAJournalTooAreNotTold)
     if (!isInJournal)
         GTEST_SKIP() << "The file system of /var/tmp puts no file's bytes into a journal for this user.";
     EXPECT_EQ(file->Extents(), std::nullopt);
+    EXPECT_TRUE(file->IsInJournal());
+}
+
+TEST_F(FileOnMedium, WhatIsTakenFromAnotherFileStandsAtThePosition)
+{
+    const auto source = OpenSource("0123456789");
+    source->Seek(2);
+    file->Write("ab");
+    const qint64 taken = file->TakeFrom(*source, 5);
+    if (taken == 0)
+        GTEST_SKIP() << "The system of /var/tmp has no short way.";
+    EXPECT_EQ(taken, 5);
+    EXPECT_EQ(source->Position(), 7);
+    EXPECT_EQ(file->Position(), 7);
+    file->Write("!");
+    file->Seek(0);
+    EXPECT_EQ(file->Read(100), "ab23456!");
+    // Behind its end the source has nothing more.
+    file->Seek(8);
+    EXPECT_EQ(file->TakeFrom(*source, 100), 3);
+    EXPECT_EQ(file->TakeFrom(*source, 100), 0);
+    EXPECT_EQ(file->Length(), 11);
+}
+
+TEST_F(FileOnMedium, NothingIsTakenWhereSomethingIsAmiss)
+{
+    const auto source = OpenSource("0123456789");
+    source->Close();
+    EXPECT_EQ(file->TakeFrom(*source, 5), 0);
+    MemoryMachine memory;
+    memory.files.PutFile(u"C:\\f"_s, "01234");
+    const auto other = memory.files.Open(u"C:\\f"_s, OpenFor::Reading);
+    EXPECT_EQ(file->TakeFrom(*other, 5), 0);
+    EXPECT_EQ(other->Read(5), "01234");
+    const auto again = OpenSource("0123456789");
+    const FullDisc full(0);
+    EXPECT_EQ(file->TakeFrom(*again, 5), 0);
+    EXPECT_EQ(again->Position(), 0);
+    EXPECT_EQ(file->Length(), 0);
 }
 
 TEST_F(FileOnMedium, LongRunsOfBytesComeBackWhole)

@@ -92,6 +92,21 @@ void PosixOpenFile::Write(const QByteArray &bytes)
     } while (put < bytes.size());
 }
 
+qint64 PosixOpenFile::TakeFrom(OpenFile &source, qint64 maximum)
+{
+    const auto *from = dynamic_cast<PosixOpenFile *>(&source);
+    if (!from)
+        return 0;
+    const ssize_t taken = Retried([&] {
+        return copy_file_range(from->Number(), nullptr, file.Number(), nullptr, static_cast<size_t>(maximum),
+                               0);
+    });
+    if (taken <= 0)
+        return 0;
+    NoteWritten(taken);
+    return taken;
+}
+
 void PosixOpenFile::NoteWritten(qint64 bytes)
 {
     writtenOnEnd += bytes;
@@ -182,6 +197,11 @@ std::optional<QList<Extent>> PosixOpenFile::Extents() const
     }
 }
 
+bool PosixOpenFile::IsInJournal() const
+{
+    return HasDataInJournal(file.Number());
+}
+
 void PosixOpenFile::Close()
 {
     if (!file.IsOpen())
@@ -197,11 +217,6 @@ void PosixOpenFile::TakeAttributesOf(const OpenFile &other)
     const FileRights rights(from.Number());
     rights.GiveTo(file.Number());
     const std::array<timespec, 2> times{rights.Status().st_atim, rights.Status().st_mtim};
-bool PosixOpenFile::IsInJournal() const
-{
-    return HasDataInJournal(file.Number());
-}
-
     if (futimens(file.Number(), times.data()) != 0)
         ThrowError();
 }

@@ -19,6 +19,7 @@ public:
     QByteArray Read(qint64 maximum) override;
     qint64 ReadInto(std::span<char> room) override;
     void Write(const QByteArray &bytes) override;
+    qint64 TakeFrom(OpenFile &source, qint64 maximum) override;
     qint64 Position() const override;
     void Seek(qint64 position) override;
     qint64 Length() const override;
@@ -26,8 +27,8 @@ public:
     void Flush() override;
     void ForgetCached() override;
     std::optional<QList<Extent>> Extents() const override;
-    void Close() override;
     bool IsInJournal() const override;
+    void Close() override;
     void TakeAttributesOf(const OpenFile &other) override;
 
     /// What the system knows it by, -1 once it is closed.

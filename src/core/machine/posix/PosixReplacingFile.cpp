@@ -241,6 +241,11 @@ void PosixReplacingFile::Write(const QByteArray &bytes)
     }
 }
 
+qint64 PosixReplacingFile::TakeFrom(OpenFile &source, qint64 maximum)
+{
+    return beside ? beside->TakeFrom(source, maximum) : 0;
+}
+
 void PosixReplacingFile::Commit()
 {
     const bool mayTakeName = MayTakeName();

@@ -33,6 +33,7 @@ public:
     PosixReplacingFile &operator=(const PosixReplacingFile &) = delete;
 
     void Write(const QByteArray &bytes) override;
+    qint64 TakeFrom(OpenFile &source, qint64 maximum) override;
     void Commit() override;
 
 private:

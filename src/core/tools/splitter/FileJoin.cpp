@@ -5,6 +5,7 @@
 
 #include "base/Numbers.h"
 #include "base/Steps.h"
+#include "machine/CopiedAtOnce.h"
 #include "machine/Dialogs.h"
 #include "machine/Events.h"
 #include "machine/FileSystem.h"
@@ -118,18 +119,12 @@ bool FileJoin::JoinPart(std::int16_t part)
     const QString name = PartName(target, part);
     run.context.machine.events.LetEventsRun();
     const std::int32_t length = run.Length(name);
-    const qint64 wanted = length < 0 ? length : length + qint64{1};
-    // Parts are of one size as a rule, and fresh room costs as much as a read.
-    if (room.size() != wanted) {
-        room.clear();
-        room = makeRoom(wanted);
-    }
+    MakeRoomFor(length);
     std::unique_ptr<OpenFile> file;
     if (!OpenForRun(file, name, Links::Follow))
         return EndAs(u"Join Count: Read Error"_s);
-    ReadPart(*file, name, length);
     try {
-        output->Write(QByteArray::fromRawData(room.constData(), length));
+        WritePart(*file, name, length);
     } catch (const Failure &failure) {
         run.context.watch.Failed(run.Whole(target), failure);
         leftOpen.push_back(std::move(file));
@@ -144,16 +139,59 @@ bool FileJoin::JoinPart(std::int16_t part)
     return true;
 }
 
-void FileJoin::ReadPart(OpenFile &file, const QString &name, qint64 length)
+void FileJoin::MakeRoomFor(std::int32_t length)
 {
-    qint64 got = 0;
+    const qint64 wanted = length < 0 ? length : length + qint64{1};
+    // Parts are of one size as a rule.
+    if (room.size() == wanted)
+        return;
+    room.clear();
+    // Kept: a part that there is no room for ends the program, though little of the room is used.
+    room = makeRoom(wanted);
+}
+
+void FileJoin::WritePart(OpenFile &file, const QString &name, qint64 length)
+{
+    const qint64 start = output->Position();
+    if (CopyPart(file, name, length))
+        return;
+    // Kept: a part that can't be read is zeros in the output, and nobody is told.
+    output->Seek(start);
+    WriteZeros(length);
+}
+
+bool FileJoin::CopyPart(OpenFile &file, const QString &name, qint64 length)
+{
+    for (qint64 left = length; left > 0;) {
+        qint64 moved = output->TakeFrom(file, std::min(left, takenAtOnce));
+        if (moved == 0) {
+            moved = std::min(left, copiedAtOnce);
+            if (!ReadPiece(file, name, {room.data(), static_cast<size_t>(moved)}))
+                return false;
+            output->Write(QByteArray::fromRawData(room.data(), moved));
+        }
+        left -= moved;
+    }
+    return true;
+}
+
+bool FileJoin::ReadPiece(OpenFile &file, const QString &name, std::span<char> piece)
+{
     try {
-        got = file.ReadInto({room.data(), static_cast<size_t>(length)});
+        const qint64 got = file.ReadInto(piece);
+        std::fill(piece.begin() + got, piece.end(), '\0');
+        return true;
     } catch (const Failure &failure) {
         run.context.watch.Failed(run.Whole(name), failure);
+        return false;
     }
-    // Kept: what can't be read is zeros in the output, and nobody is told.
-    std::fill(room.begin() + got, room.end(), '\0');
+}
+
+void FileJoin::WriteZeros(qint64 length)
+{
+    const QByteArray zeros(std::min(length, copiedAtOnce), '\0');
+    for (qint64 left = length; left > 0; left -= copiedAtOnce)
+        output->Write(zeros.first(std::min(left, copiedAtOnce)));
 }
 
 bool FileJoin::OpenForRun(std::unique_ptr<OpenFile> &file, const QString &path, Links links)

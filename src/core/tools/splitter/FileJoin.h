@@ -5,6 +5,8 @@
 
 #include "tools/splitter/SplitterRun.h"
 
+#include <span>
+
 namespace tressel {
 
 /// The run that puts a file together from its parts. One object a run.
@@ -24,7 +26,11 @@ private:
     bool HasPart(const QString &name);
     bool JoinParts();
     bool JoinPart(std::int16_t part);
-    void ReadPart(OpenFile &file, const QString &name, qint64 length);
+    void MakeRoomFor(std::int32_t length);
+    void WritePart(OpenFile &file, const QString &name, qint64 length);
+    bool CopyPart(OpenFile &file, const QString &name, qint64 length);
+    bool ReadPiece(OpenFile &file, const QString &name, std::span<char> piece);
+    void WriteZeros(qint64 length);
     bool OpenForRun(std::unique_ptr<OpenFile> &file, const QString &path, Links links);
     bool EndAs(const QString &text);
     void DeleteParts();
@@ -35,7 +41,7 @@ private:
 
     QString target;
     std::int16_t count = 0; ///< parts
-    QByteArray room; ///< for a whole part
+    QByteArray room; ///< for a whole part; its beginning serves for all of it
     std::unique_ptr<OpenFile> output;
 };
 

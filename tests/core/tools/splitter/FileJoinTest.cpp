@@ -4,6 +4,7 @@
 #include "tools/splitter/FileJoin.h"
 
 #include "SplitterFixture.h"
+#include "machine/CopiedAtOnce.h"
 #include "tools/splitter/SplitRules.h"
 
 using namespace tressel;
@@ -338,6 +339,50 @@ TEST_F(FileJoinTest, WhatCannotBeReadIsZerosAlsoInRoomThatServedBefore)
     machine.files.FailAt(Operation::ReadBytes, PartName(target, 2), 1, FailureNumber::DeviceIoError);
     Join();
     EXPECT_EQ(Bytes(target), QByteArray("one-\0\0\0\0", 8));
+}
+
+TEST_F(FileJoinTest, PartsOfManyPiecesComeWhole)
+{
+    QList<QByteArray> parts;
+    for (const qint64 length : {copiedAtOnce - 1, copiedAtOnce, copiedAtOnce + 1, 2 * copiedAtOnce + 5})
+        parts += Contents(length);
+    PutParts(parts);
+    Join();
+    EXPECT_TRUE(Bytes(target) == parts.join());
+    EXPECT_EQ(Count(), u"File Count: Finished (4 Files)"_s);
+}
+
+TEST_F(FileJoinTest, APartThatFailsInItsMiddleIsZerosFromItsBeginningOn)
+{
+    const qsizetype length = 2 * copiedAtOnce + 5;
+    PutParts({"one-", Contents(length), "three"});
+    machine.files.FailAt(Operation::ReadBytes, PartName(target, 2), 2, FailureNumber::DeviceIoError);
+    Join();
+    EXPECT_TRUE(Bytes(target) == "one-" + QByteArray(length, '\0') + "three");
+    EXPECT_EQ(Count(), u"File Count: Finished (3 Files)"_s);
+    EXPECT_EQ(page.ctlProgress1.Max(), length + 9);
+    EXPECT_EQ(watch.lines.at(1), u"failed 57 C:\\W\\m.avi.2"_s);
+}
+
+TEST_F(FileJoinTest, APartThatIsCutInItsMiddleIsZerosFromThereOn)
+{
+    const qsizetype length = 2 * copiedAtOnce + 5;
+    const qsizetype left = copiedAtOnce + 7;
+    PutParts({Contents(length), "two"});
+    machine.files.DoBefore(Operation::ReadBytes, PartName(target, 1), 2,
+                           [&] { machine.files.PutFile(PartName(target, 1), Contents(left)); });
+    Join();
+    EXPECT_TRUE(Bytes(target) == Contents(left) + QByteArray(length - left, '\0') + "two");
+}
+
+TEST_F(FileJoinTest, AFullDiscInTheMiddleOfAPartKeepsWhatWasWritten)
+{
+    PutParts({Contents(2 * copiedAtOnce)});
+    machine.files.FailAt(Operation::WriteBytes, target, 2, FailureNumber::DiskFull);
+    Join();
+    EXPECT_EQ(Count(), u"Join Count: Write Error"_s);
+    EXPECT_TRUE(IsShut());
+    EXPECT_TRUE(Bytes(target) == Contents(copiedAtOnce));
 }
 
 TEST_F(FileJoinTest, NoRoomEndsTheProgram)

@@ -6,11 +6,11 @@
 #include "SplitterFixture.h"
 #include "machine/TextFile.h"
 #include "machine/WholeFile.h"
-#include "machine/posix/PosixFileSystem.h"
 #include "support/AsNobody.h"
 #include "support/FullDisc.h"
 #include "support/OwnMounts.h"
 #include "support/TemporaryFolder.h"
+#include "support/WatchedDisc.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -47,7 +47,7 @@ protected:
 
     const TemporaryFolder folder;
     MemoryMachine machine;
-    PosixFileSystem files;
+    WatchedDisc files;
     SplitterTool tool{MachineOnDisc()};
 };
 
@@ -202,6 +202,23 @@ TEST_F(RealDiscSplit, AFullDiscUnderAJoinLeavesItsPartsAndWhatWasWritten)
     EXPECT_EQ(tool.Count(), u"Join Count: Write Error"_s);
     EXPECT_EQ(Read(u"a"_s), QByteArray(3000, '1') + QByteArray(2000, '2'));
     EXPECT_EQ(Names(), (QStringList{u"a"_s, u"a.1"_s, u"a.2"_s, u"a.3"_s}));
+}
+
+TEST_F(RealDiscSplit, LongPartsComeTogetherAlsoWhereTheDiscHasNoShortWay)
+{
+    // Each longer than a step of the short way, and no multiple of one.
+    const QByteArray contents = QByteArray("0123456789abcdef!").repeated(300000);
+    for (const bool hasShortWay : {true, false}) {
+        Put(u"a.1"_s, contents);
+        Put(u"a.2"_s, contents.mid(1000));
+        tool.page.cboFileName.UserEdits(Path(u"a"_s));
+        files.hasShortWay = hasShortWay;
+        tool.Join();
+        EXPECT_EQ(tool.Count(), u"File Count: Finished (2 Files)"_s);
+        EXPECT_TRUE(files.Open(Path(u"a"_s), OpenFor::Reading)->Read(1 << 30)
+                    == contents + contents.mid(1000));
+        files.RemoveFile(Path(u"a"_s));
+    }
 }
 
 TEST_F(RealDiscSplit, TheSourceMayGrowAndShrinkInMidRun)
