@@ -181,6 +181,12 @@ private Q_SLOTS:
         QVERIFY(hasPressed);
         QCOMPARE(stage.Button(u"Search"_s).Caption(), u"Find Dir"_s);
         QVERIFY(stage.Rows().size() > 0 && stage.Rows().size() < 3000);
+        QStringList firstFolders;
+        for (const QString &path : folders.first(stage.Rows().size()))
+            firstFolders += u'/' + path + u'/';
+        QCOMPARE(stage.Rows(), firstFolders);
+        QCOMPARE(stage.Status(), u"Found "_s + QString::number(stage.Rows().size()));
+        QCOMPARE(stage.Census().size(), 2 * folders.size());
         QVERIFY(stage.Button(u"DeleteAll"_s).isEnabled());
         QCOMPARE(stage.Form().emptyFolders.DirListRemove.Path(), stage.Place(u"w"_s));
     }

@@ -233,6 +233,63 @@ TEST_F(RealDiscEmptyFolders, FortyThousandAreFoundAndCountedInSixteenBits)
     EXPECT_EQ(Census().size(), static_cast<size_t>(count - most - 1 + 2));
 }
 
+TEST_F(RealDiscEmptyFolders, StopAtEachPumpKeepsWhatWasFoundAndTouchesNothing)
+{
+    for (const char *empty : {"w/a/b", "w/c", "w/d/e/f"})
+        MakeFolder(empty);
+    Put("w/d/file");
+    Link("w/link", "d");
+    Search();
+    const QStringList all = Found();
+    EXPECT_EQ(all, (QStringList{u"w/a/b/"_s, u"w/c/"_s, u"w/d/e/f/"_s}));
+    const auto before = Census();
+    const int calls = machine.events.Calls();
+    // A folder each, an entry each, and a find each.
+    EXPECT_EQ(calls, 7 + 8 + 3);
+    for (int call = 1; call <= calls; ++call) {
+        QStringList atStop;
+        machine.events.At(call, [&] {
+            EXPECT_EQ(page.btnGBToolbarSearch.Caption(), u"Stop"_s);
+            page.btnGBToolbarSearch.UserClicks();
+            atStop = Found();
+            EXPECT_EQ(Status(), u"Found "_s + QString::number(atStop.size()));
+            if (atStop.isEmpty())
+                ExpectNothingFound();
+        });
+        Search();
+        EXPECT_EQ(Found(), atStop) << call;
+        EXPECT_EQ(Found(), all.first(atStop.size())) << call;
+        EXPECT_EQ(page.btnGBToolbarSearch.Caption(), u"Find Dir"_s);
+        EXPECT_EQ(Status(),
+                  atStop.isEmpty() ? u"I'm Finished"_s : u"Found "_s + QString::number(atStop.size()));
+        EXPECT_EQ(page.DirListRemove.Path(), Path(u"w"_s));
+    }
+    EXPECT_EQ(Census(), before);
+}
+
+TEST_F(RealDiscEmptyFolders, StopAmongThousandsOfFoldersEndsTheWalkThere)
+{
+    constexpr int count = 4000;
+    constexpr int foundBefore = 1234;
+    for (int number = 0; number < count; ++number)
+        MakeFolder("w/" + QByteArray::number(10000 + number) + "/x");
+    int callsAfter = 0;
+    machine.events.When([this] { return page.ListRemove.ListCount() == foundBefore; },
+                        [&] {
+                            page.btnGBToolbarSearch.UserClicks();
+                            callsAfter = -machine.events.Calls();
+                        });
+    Search();
+    callsAfter += machine.events.Calls();
+    EXPECT_EQ(callsAfter, 0);
+    EXPECT_EQ(page.ListRemove.ListCount(), foundBefore);
+    EXPECT_EQ(Found().last(), u"w/%1/x/"_s.arg(10000 + foundBefore - 1));
+    EXPECT_EQ(Status(), u"Found 1234"_s);
+    EXPECT_EQ(page.btnGBToolbarSearch.Caption(), u"Find Dir"_s);
+    EXPECT_TRUE(page.btnGBToolbarDeleteAll.IsEnabled());
+    EXPECT_EQ(Census().size(), static_cast<size_t>(2 * count + 1));
+}
+
 TEST_F(RealDiscEmptyFolders, WhatIsMountedBelowIsListedAndStays)
 {
     MakeFolder("w/a");

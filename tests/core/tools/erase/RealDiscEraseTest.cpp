@@ -4,7 +4,6 @@
 // The page's run on the real disc: what other programs and other kinds of entries do to it. A second name
 // shows what the file holds once it has lost its first.
 
-#include "machine/posix/PosixFileSystem.h"
 #include "support/AsNobody.h"
 #include "support/Census.h"
 #include "support/FullDisc.h"
@@ -12,7 +11,10 @@
 #include "support/TemporaryFolder.h"
 #include "support/Text.h"
 #include "support/ToolBench.h"
+#include "support/WatchedDisc.h"
 #include "tools/erase/ErasePage.h"
+
+#include <QLocale>
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -63,7 +65,7 @@ protected:
 
     const TemporaryFolder folder;
     MemoryMachine machine;
-    PosixFileSystem files;
+    WatchedDisc files;
     ToolBench bench{machine.With(files)};
     ErasePage page{bench.context};
 };
@@ -92,6 +94,37 @@ TEST_F(RealDiscErase, EachLengthIsOverwrittenBlockByBlockAndGoes)
             << Bytes(u"second"_s).constData();
         EXPECT_TRUE(Bytes(u"second"_s).endsWith("\r\n"));
     }
+}
+
+TEST_F(RealDiscErase, AReaderSeesEachPatternTheBlocksAndTheTwoLines)
+{
+    const QByteArray before(5000, 'a');
+    const QByteArray patternX(4096, 'X');
+    const QByteArray blanks(4096, ' ');
+    Put(u"f"_s, before);
+    QList<std::pair<Operation, QByteArray>> seen;
+    files.before = [&](const DiscStep &step) {
+        if (step.path == Path(u"f"_s))
+            seen.append({step.operation, Bytes(u"f"_s)});
+    };
+    Erase(u"f"_s);
+    const QByteArray lines = "Erased by Tressel, the maker of many folders\r\nTimes to overwrite current "
+                             "files 2 and secure deleted "
+        + QLocale().toString(machine.clock.Now().date(), QLocale::ShortFormat).toUtf8() + "\r\n";
+    const QList<std::pair<Operation, QByteArray>> expected{
+        {Operation::CloseFile, before}, // Where it is looked whether another holds it.
+        {Operation::WriteBytes, before},
+        {Operation::WriteBytes, patternX + before.mid(4096)},
+        {Operation::WriteBytes, blanks + before.mid(4096)},
+        {Operation::WriteBytes, blanks + patternX},
+        {Operation::CloseFile, blanks + blanks},
+        {Operation::ResizeFile, blanks + blanks},
+        {Operation::WriteBytes, {}},
+        {Operation::CloseFile, lines},
+        {Operation::RemoveFile, lines},
+    };
+    EXPECT_TRUE(seen == expected) << seen.size();
+    EXPECT_FALSE(IsThere(u"f"_s));
 }
 
 TEST_F(RealDiscErase, AFileWithHolesIsOverwrittenInThem)

@@ -220,6 +220,20 @@ TEST_F(ClearDiskRootTest, AWriteProtectedDiskWithAFileIsMissingAndAnEmptyOneIsNo
     EXPECT_TRUE(Clear());
 }
 
+TEST_F(ClearDiskRootTest, WhatCannotBeDeletedIsMissingBehindAFolderOfThatNameToo)
+{
+    machine.files.PutFile(u"A:\\a.txt"_s);
+    machine.files.PutFolder(u"A:\\io.sys"_s);
+    for (const Operation operation : {Operation::RemoveFile, Operation::List}) {
+        // The first listing goes through; the delete, or the second listing, fails once.
+        const bool isList = operation == Operation::List;
+        machine.files.FailAt(operation, u"A:\\"_s, isList ? 2 : 1, FailureNumber::DeviceIoError);
+        EXPECT_FALSE(Clear());
+        EXPECT_EQ(Disk(), (QStringList{u"a.txt"_s, u"io.sys\\"_s}));
+    }
+    EXPECT_TRUE(Clear());
+}
+
 TEST_F(ClearDiskRootTest, AFailingListingAndAnEmptyDriveAreMissing)
 {
     machine.files.FailAt(Operation::List, u"A:\\"_s, 1, FailureNumber::DeviceIoError);
