@@ -56,7 +56,7 @@ Ended CommandStage::RunAs(const Command &command, const QStringList &words)
 Ended CommandStage::Stage(const std::function<int(const Surroundings &)> &run)
 {
     MemoryStreams streams(in, out, err);
-    ConsoleMachine machine(memory.files, memory.clock, memory.program, memory.databases);
+    ConsoleMachine machine(*disc, memory.clock, memory.program, memory.databases);
     stops.asked = 0;
     const int status = run({streams, machine.AsMachine(), stops, workingFolder});
     return {status, std::exchange(out.written, {}), std::exchange(err.written, {})};

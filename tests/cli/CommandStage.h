@@ -92,6 +92,7 @@ private:
 
 protected:
     MemoryMachine memory;
+    FileSystem *disc = &memory.files; ///< what commands work on
     MemoryInput in;
     MemoryOutput out;
     MemoryOutput err;
