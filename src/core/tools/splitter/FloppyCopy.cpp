@@ -100,6 +100,8 @@ bool ClearDiskRoot(FileSystem &files, const QString &Path)
         }
         return true;
     } catch (const Failure &) {
+        // Also behind a folder of that name: with the first listing at its end there is nothing to go on
+        // with.
         return false;
     }
 }
