@@ -30,6 +30,9 @@ constexpr qint64 roomForUnknown = 1 << 16;
 /// The medium works on one such run of bytes while the next is written.
 constexpr qint64 sentAtOnce = 8 << 20;
 
+/// Bytes that one call writes at the most. Measured: calls for 1 MiB and more take twice the time a byte.
+constexpr qint64 writtenAtOnce = 256 << 10;
+
 [[noreturn]] void ThrowError()
 {
     throw Failure(NumberOfError(errno));
@@ -83,7 +86,7 @@ void PosixOpenFile::Write(const QByteArray &bytes)
 {
     qsizetype put = 0;
     do {
-        const auto next = static_cast<size_t>(std::min<qint64>(bytes.size() - put, sentAtOnce));
+        const auto next = static_cast<size_t>(std::min<qint64>(bytes.size() - put, writtenAtOnce));
         const ssize_t piece = Retried([&] { return write(file.Number(), bytes.constData() + put, next); });
         if (piece < 0)
             ThrowError();
