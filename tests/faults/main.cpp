@@ -75,10 +75,12 @@ bool IsWanted(const Case &subject, const Wishes &wishes)
     return wishes.names.empty() || std::ranges::any_of(wishes.names, isNamed);
 }
 
-/// A short sweep starts the window, which takes longest, for the likeliest fault alone.
+/// A short sweep starts the window, which takes longest, for the likeliest faults alone.
 bool IsInShortSweep(const Fault &fault, const Case &subject)
 {
-    return fault.isInShortSweep && (!HasWindow(subject) || fault.kind == Kind::Write);
+    const bool isOfTool = fault.kind == Kind::Rename || fault.kind == Kind::Rmdir;
+    const bool isOfWindow = fault.kind == Kind::Write || (isOfTool && subject.subject == Subject::WindowTool);
+    return fault.isInShortSweep && (isOfWindow || !HasWindow(subject));
 }
 
 std::vector<Fault> FaultsOf(const Case &subject, const Wishes &wishes)
