@@ -72,6 +72,17 @@ TEST_F(DatabaseProcess, RelativePathsStartInTheWorkingFolder)
     EXPECT_EQ(RunCli({"database", "../a.mdb", "--fields", "months"}).status, 0);
 }
 
+TEST_F(DatabaseProcess, NamedFieldsStandInOneLineARow)
+{
+    const std::string first = RunCli({"database", "a.mdb", "--values", "Months", "Folder", "Number"}).out;
+    EXPECT_TRUE(first.starts_with("01 January\t1\n02 February\t2\n")) << first;
+    EXPECT_EQ(std::ranges::count(first, '\n'), 12);
+    const Outcome missing = RunCli({"database", "a.mdb", "--values", "Months", "Folder", "None", "Number"});
+    EXPECT_EQ(missing.out, "");
+    EXPECT_EQ(missing.err, "tressel-cli: a.mdb: The table 'Months' has no field 'None'.\n");
+    EXPECT_EQ(missing.status, 1);
+}
+
 TEST_F(DatabaseProcess, MakesTheFoldersOfAField)
 {
     const Outcome outcome =

@@ -8,6 +8,8 @@
 #include "tools/database/FieldTypes.h"
 #include "tools/database/ValueText.h"
 
+#include <QDate>
+
 #include <array>
 #include <gtest/gtest.h>
 #include <limits>
@@ -167,6 +169,16 @@ TEST(ValueWriter, WritesDatesInTheLocalesShortForm)
     EXPECT_EQ(InGerman(DateValue{38077.999999}), u"01.04.2004"_s);
     for (const double days : {2958466.0, -700000.0, std::numeric_limits<double>::quiet_NaN()})
         EXPECT_EQ(NumberThrownBy([&] { InC(DateValue{days}); }), FailureNumber::TypeMismatch);
+}
+
+TEST(ValueWriter, WritesTheSameDayTheSameHoweverManyOthersCameBetween)
+{
+    const ValueWriter plain = ValueWriter::Plain();
+    const QDate first(1899, 12, 30);
+    for (int day = 1; day < 21000; ++day) {
+        ASSERT_EQ(plain.Text(DateValue{1.0 * day}), first.addDays(day).toString(Qt::ISODate));
+        ASSERT_EQ(plain.Text(DateValue{38077.25}), u"2004-03-31 06:00:00"_s);
+    }
 }
 
 TEST(ValueWriter, WritesAGuidWithAllItsDashes)
