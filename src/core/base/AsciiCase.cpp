@@ -4,7 +4,6 @@
 #include "base/AsciiCase.h"
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 namespace tressel {
@@ -21,36 +20,20 @@ QString WithOtherCase(QString text, char16_t first, char16_t last)
     // Looked at first, so that a text that stays isn't copied.
     if (std::none_of(text.cbegin(), text.cend(), isMeant))
         return text;
-    for (QChar &character : text) {
-        if (isMeant(character))
-            character = QChar(character.unicode() ^ caseBit);
-    }
+    for (QChar &character : text)
+        character = QChar(character.unicode() ^ (isMeant(character) ? caseBit : 0));
     return text;
 }
 
 } // namespace
 
-bool IsAscii(const QString &text)
+bool IsAscii(QStringView text)
 {
-    return std::ranges::all_of(text, [](QChar character) { return character.unicode() < 0x80; });
-}
-
-bool IsAsciiWithoutCapitals(QStringView text)
-{
-    constexpr quint64 each = 0x0001000100010001; // of the four characters in a number
-    constexpr quint64 notAscii = each * 0xFF80;
-    const QChar *at = text.begin();
-    for (quint64 letters = 0; text.end() - at >= 4; at += 4) {
-        std::memcpy(&letters, at, sizeof(letters));
-        // The bit above ASCII comes to each that is at the least the one letter, and not the other.
-        const quint64 fromA = letters + each * (0x80 - u'A');
-        const quint64 behindZ = letters + each * (0x80 - u'Z' - 1);
-        if (((letters & notAscii) | (fromA & ~behindZ & each * 0x80)) != 0)
-            return false;
-    }
-    return std::all_of(at, text.end(), [](QChar character) {
-        return character.unicode() < 0x80 && (character < u'A' || character > u'Z');
-    });
+    // Without a way out in the middle, so that the machine can look at many characters at once.
+    char16_t bits = 0;
+    for (const QChar character : text)
+        bits |= character.unicode();
+    return bits < 0x80;
 }
 
 QString WithAsciiUpper(QString text)

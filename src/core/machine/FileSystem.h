@@ -237,3 +237,5 @@ public:
 };
 
 } // namespace tressel
+
+Q_DECLARE_TYPEINFO(tressel::FolderEntry, Q_RELOCATABLE_TYPE);

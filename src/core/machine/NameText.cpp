@@ -3,8 +3,6 @@
 
 #include "machine/NameText.h"
 
-#include <cstring>
-
 namespace tressel {
 
 namespace {
@@ -59,48 +57,6 @@ Character CharacterAt(const Byte *at, const Byte *end)
     return code < least || code > 0x10FFFF ? Character{} : Character{code, length};
 }
 
-// Most names are ASCII from end to end, and go from form to form four letters at a time, in a number that has
-// them in the order of the memory.
-
-constexpr qsizetype lettersAtOnce = 4;
-
-quint64 Widened(quint32 letters)
-{
-    quint64 wide = letters;
-    wide = (wide | wide << 16) & 0x0000FFFF0000FFFF;
-    return (wide | wide << 8) & 0x00FF00FF00FF00FF;
-}
-
-quint32 Narrowed(quint64 letters)
-{
-    letters = (letters | letters >> 8) & 0x0000FFFF0000FFFF;
-    return static_cast<quint32>(letters | letters >> 16);
-}
-
-/// Takes over ASCII until something else comes, or fewer than four letters are left.
-void WidenAscii(const Byte *&at, const Byte *end, char16_t *&to)
-{
-    for (quint32 letters = 0; end - at >= lettersAtOnce; at += lettersAtOnce, to += lettersAtOnce) {
-        std::memcpy(&letters, at, sizeof(letters));
-        if ((letters & 0x80808080) != 0)
-            return;
-        const quint64 wide = Widened(letters);
-        std::memcpy(to, &wide, sizeof(wide));
-    }
-}
-
-/// The other way.
-void NarrowAscii(const char16_t *&at, const char16_t *end, char *&to)
-{
-    for (quint64 letters = 0; end - at >= lettersAtOnce; at += lettersAtOnce, to += lettersAtOnce) {
-        std::memcpy(&letters, at, sizeof(letters));
-        if ((letters & 0xFF80FF80FF80FF80) != 0)
-            return;
-        const quint32 narrow = Narrowed(letters);
-        std::memcpy(to, &narrow, sizeof(narrow));
-    }
-}
-
 char *WriteThree(char32_t code, char *to)
 {
     *to++ = static_cast<char>(0xE0 | (code >> 12));
@@ -118,6 +74,24 @@ char *WriteFour(char32_t code, char *to)
     return to;
 }
 
+/// Copies ASCII, which is the same on both sides, as long as a whole block of it comes: most names are
+/// nothing else.
+template <typename From, typename To> void CopyBlocks(const From *&at, const From *end, To *&to)
+{
+    constexpr qsizetype block = 8;
+    while (end - at >= block) {
+        From bits = 0;
+        for (qsizetype index = 0; index < block; ++index)
+            bits |= at[index];
+        if (bits >= 0x80)
+            return;
+        for (qsizetype index = 0; index < block; ++index)
+            to[index] = static_cast<To>(at[index]);
+        at += block;
+        to += block;
+    }
+}
+
 } // namespace
 
 std::optional<QString> TextFromUtf8(QByteArrayView bytes, NameBytes nameBytes)
@@ -128,7 +102,7 @@ std::optional<QString> TextFromUtf8(QByteArrayView bytes, NameBytes nameBytes)
     char16_t *to = start;
     const Byte *at = reinterpret_cast<const Byte *>(bytes.data());
     const Byte *const end = at + bytes.size();
-    WidenAscii(at, end, to);
+    CopyBlocks(at, end, to);
     while (at < end) {
         if (*at < 0x80) {
             *to++ = *at++;
@@ -159,7 +133,7 @@ char *WriteUtf8(QStringView text, NameBytes nameBytes, char *to, bool *damaged)
 {
     const char16_t *at = text.utf16();
     const char16_t *const end = at + text.size();
-    NarrowAscii(at, end, to);
+    CopyBlocks(at, end, to);
     while (at < end) {
         const char16_t unit = *at++;
         if (unit < 0x80) {

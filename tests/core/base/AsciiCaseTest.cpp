@@ -24,23 +24,6 @@ TEST(AsciiCase, IsTheCaseOfAnyTextWhereThatIsAscii)
     EXPECT_TRUE(IsAscii(QString()));
 }
 
-TEST(AsciiCase, ACapitalIsSeenInEachPlace)
-{
-    for (int length = 1; length <= 9; ++length) {
-        for (int place = 0; place < length; ++place) {
-            for (int code = 0; code < 0x181; ++code) {
-                QString text(length, u'z');
-                text[place] = QChar(code);
-                EXPECT_EQ(IsAsciiWithoutCapitals(text), IsAscii(text) && WithAsciiLower(text) == text)
-                    << length << ' ' << place << ' ' << code;
-            }
-        }
-    }
-    EXPECT_TRUE(IsAsciiWithoutCapitals({}));
-    EXPECT_FALSE(IsAsciiWithoutCapitals(u"abc\uFF21"));
-    EXPECT_FALSE(IsAsciiWithoutCapitals(u"abc\uFFFF"));
-}
-
 TEST(AsciiCase, OtherCharactersAreNoneOfIts)
 {
     EXPECT_FALSE(IsAscii(u"caf\u00E9"_s));
