@@ -110,9 +110,9 @@ void ExtensionRun::RefuseIllegal(const Fields &fields)
 void ExtensionRun::ChangeExtension(RenameFolder &folder, const QString &name, const QString &extension)
 {
     const QString newName = WithExtension(name, extension);
-    frame.RenameToDetour(folder, name, newName);
+    frame.RenameToDetour(folder, newName);
     if (folder.HasFile(newName))
-        frame.StayOnDetour(folder, newName);
+        frame.StayOnDetour();
     else
         frame.RenameFromDetour(folder, name, newName);
 }

@@ -13,20 +13,22 @@ RenameFolder::RenameFolder(FileSystem &fileSystem, const QString &folder)
     , base(WithSeparator(files, folder))
     , hold(files.Hold(folder))
 {
-    for (const FolderEntry &entry : files.List(folder)) {
+    QList<FolderEntry> entries = files.List(folder);
+    others.reserve(entries.size());
+    for (FolderEntry &entry : entries) {
         const bool isFolder = entry.kind == EntryKind::Folder
             || (entry.kind == EntryKind::Link && FolderExists(files, PathOf(entry.name)));
-        (isFolder ? folders : others) += entry.name;
+        (isFolder ? folders : others).append(std::move(entry.name));
     }
 }
 
 RenameFolder::~RenameFolder() = default;
 
-void RenameFolder::Rename(const QString &name, const QString &newName)
+void RenameFolder::Rename(QString &path, const QString &newName)
 {
-    PutPath(from, name);
-    PutPath(to, newName);
-    files.Rename(from, to);
+    PutPath(newPath, newName);
+    files.Rename(path, newPath);
+    path.swap(newPath);
 }
 
 bool RenameFolder::HasFile(const QString &name)

@@ -27,10 +27,13 @@ public:
     const QStringList &Folders() const { return folders; }
     /// Names of all else.
     const QStringList &Files() const { return others; }
+    /// Both, folders first.
+    QStringList All() const { return folders.isEmpty() ? others : folders + others; }
 
-    /// Gives an entry another name. Never overwrites: fails with 58 if the name is taken, with 53 if the
-    /// entry has gone, with 52 for an empty name. A link is renamed itself.
-    void Rename(const QString &name, const QString &newName);
+    /// Gives the entry of that path another name, and puts its new path in place of the old one. Never
+    /// overwrites: fails with 58 if the name is taken, with 53 if the entry has gone, with 52 for an empty
+    /// name. A link is renamed itself.
+    void Rename(QString &path, const QString &newName);
     /// True if there is something of that name now that isn't a folder, nor a link to one.
     bool HasFile(const QString &name);
     /// Whether "a" and "A" are two names here, as far as the names that are there can tell: if none of them
@@ -48,8 +51,7 @@ public:
 private:
     FileSystem &files;
     QString base; ///< of the paths of all entries: the folder with the separator at its end
-    QString from; ///< room for the paths of the present rename
-    QString to;
+    QString newPath; ///< room for the present rename
     std::unique_ptr<FolderHold> hold;
     QStringList folders;
     QStringList others;

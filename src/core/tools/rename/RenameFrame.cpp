@@ -6,7 +6,6 @@
 #include "base/Numbers.h"
 #include "base/Pictures.h"
 #include "base/Steps.h"
-#include "base/Text.h"
 #include "language/Routines.h"
 #include "machine/Events.h"
 #include "settings/Settings.h"
@@ -17,6 +16,7 @@
 #include "tools/rename/RenamePage.h"
 
 #include <array>
+#include <cmath>
 
 namespace tressel {
 
@@ -44,6 +44,16 @@ const std::array<StoredText, 6> storedTexts{{
     {&RenamePage::txtSpecificExtTo, keys::ExtTo},
     {&RenamePage::txtReplaceTo, keys::ReplaceTo},
 }};
+
+/// Whether two fractions surely give one text as percentages, which have two decimals.
+bool PrintAlike(double one, double other)
+{
+    constexpr double steps = 10'000;
+    constexpr double surelyRounded = 0.499;
+    const double nearest = std::round(one * steps);
+    return std::abs(one * steps - nearest) < surelyRounded
+        && std::abs(other * steps - nearest) < surelyRounded;
+}
 
 } // namespace
 
@@ -117,8 +127,13 @@ void RenameFrame::StepProgress()
 
 void RenameFrame::ShowProgress()
 {
-    context.area.lblStatusLine.SetCaption(u"Processing wait "_s
-                                          + FormatPercent(page.ProgressBar.Value() / page.ProgressBar.Max()));
+    const double fraction = page.ProgressBar.Value() / page.ProgressBar.Max();
+    Label &line = context.area.lblStatusLine;
+    // Of a long run, most steps give the text that stands there.
+    if (line.Caption() != progressText || !PrintAlike(fraction, progressShown))
+        progressText = u"Processing wait "_s + FormatPercent(fraction);
+    progressShown = fraction;
+    line.SetCaption(progressText);
 }
 
 void RenameFrame::ShowFileCount()
@@ -176,7 +191,7 @@ QStringList RenameFrame::Wanted(const RenameFolder &folder, const OptionGroup &k
         return folder.Folders();
     if (kinds.IsSelected(RenamePage::Files))
         return folder.Files();
-    return folder.Folders() + folder.Files();
+    return folder.All();
 }
 
 std::int16_t RenameFrame::CountOf(const QStringList &names)
@@ -207,7 +222,7 @@ void RenameFrame::RenameEach(RenameFolder &folder, const QStringList &names,
         ComeTo(folder, name);
         // Both renames also where the name doesn't change.
         const QString newName = newNameOf(name);
-        RenameToDetour(folder, name, newName);
+        RenameToDetour(folder, newName);
         RenameFromDetour(folder, name, newName);
         CountFile();
         if (CancelRename)
@@ -223,23 +238,20 @@ void RenameFrame::ComeTo(const RenameFolder &folder, const QString &name)
     StepProgress();
 }
 
-void RenameFrame::RenameToDetour(RenameFolder &folder, const QString &name, const QString &newName)
+void RenameFrame::RenameToDetour(RenameFolder &folder, const QString &newName)
 {
-    folder.Rename(name, newName + detourMark);
+    folder.Rename(underWay, newName + detourMark);
 }
 
 void RenameFrame::RenameFromDetour(RenameFolder &folder, const QString &name, const QString &newName)
 {
-    const QString detour = newName + detourMark;
-    folder.PutPath(underWay, detour);
-    folder.Rename(detour, WithoutLast(detour, detourMark.size()));
-    folder.PutPath(underWay, newName);
+    folder.Rename(underWay, newName);
     context.watch.Did(name == newName ? Outcome::Kept : Outcome::Renamed, underWay);
 }
 
-void RenameFrame::StayOnDetour(const RenameFolder &folder, const QString &newName)
+void RenameFrame::StayOnDetour()
 {
-    context.watch.Failed(folder.PathOf(newName + detourMark), Failure(FailureNumber::FileAlreadyExists));
+    context.watch.Failed(underWay, Failure(FailureNumber::FileAlreadyExists));
 }
 
 void RenameFrame::CountFile()

@@ -63,10 +63,10 @@ public:
     /// The first and the second of the two renames that an entry goes through, by way of the new name with a
     /// "_" behind it: so a change of case alone reaches every file system. A failure of the second one leaves
     /// the entry under that name.
-    void RenameToDetour(RenameFolder &folder, const QString &name, const QString &newName);
+    void RenameToDetour(RenameFolder &folder, const QString &newName);
     void RenameFromDetour(RenameFolder &folder, const QString &name, const QString &newName);
     /// Leaves the entry under its name with the "_", since the new one is taken.
-    void StayOnDetour(const RenameFolder &folder, const QString &newName);
+    void StayOnDetour();
     /// One more in the total. Fails with 6 beyond 32 bits.
     void CountFile();
 
@@ -82,7 +82,9 @@ private:
 
     RenamePage &page;
     ToolContext context;
-    QString underWay; ///< path of what a failure would be about
+    QString underWay; ///< path of the entry that the run is at, under its present name
+    QString progressText; ///< the last that was shown, and for which fraction; at first for none
+    double progressShown = -1;
 };
 
 } // namespace tressel

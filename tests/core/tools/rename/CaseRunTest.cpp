@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "RenameFixture.h"
+#include "base/Pictures.h"
 #include "base/Steps.h"
 
 #include <limits>
@@ -282,6 +283,28 @@ TEST_F(CaseRunTest, ProgressIsShownInPercent)
     EXPECT_EQ(seen,
               (QStringList{u"1..3 1 Processing wait 33.33%"_s, u"1..3 2 Processing wait 66.67%"_s,
                            u"1..3 3 Processing wait 100.00%"_s}));
+}
+
+TEST_F(CaseRunTest, EachStepOfALongRunShowsItsOwnPercentage)
+{
+    constexpr std::int16_t count = 32767;
+    RenameFrame frame(page, bench.context);
+    frame.SetProgressRange(1, count);
+    frame.SetProgressValue(1);
+    for (int step = 2; step <= count; ++step) {
+        frame.StepProgress();
+        ASSERT_EQ(Status(), u"Processing wait "_s + FormatPercent(double(step) / count));
+    }
+}
+
+TEST_F(CaseRunTest, ProgressIsWrittenAlsoOverATextOfAnother)
+{
+    RenameFrame frame(page, bench.context);
+    frame.SetProgressRange(1, 32767);
+    frame.SetProgressValue(1);
+    bench.area.lblStatusLine.SetCaption(u"Something else"_s);
+    frame.StepProgress();
+    EXPECT_EQ(Status(), u"Processing wait 0.01%"_s);
 }
 
 TEST_F(CaseRunTest, ARunKeepsEverythingElseOut)
