@@ -79,6 +79,15 @@ NativePath HeldFolders::PathOf(const QString &path) const
     return {held->folder.Number(), below};
 }
 
+std::optional<HeldFolders::TwoBelow> HeldFolders::BelowOne(const QString &one, const QString &other) const
+{
+    const Held *const held = Innermost(one);
+    if (!held || !held->folder.IsOpen() || !other.startsWith(held->root))
+        return {};
+    return TwoBelow{held->folder.Number(), QStringView(one).sliced(held->root.size()),
+                    QStringView(other).sliced(held->root.size())};
+}
+
 void HeldFolders::Forget(const QString &path) const
 {
     for (const Held &held : all) {

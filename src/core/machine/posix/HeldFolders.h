@@ -9,6 +9,7 @@
 
 #include <list>
 #include <memory>
+#include <optional>
 
 namespace tressel {
 
@@ -19,6 +20,15 @@ public:
     std::unique_ptr<FolderHold> Hold(const QString &folder);
     /// A path in the form of the system's calls, from the innermost held folder on that it is below.
     NativePath PathOf(const QString &path) const;
+    /// An open folder, and two paths from it on.
+    struct TwoBelow {
+        int folder = -1;
+        QStringView one;
+        QStringView other;
+    };
+    /// Two paths from a held folder on that both are below, the innermost one of the first. Nothing if there
+    /// is none, or it isn't open yet.
+    std::optional<TwoBelow> BelowOne(const QString &one, const QString &other) const;
     /// For a path that now stands for something else than before: what is held there is opened anew.
     void Forget(const QString &path) const;
 

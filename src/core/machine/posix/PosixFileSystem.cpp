@@ -235,6 +235,16 @@ void PosixFileSystem::RemoveFile(const QString &path)
 
 void PosixFileSystem::Rename(const QString &from, const QString &to)
 {
+    const auto below = held.BelowOne(from, to);
+    // Where it doesn't work, the long way tells why.
+    if (!below || !RenamedAtOnce(below->folder, below->one, below->other))
+        RenameThoroughly(from, to);
+    held.Forget(from);
+    held.Forget(to);
+}
+
+void PosixFileSystem::RenameThoroughly(const QString &from, const QString &to) const
+{
     const NativePath source = held.PathOf(from);
     source.Demand();
     const NativePath target = held.PathOf(to);
@@ -242,8 +252,6 @@ void PosixFileSystem::Rename(const QString &from, const QString &to)
     if (to.endsWith(Separator()))
         throw Failure(FailureNumber::BadFileName);
     RenameWithoutOverwriting(source, target);
-    held.Forget(from);
-    held.Forget(to);
 }
 
 std::unique_ptr<OpenFile> PosixFileSystem::Open(const QString &path, OpenFor purpose, Sharing sharing)

@@ -35,6 +35,7 @@ public:
 
 private:
     Descriptor OpenFolder(const QString &folder) const;
+    void RenameThoroughly(const QString &from, const QString &to) const;
 
     HeldFolders held;
     MountedVolumes volumes;

@@ -10,8 +10,11 @@
 
 #include <QString>
 
+#include <array>
 #include <cerrno>
+#include <climits>
 #include <cstdio>
+#include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
 #include <memory>
@@ -22,6 +25,32 @@
 namespace tressel {
 
 namespace {
+
+/// A path as the system takes it, if it is nothing but the name of an entry.
+class NativeName {
+public:
+    explicit NativeName(QStringView name)
+    {
+        if (name.isEmpty() || name.size() > NAME_MAX || name == u"..")
+            return;
+        bool damaged = false;
+        char *const end = WriteUtf8(name, NameBytes::Raw, bytes.data(), &damaged);
+        *end = '\0';
+        isUsable = !damaged && !Holds('/', end) && !Holds('\0', end);
+    }
+
+    bool IsUsable() const { return isUsable; }
+    const char *Bytes() const { return bytes.data(); }
+
+private:
+    bool Holds(char wanted, const char *end) const
+    {
+        return std::memchr(bytes.data(), wanted, static_cast<size_t>(end - bytes.data())) != nullptr;
+    }
+
+    std::array<char, 3 * NAME_MAX + 1> bytes; ///< left as they are where no name is
+    bool isUsable = false;
+};
 
 std::optional<struct stat> StatusOf(const NativePath &path)
 {
@@ -150,6 +179,14 @@ void RenameWithoutOverwriting(const NativePath &from, const NativePath &to)
         RenameBySmallerSteps(from, to);
     else
         EndRename(errno, from, to);
+}
+
+bool RenamedAtOnce(int folder, QStringView from, QStringView to)
+{
+    const NativeName oldName(from);
+    const NativeName newName(to);
+    return oldName.IsUsable() && newName.IsUsable()
+        && renameat2(folder, oldName.Bytes(), folder, newName.Bytes(), RENAME_NOREPLACE) == 0;
 }
 
 void RenameBySmallerSteps(const NativePath &from, const NativePath &to)

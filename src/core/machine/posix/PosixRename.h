@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <QStringView>
+
 namespace tressel {
 
 class NativePath;
@@ -17,9 +19,14 @@ struct EntryPlace {
 /// FileSystem::Rename does.
 void RenameWithoutOverwriting(const NativePath &from, const NativePath &to);
 
-/// The same for file systems that can't refuse to overwrite by themselves. A file gets its new name as a
-/// second one, which takes no other's place, and loses the old one then. Where that can't be, for a folder
-/// too, it is looked first and renamed then: two steps, so another program can come between them.
+/// The short way that most renames take: what is directly in an open folder gets another name there. False if
+/// the paths are more than names, or it failed; nothing has happened then.
+bool RenamedAtOnce(int folder, QStringView from, QStringView to);
+
+/// The same as RenameWithoutOverwriting for file systems that can't refuse to overwrite by themselves. A file
+/// gets its new name as a second one, which takes no other's place, and loses the old one then. Where that
+/// can't be, for a folder too, it is looked first and renamed then: two steps, so another program can come
+/// between them.
 void RenameBySmallerSteps(const NativePath &from, const NativePath &to);
 
 /// The same by way of a name that nothing has. If the second of the two steps fails, the entry gets its old
