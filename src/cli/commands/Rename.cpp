@@ -12,7 +12,9 @@
 #include "tools/rename/RenameRules.h"
 
 #include <algorithm>
+#include <array>
 #include <functional>
+#include <span>
 
 namespace tressel {
 
@@ -126,7 +128,7 @@ QStringList Wanted(const Arguments &arguments, const RenameFolder &folder)
 {
     if (arguments.Has(foldersOption))
         return folder.Folders();
-    return arguments.Has(bothOption) ? folder.Folders() + folder.Files() : folder.Files();
+    return arguments.Has(bothOption) ? folder.All() : folder.Files();
 }
 
 QString ReasonOf(const RefusedName &refused)
@@ -181,8 +183,15 @@ public:
     }
 
 private:
+    QList<NameChange> WantedChanges(const RenameFolder &folder) const;
     bool MayBeDone(RenameFolder &folder);
     void TellChanges();
+    /// What a step of the plan is on the disc.
+    struct Paths {
+        QString from;
+        QString to;
+    };
+    void PutPaths(const RenameFolder &folder, qsizetype first, std::span<Paths> paths) const;
     void RenameAll(RenameFolder &folder);
     void TellSteps(qsizetype done);
     void TellCount();
@@ -192,20 +201,25 @@ private:
     const NewName newName;
     const QString path;
     Tally tally;
-    QList<NameChange> changes; ///< names that stay left out
-    RenamePlan plan;
+    RenamePlan plan; ///< names that stay left out
 };
+
+QList<NameChange> Renaming::WantedChanges(const RenameFolder &folder) const
+{
+    const QStringList wanted = Wanted(arguments, folder);
+    QList<NameChange> changes;
+    changes.reserve(wanted.size());
+    for (const QString &name : wanted) {
+        QString changed = newName(name);
+        if (changed != name)
+            changes.append({name, std::move(changed)});
+    }
+    return changes;
+}
 
 bool Renaming::MayBeDone(RenameFolder &folder)
 {
-    const QStringList wanted = Wanted(arguments, folder);
-    changes.reserve(wanted.size());
-    for (const QString &name : wanted) {
-        const QString changed = newName(name);
-        if (changed != name)
-            changes.append({name, changed});
-    }
-    plan = PlanRenames(folder.Folders() + folder.Files(), changes,
+    plan = PlanRenames(folder.All(), WantedChanges(folder),
                        {console.machine.files.Separator(), folder.TellsCaseApart()});
     for (const RefusedName &refused : std::as_const(plan.refused))
         console.Fail(folder.PathOf(refused.change.from), ReasonOf(refused));
@@ -214,7 +228,7 @@ bool Renaming::MayBeDone(RenameFolder &folder)
 
 void Renaming::TellChanges()
 {
-    for (const NameChange &change : std::as_const(changes)) {
+    for (const NameChange &change : std::as_const(plan.changes)) {
         if (console.EndsInNul()) {
             console.Line(change.from);
             console.Line(change.to);
@@ -223,21 +237,36 @@ void Renaming::TellChanges()
         }
         console.BetweenSteps();
     }
-    console.Aside(u"would have renamed %1"_s.arg(changes.size()));
+    console.Aside(u"would have renamed %1"_s.arg(plan.changes.size()));
+}
+
+/// Those of the steps from one on, as many as there is room for.
+void Renaming::PutPaths(const RenameFolder &folder, qsizetype first, std::span<Paths> paths) const
+{
+    for (auto step = plan.steps.cbegin() + first; Paths & each : paths) {
+        if (step == plan.steps.cend())
+            return;
+        folder.PutPath(each.from, plan.From(*step));
+        folder.PutPath(each.to, plan.To(*step));
+        ++step;
+    }
 }
 
 void Renaming::RenameAll(RenameFolder &folder)
 {
-    tally.Started(changes.size());
-    QString from;
-    QString to;
-    QString aside; // the name for the time being of an entry that waits for its own
+    tally.Started(plan.changes.size());
+    // Paths are put together several at once: between two calls of the system, names are slow to come from
+    // memory.
+    std::array<Paths, 64> several;
+    bool isOneAside = false;
     for (qsizetype done = 0; done < plan.steps.size(); ++done) {
         const RenameStep &step = plan.steps.at(done);
-        folder.PutPath(from, step.change.from);
-        folder.PutPath(to, step.change.to);
+        const size_t place = static_cast<size_t>(done) % several.size();
+        if (place == 0)
+            PutPaths(folder, done, several);
+        const auto &[from, to] = several.at(place);
         // Nothing stops a run while a name waits.
-        if (aside.isNull())
+        if (!isOneAside)
             tally.Next(from);
         try {
             console.machine.files.Rename(from, to);
@@ -246,12 +275,10 @@ void Renaming::RenameAll(RenameFolder &folder)
             TellSteps(done);
             return;
         }
-        if (step.isHalfWay)
-            aside = step.change.to;
-        else
+        if (step.way != RenameStep::Aside)
             tally.Did(Outcome::Renamed, to);
-        if (step.change.from == aside)
-            aside.clear();
+        if (step.way != RenameStep::Whole)
+            isOneAside = step.way == RenameStep::Aside;
     }
 }
 
@@ -259,16 +286,16 @@ void Renaming::RenameAll(RenameFolder &folder)
 void Renaming::TellSteps(qsizetype done)
 {
     for (qsizetype index = 0; index < plan.steps.size(); ++index) {
-        const NameChange &change = plan.steps.at(index).change;
+        const RenameStep &step = plan.steps.at(index);
         console.FailAs((index < done ? u"renamed %1 -> %2"_s : u"not renamed %1 -> %2"_s)
-                           .arg(SafeName(change.from), SafeName(change.to)));
+                           .arg(SafeName(plan.From(step)), SafeName(plan.To(step))));
     }
 }
 
 void Renaming::TellCount()
 {
     const qint64 renamed = tally.Count(Outcome::Renamed);
-    console.Count(u"renamed %1, not renamed %2"_s.arg(renamed).arg(changes.size() - renamed));
+    console.Count(u"renamed %1, not renamed %2"_s.arg(renamed).arg(plan.changes.size() - renamed));
 }
 
 int Run(const Arguments &arguments, Console &console)

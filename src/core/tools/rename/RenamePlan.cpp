@@ -4,12 +4,12 @@
 #include "tools/rename/RenamePlan.h"
 
 #include "machine/NameText.h"
-
-#include <QHash>
+#include "tools/rename/NameTable.h"
 
 #include <array>
 #include <map>
 #include <optional>
+#include <utility>
 
 namespace tressel {
 
@@ -40,34 +40,17 @@ std::optional<NameProblem> ProblemOf(const QString &name, QChar separator)
     return {};
 }
 
-/// A name to look up. The number goes first where two are compared, since most names differ in it.
-struct NameKey {
-    explicit NameKey(QStringView text)
-        : name(text)
-        , number(qHash(text))
-    {
-    }
-    bool operator==(const NameKey &other) const { return number == other.number && name == other.name; }
-
-    QStringView name;
-    size_t number;
-};
-
-size_t qHash(const NameKey &key, size_t seed)
-{
-    return key.number ^ seed;
-}
-
-/// Its arguments must outlive it: the keys of names are views of them.
+/// Its arguments must outlive it: the names that it looks for are views of them.
 class Planner {
 public:
-    Planner(const QStringList &presentNames, const QList<NameChange> &wanted, const NameRules &nameRules)
+    Planner(const QStringList &presentNames, QList<NameChange> wanted, const NameRules &nameRules)
         : rules(nameRules)
         , present(presentNames)
-        , changes(wanted)
+        , takers(wanted.size())
         , holders(wanted.size(), -1)
         , ordered(wanted.size(), false)
     {
+        plan.changes = std::move(wanted);
     }
 
     RenamePlan Plan()
@@ -82,13 +65,9 @@ public:
     }
 
 private:
-    /// The first change to a name.
-    struct Taker {
-        qsizetype change = -1;
-    };
-
-    NameKey Key(const QString &name);
-    QHash<NameKey, qsizetype> Leavers();
+    const NameChange &Change(qsizetype index) const { return plan.changes.at(index); }
+    QStringView Key(const QString &name);
+    NameTable Leavers();
     void TakeNewNames();
     void FindHolders();
     void Refuse(qsizetype index, NameProblem problem, const QString &other = {});
@@ -98,36 +77,34 @@ private:
 
     NameRules rules;
     const QStringList &present;
-    const QList<NameChange> &changes;
     QStringList folded; ///< what keys are views of where names are told apart without case
-    QHash<NameKey, Taker> takers; ///< by the names that they take
+    NameTable takers; ///< the first change to each name, by the names that they take
     QList<qsizetype> holders; ///< for each change, which other one leaves its new name; -1 for none
     std::map<qsizetype, RefusedName> refused; ///< by the numbers of their changes
     QList<bool> ordered; ///< changes whose steps stand in the plan, or that are none
     QList<qsizetype> chain; ///< of changes that wait for each other's names
-    QString freeName;
     RenamePlan plan;
 };
 
-NameKey Planner::Key(const QString &name)
+/// What a name is looked for by.
+QStringView Planner::Key(const QString &name)
 {
     if (rules.withCase)
-        return NameKey(name);
+        return name;
     folded.append(name.toCaseFolded());
-    return NameKey(folded.constLast());
+    return folded.constLast();
 }
 
 void Planner::Refuse(qsizetype index, NameProblem problem, const QString &other)
 {
-    refused.try_emplace(index, RefusedName{changes.at(index), problem, other});
+    refused.try_emplace(index, RefusedName{Change(index), problem, other});
 }
 
 void Planner::TakeNewNames()
 {
-    takers.reserve(changes.size());
-    for (qsizetype index = 0; index < changes.size(); ++index) {
-        const QString &name = changes.at(index).to;
-        if (name == changes.at(index).from) {
+    for (qsizetype index = 0; index < plan.changes.size(); ++index) {
+        const QString &name = Change(index).to;
+        if (name == Change(index).from) {
             ordered[index] = true;
             continue;
         }
@@ -135,49 +112,46 @@ void Planner::TakeNewNames()
             Refuse(index, *problem);
             continue;
         }
-        Taker &taker = takers[Key(name)];
-        if (taker.change < 0)
-            taker.change = index;
-        else
-            Refuse(index, NameProblem::Meets, changes.at(taker.change).from);
+        const qsizetype taker = takers.PutOrFind(Key(name), index);
+        if (taker != index)
+            Refuse(index, NameProblem::Meets, Change(taker).from);
     }
 }
 
 /// The changes by the names that they leave.
-QHash<NameKey, qsizetype> Planner::Leavers()
+NameTable Planner::Leavers()
 {
-    QHash<NameKey, qsizetype> leavers;
-    leavers.reserve(changes.size());
-    for (qsizetype index = 0; index < changes.size(); ++index) {
+    NameTable leavers(plan.changes.size());
+    for (qsizetype index = 0; index < plan.changes.size(); ++index) {
         if (!ordered.at(index))
-            leavers.insert(Key(changes.at(index).from), index);
+            leavers.PutOrFind(Key(Change(index).from), index);
     }
     return leavers;
 }
 
 void Planner::FindHolders()
 {
-    QHash<NameKey, qsizetype> leavers;
+    std::optional<NameTable> leavers;
     for (const QString &name : present) {
-        const NameKey key = Key(name);
-        const auto taker = takers.constFind(key);
-        if (taker == takers.cend())
+        const QStringView key = Key(name);
+        const qsizetype taker = takers.Find(key);
+        if (taker < 0)
             continue;
         // Most runs never come here.
-        if (leavers.isEmpty())
+        if (!leavers)
             leavers = Leavers();
-        const qsizetype leaver = leavers.value(key, -1);
+        const qsizetype leaver = leavers->Find(key);
         if (leaver < 0)
-            Refuse(taker->change, NameProblem::Taken, name);
-        else if (leaver != taker->change)
-            holders[taker->change] = leaver;
+            Refuse(taker, NameProblem::Taken, name);
+        else if (leaver != taker)
+            holders[taker] = leaver;
     }
 }
 
 void Planner::OrderSteps()
 {
-    plan.steps.reserve(changes.size());
-    for (qsizetype index = 0; index < changes.size(); ++index) {
+    plan.steps.reserve(plan.changes.size());
+    for (qsizetype index = 0; index < plan.changes.size(); ++index) {
         if (!ordered.at(index))
             OrderChain(index);
     }
@@ -192,31 +166,34 @@ void Planner::OrderChain(qsizetype first)
         ordered[next] = true;
         chain.append(next);
     }
-    const QString aside = next == first ? FreeName() : QString();
-    if (!aside.isNull())
-        plan.steps.append({{changes.at(first).from, aside}, true});
+    const bool isCircle = next == first;
+    if (isCircle) {
+        plan.aside = FreeName();
+        plan.steps.append({first, RenameStep::Aside});
+    }
     for (qsizetype last = chain.size() - 1; last > 0; --last)
-        plan.steps.append({changes.at(chain.at(last)), false});
-    plan.steps.append({aside.isNull() ? changes.at(first) : NameChange{aside, changes.at(first).to}, false});
+        plan.steps.append({chain.at(last), RenameStep::Whole});
+    plan.steps.append({first, isCircle ? RenameStep::FromAside : RenameStep::Whole});
 }
 
 /// A name that no entry has or gets. Each circle gives it back, so one is enough.
 QString Planner::FreeName()
 {
     const Qt::CaseSensitivity sensitivity = rules.withCase ? Qt::CaseSensitive : Qt::CaseInsensitive;
-    for (int number = 1; freeName.isNull(); ++number) {
-        const QString name = u".rename-%1.tmp"_s.arg(number);
-        if (!takers.contains(Key(name)) && !present.contains(name, sensitivity))
-            freeName = name;
+    QString name = plan.aside;
+    for (int number = 1; name.isNull(); ++number) {
+        const QString tried = u".rename-%1.tmp"_s.arg(number);
+        if (takers.Find(Key(tried)) < 0 && !present.contains(tried, sensitivity))
+            name = tried;
     }
-    return freeName;
+    return name;
 }
 
 } // namespace
 
-RenamePlan PlanRenames(const QStringList &present, const QList<NameChange> &wanted, const NameRules &rules)
+RenamePlan PlanRenames(const QStringList &present, QList<NameChange> wanted, const NameRules &rules)
 {
-    return Planner(present, wanted, rules).Plan();
+    return Planner(present, std::move(wanted), rules).Plan();
 }
 
 } // namespace tressel

@@ -37,15 +37,29 @@ struct RefusedName {
 
 /// One rename of a plan.
 struct RenameStep {
-    NameChange change;
-    bool isHalfWay = false; ///< the name is one for the time being, and another step gives the wanted one
+    /// Which part of its way an entry goes: a name that waits for its own to be free has one aside meanwhile.
+    enum Way { Whole, Aside, FromAside };
+
+    qsizetype change = 0; ///< which of the plan's changes it belongs to
+    Way way = Whole;
     bool operator==(const RenameStep &) const = default;
 };
 
 /// A whole run over a folder, thought through before anything is touched.
 struct RenamePlan {
+    QList<NameChange> changes; ///< as they were wanted
     QList<RenameStep> steps; ///< in an order in which no name is taken when its turn comes
+    QString aside; ///< the name for the time being of all steps that need one
     QList<RefusedName> refused; ///< if there are any, there are no steps
+
+    const QString &From(const RenameStep &step) const
+    {
+        return step.way == RenameStep::FromAside ? aside : changes.at(step.change).from;
+    }
+    const QString &To(const RenameStep &step) const
+    {
+        return step.way == RenameStep::Aside ? aside : changes.at(step.change).to;
+    }
 };
 
 /// How the names of a folder are told apart.
@@ -56,6 +70,6 @@ struct NameRules {
 
 /// Plans to give entries of a folder other names. `present` are the names of all that is in it. A name that
 /// doesn't change is no part of it.
-RenamePlan PlanRenames(const QStringList &present, const QList<NameChange> &wanted, const NameRules &rules);
+RenamePlan PlanRenames(const QStringList &present, QList<NameChange> wanted, const NameRules &rules);
 
 } // namespace tressel

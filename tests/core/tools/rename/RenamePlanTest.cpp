@@ -10,12 +10,6 @@
 
 namespace tressel {
 
-void PrintTo(const RenameStep &step, std::ostream *out)
-{
-    *out << step.change.from.toStdString() << " -> " << step.change.to.toStdString()
-         << (step.isHalfWay ? " (half way)" : "");
-}
-
 void PrintTo(const RefusedName &refused, std::ostream *out)
 {
     *out << refused.change.from.toStdString() << " -> " << refused.change.to.toStdString() << " problem "
@@ -32,9 +26,16 @@ namespace {
 const NameRules withCase{u'/', true};
 const NameRules withoutCase{u'\\', false};
 
-RenameStep Step(const QString &from, const QString &to, bool isHalfWay = false)
+/// The steps as "a -> b", and " (aside)" behind one to a name for the time being.
+QStringList Steps(const RenamePlan &plan)
 {
-    return {{from, to}, isHalfWay};
+    QStringList steps;
+    for (const RenameStep &step : plan.steps) {
+        steps += plan.From(step) + u" -> "_s + plan.To(step);
+        if (step.way == RenameStep::Aside)
+            steps.last() += u" (aside)"_s;
+    }
+    return steps;
 }
 
 /// A plan for a folder that holds nothing but what is to change.
@@ -49,29 +50,28 @@ RenamePlan PlanAlone(const QList<NameChange> &wanted, const NameRules &rules = w
 TEST(RenamePlan, NamesThatDontChangeAreNoPartOfIt)
 {
     const RenamePlan plan = PlanAlone({{u"a"_s, u"a"_s}, {u"b"_s, u"c"_s}});
-    EXPECT_EQ(plan.steps, QList<RenameStep>{Step(u"b"_s, u"c"_s)});
+    EXPECT_EQ(Steps(plan), QStringList{u"b -> c"_s});
     EXPECT_TRUE(plan.refused.isEmpty());
 }
 
 TEST(RenamePlan, AChainStartsAtItsEnd)
 {
     const RenamePlan plan = PlanAlone({{u"a"_s, u"aa"_s}, {u"aa"_s, u"aaaa"_s}, {u"aaaa"_s, u"x"_s}});
-    EXPECT_EQ(plan.steps,
-              (QList<RenameStep>{Step(u"aaaa"_s, u"x"_s), Step(u"aa"_s, u"aaaa"_s), Step(u"a"_s, u"aa"_s)}));
+    EXPECT_EQ(Steps(plan), (QStringList{u"aaaa -> x"_s, u"aa -> aaaa"_s, u"a -> aa"_s}));
 }
 
 TEST(RenamePlan, AChainMetFromItsMiddleIsOrderedOnce)
 {
     const RenamePlan plan = PlanAlone({{u"b"_s, u"c"_s}, {u"a"_s, u"b"_s}});
-    EXPECT_EQ(plan.steps, (QList<RenameStep>{Step(u"b"_s, u"c"_s), Step(u"a"_s, u"b"_s)}));
+    EXPECT_EQ(Steps(plan), (QStringList{u"b -> c"_s, u"a -> b"_s}));
 }
 
 TEST(RenamePlan, ACircleGoesByANameForTheTimeBeing)
 {
     const RenamePlan plan = PlanAlone({{u"a"_s, u"b"_s}, {u"b"_s, u"c"_s}, {u"c"_s, u"a"_s}});
-    EXPECT_EQ(plan.steps,
-              (QList<RenameStep>{Step(u"a"_s, u".rename-1.tmp"_s, true), Step(u"c"_s, u"a"_s),
-                                 Step(u"b"_s, u"c"_s), Step(u".rename-1.tmp"_s, u"b"_s)}));
+    EXPECT_EQ(
+        Steps(plan),
+        (QStringList{u"a -> .rename-1.tmp (aside)"_s, u"c -> a"_s, u"b -> c"_s, u".rename-1.tmp -> b"_s}));
 }
 
 TEST(RenamePlan, TheNameForTheTimeBeingIsNobodys)
@@ -79,7 +79,7 @@ TEST(RenamePlan, TheNameForTheTimeBeingIsNobodys)
     const QStringList present{u"a"_s, u"b"_s, u"x"_s, u".rename-1.tmp"_s};
     const RenamePlan plan =
         PlanRenames(present, {{u"a"_s, u"b"_s}, {u"b"_s, u"a"_s}, {u"x"_s, u".rename-2.tmp"_s}}, withCase);
-    EXPECT_EQ(plan.steps.value(0), Step(u"a"_s, u".rename-3.tmp"_s, true));
+    EXPECT_EQ(Steps(plan).value(0), u"a -> .rename-3.tmp (aside)"_s);
 }
 
 TEST(RenamePlan, TwoThatWouldMeetAreRefused)
@@ -123,7 +123,7 @@ TEST(RenamePlan, NamesThatCanJustBe)
     for (const QString &name : {u"..."_s, u"a\\b"_s, QString(255, u'x'), QString(127, u'é'), oddBytes}) {
         const RenamePlan plan = PlanAlone({{u"old"_s, name}});
         EXPECT_TRUE(plan.refused.isEmpty()) << name.toStdString();
-        EXPECT_EQ(plan.steps, QList<RenameStep>{Step(u"old"_s, name)});
+        EXPECT_EQ(Steps(plan), QStringList{u"old -> "_s + name});
     }
 }
 
@@ -139,14 +139,14 @@ TEST(RenamePlan, EveryReasonIsTold)
 
 TEST(RenamePlan, CaseTellsNamesApartOnlyWhereItDoes)
 {
-    EXPECT_EQ(PlanAlone({{u"a"_s, u"A"_s}}, withoutCase).steps, QList<RenameStep>{Step(u"a"_s, u"A"_s)});
+    EXPECT_EQ(Steps(PlanAlone({{u"a"_s, u"A"_s}}, withoutCase)), QStringList{u"a -> A"_s});
     EXPECT_EQ(PlanRenames({u"a"_s, u"B"_s}, {{u"a"_s, u"b"_s}}, withoutCase).refused,
               (QList<RefusedName>{{{u"a"_s, u"b"_s}, NameProblem::Taken, u"B"_s}}));
     EXPECT_TRUE(PlanRenames({u"a"_s, u"B"_s}, {{u"a"_s, u"b"_s}}, withCase).refused.isEmpty());
     EXPECT_EQ(PlanAlone({{u"x"_s, u"N"_s}, {u"y"_s, u"n"_s}}, withoutCase).refused,
               (QList<RefusedName>{{{u"y"_s, u"n"_s}, NameProblem::Meets, u"x"_s}}));
-    EXPECT_EQ(PlanAlone({{u"a"_s, u"B"_s}, {u"b"_s, u"c"_s}}, withoutCase).steps,
-              (QList<RenameStep>{Step(u"b"_s, u"c"_s), Step(u"a"_s, u"B"_s)}));
+    EXPECT_EQ(Steps(PlanAlone({{u"a"_s, u"B"_s}, {u"b"_s, u"c"_s}}, withoutCase)),
+              (QStringList{u"b -> c"_s, u"a -> B"_s}));
 }
 
 TEST(RenamePlan, AHundredThousandNamesInOneChain)
@@ -157,8 +157,8 @@ TEST(RenamePlan, AHundredThousandNamesInOneChain)
         wanted.append({QString::number(number), QString::number(number + 1)});
     const RenamePlan plan = PlanAlone(wanted);
     ASSERT_EQ(plan.steps.size(), count);
-    EXPECT_EQ(plan.steps.first(), Step(u"99999"_s, u"100000"_s));
-    EXPECT_EQ(plan.steps.last(), Step(u"0"_s, u"1"_s));
+    EXPECT_EQ(Steps(plan).first(), u"99999 -> 100000"_s);
+    EXPECT_EQ(Steps(plan).last(), u"0 -> 1"_s);
 }
 
 } // namespace
