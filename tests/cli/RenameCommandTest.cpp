@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "RunCommand.h"
+#include "support/CaselessDisc.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -141,5 +142,50 @@ TEST_F(RenameCommand, ASignalLeavesEachNameOldOrNew)
         EXPECT_EQ(outcome.status, renamed == names.size() ? 0 : 128 + signal);
     }
 }
+
+/// The same where "a" and "A" are one name.
+class RenameCommandWithoutCase : public RenameCommand, public testing::WithParamInterface<CaselessDisc> {
+protected:
+    /// Runs a check on such a disc, with files there that hold their first names.
+    void Expect(const std::vector<std::string> &names, const std::function<bool()> &check)
+    {
+        const auto holds = HoldsWithoutCase(GetParam(), (folder / "w").c_str(), [&] {
+            PutAll(names);
+            return check();
+        });
+        if (!holds)
+            GTEST_SKIP() << "This system can't mount such a disc.";
+        EXPECT_TRUE(*holds);
+    }
+};
+
+TEST_P(RenameCommandWithoutCase, AChangeOfCaseAloneReachesTheNames)
+{
+    Expect({"abc", "Long name 1.Mp3", "UPPER"}, [this] {
+        const Outcome plan = RunCli({"rename", "case", "w", "--upper", "--dry-run"});
+        const Outcome upper = RunCli({"rename", "case", "w", "--upper"});
+        const bool isUpper = Names() == std::set<std::string>{"ABC", "LONG NAME 1.MP3", "UPPER"};
+        const Outcome words = RunCli({"rename", "case", "w", "--every-word"});
+        return plan.out == "abc -> ABC\nLong name 1.Mp3 -> LONG NAME 1.MP3\n"
+            && upper.out == "renamed 2, not renamed 0\n" && isUpper
+            && words.out == "renamed 3, not renamed 0\n"
+            && Names() == std::set<std::string>{"Abc", "Long Name 1.mp3", "Upper"} && Held("Abc") == "abc"
+            && Held("Long Name 1.mp3") == "Long name 1.Mp3";
+    });
+}
+
+TEST_P(RenameCommandWithoutCase, ANameInOtherCaseIsTaken)
+{
+    Expect({"one.txt", "TWO.txt"}, [this] {
+        const Outcome outcome = RunCli({"rename", "replace", "w", "--from", "one", "--to", "two"});
+        return outcome.status == 1
+            && outcome.err.find("Its name would be TWO.txt, which is there already") != std::string::npos
+            && Names() == std::set<std::string>{"one.txt", "TWO.txt"} && Held("TWO.txt") == "TWO.txt";
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Disc, RenameCommandWithoutCase,
+                         testing::Values(CaselessDisc::InMemory, CaselessDisc::Fat,
+                                         CaselessDisc::FatInUserSpace));
 
 } // namespace

@@ -78,6 +78,19 @@ TEST_F(Rename, ChainsFindAnOrder)
     EXPECT_EQ(memory.files.Bytes(u"C:\\Work\\w\\aa"_s), "a");
 }
 
+TEST_F(Rename, WhereCaseTellsNothingApartANameInOtherCaseIsTaken)
+{
+    Put({u"one"_s, u"TWO"_s});
+    const Ended ended = Act(u"replace"_s, {u"--from"_s, u"one"_s, u"--to"_s, u"two"_s});
+    EXPECT_EQ(ended.status, SomethingFailed);
+    EXPECT_EQ(ended.err,
+              "tressel-cli: C:\\Work\\w\\one: Its name would be TWO, which is there already\n"
+              "tressel-cli: nothing was renamed\n");
+    EXPECT_EQ(Act(u"case"_s, {u"--every-word"_s}).out, "renamed 2, not renamed 0\n");
+    EXPECT_EQ(Names(), (QStringList{u"One"_s, u"Two"_s}));
+    EXPECT_EQ(memory.files.Bytes(u"C:\\Work\\w\\Two"_s), "TWO");
+}
+
 TEST_F(Rename, WhatCantBeIsRefusedWithEveryReason)
 {
     Put({u"a.jpg"_s, u"a.png"_s, u"b.jpg"_s, u"keep.gif"_s, u"keep.jpg"_s});

@@ -6,6 +6,7 @@
 #include "RenameFixture.h"
 #include "machine/posix/PosixFileSystem.h"
 #include "support/AsNobody.h"
+#include "support/CaselessDisc.h"
 #include "support/TemporaryFolder.h"
 
 #include <QMap>
@@ -267,6 +268,27 @@ TEST_F(RealDiscRename, CancelInEachRun)
             unlink(folder.Native(name).constData());
     }
 }
+
+/// The page where "a" and "A" are one name.
+class RenameWithoutCase : public RealDiscRename, public testing::WithParamInterface<CaselessDisc> { };
+
+TEST_P(RenameWithoutCase, AChangeOfCaseAloneReachesTheNames)
+{
+    const auto holds = HoldsWithoutCase(GetParam(), folder.Native("").chopped(1), [this] {
+        for (const char *name : {"abc", "Long name 1.Mp3", "UPPER"})
+            Put(name);
+        tool.page.btnGBRename.UserClicks();
+        return Names() == QByteArrayList{"ABC", "LONG NAME 1.MP3", "UPPER"}
+        && tool.Status() == RenameTool::Total(3) && tool.page.btnGBRename.IsEnabled();
+    });
+    if (!holds)
+        GTEST_SKIP() << "This system can't mount such a disc.";
+    EXPECT_TRUE(*holds);
+}
+
+INSTANTIATE_TEST_SUITE_P(Disc, RenameWithoutCase,
+                         testing::Values(CaselessDisc::InMemory, CaselessDisc::Fat,
+                                         CaselessDisc::FatInUserSpace));
 
 TEST_F(RealDiscRename, AFolderWithoutRightsKeepsItsNames)
 {
