@@ -11,12 +11,13 @@ namespace tressel {
 // The case of texts of ASCII letters, as most names are, many times as quick as that of any text.
 
 bool IsAscii(QStringView text);
+
+/// All other characters stay.
 inline char16_t AsciiLower(QChar character)
 {
     const char16_t code = character.unicode();
     return code >= u'A' && code <= u'Z' ? code ^ (u'a' ^ u'A') : code;
 }
-/// All other characters stay.
 QString WithAsciiUpper(QString text);
 QString WithAsciiLower(QString text);
 

@@ -20,6 +20,7 @@ TEST(AsciiCase, IsTheCaseOfAnyTextWhereThatIsAscii)
         EXPECT_EQ(WithAsciiUpper(text), text.toUpper()) << code;
         EXPECT_EQ(WithAsciiLower(text), text.toLower()) << code;
         EXPECT_EQ(WithAsciiLower(text), text.toCaseFolded()) << code;
+        EXPECT_EQ(QChar(AsciiLower(QChar(code))), QChar(code).toLower()) << code;
     }
     EXPECT_TRUE(IsAscii(QString()));
 }
@@ -28,6 +29,7 @@ TEST(AsciiCase, OtherCharactersAreNoneOfIts)
 {
     EXPECT_FALSE(IsAscii(u"caf\u00E9"_s));
     EXPECT_FALSE(IsAscii(QString(QChar(0x80))));
+    EXPECT_EQ(AsciiLower(u'\u00C9'), u'\u00C9');
     EXPECT_EQ(WithAsciiUpper(u"caf\u00E9"_s), u"CAF\u00E9"_s);
     EXPECT_EQ(WithAsciiLower(u"CAF\u00C9"_s), u"caf\u00C9"_s);
 }
