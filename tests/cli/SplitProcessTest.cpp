@@ -35,13 +35,16 @@ protected:
         workingFolder = folder / "w";
     }
     std::set<std::string> Here() const { return Below("w"); }
-    /// Makes a file of nearly all the room that is left on its disc.
+    /// Makes a file of nearly all the room that is left on its disc, piece by piece: the program takes of it
+    /// too.
     void TakeRoom(const std::string &name) const
     {
-        constexpr std::uintmax_t rest = 1 << 20;
+        constexpr off_t piece = 1 << 20;
         const fs::path path = Put(name, "");
         const int file = open(path.c_str(), O_WRONLY | O_CLOEXEC);
-        posix_fallocate(file, 0, static_cast<off_t>(fs::space(path).available - rest));
+        off_t taken = 0;
+        while (fs::space(path).available > piece && posix_fallocate(file, taken, piece) == 0)
+            taken += piece;
         close(file);
     }
     /// Runs a command of the shell in the folder; true if it ended well.
@@ -155,7 +158,8 @@ TEST_F(SplitProcess, ADiscThatAnotherFillsMeanwhileIsLeftAsItWas)
         if (!MountMemory((folder / "w").c_str(), 64 << 20))
             return false;
         Put("w/a", "");
-        if (truncate((folder / "w/a").c_str(), 40 << 20) != 0)
+        // The parts need nearly all of it.
+        if (truncate((folder / "w/a").c_str(), 60 << 20) != 0)
             return false;
         interruptWhen = [this, isFull = false]() mutable {
             if (!isFull && fs::exists(folder / "w/a.1")) {
