@@ -142,9 +142,9 @@ void NotePaths()
 {
     for (int file = 0; file < mostNoted; ++file) {
         PathRoom room;
-        const std::string_view path = PathOf(file, room);
         PathRoom &noted = notedPaths.at(static_cast<std::size_t>(file));
-        std::snprintf(noted.data(), noted.size(), "%.*s", static_cast<int>(path.size()), path.data());
+        const std::size_t length = PathOf(file, room).copy(noted.data(), noted.size() - 1);
+        noted.at(length) = '\0';
     }
     hasNotedPaths = true;
 }
