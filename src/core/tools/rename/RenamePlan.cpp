@@ -4,7 +4,9 @@
 #include "tools/rename/RenamePlan.h"
 
 #include "machine/NameText.h"
-#include "tools/rename/NameTable.h"
+
+#include <QHash>
+#include <QStringView>
 
 #include <array>
 #include <map>
@@ -40,6 +42,29 @@ std::optional<NameProblem> ProblemOf(const QString &name, QChar separator)
     return {};
 }
 
+/// Numbers of changes by names, which must outlive it.
+class ChangesByName {
+public:
+    explicit ChangesByName(qsizetype names) { numbers.reserve(names); }
+
+    /// Puts a change in unless another has the name. The one that has it then.
+    qsizetype PutOrFind(QStringView name, qsizetype change)
+    {
+        Number &number = numbers[name];
+        if (number.value < 0)
+            number.value = change;
+        return number.value;
+    }
+    /// -1 if no change has the name.
+    qsizetype Find(QStringView name) const { return numbers.value(name).value; }
+
+private:
+    struct Number {
+        qsizetype value = -1;
+    };
+    QHash<QStringView, Number> numbers;
+};
+
 /// Its arguments must outlive it: the names that it looks for are views of them.
 class Planner {
 public:
@@ -67,7 +92,7 @@ public:
 private:
     const NameChange &Change(qsizetype index) const { return plan.changes.at(index); }
     QStringView Key(const QString &name);
-    NameTable Leavers();
+    ChangesByName Leavers();
     void TakeNewNames();
     void FindHolders();
     void Refuse(qsizetype index, NameProblem problem, const QString &other = {});
@@ -78,7 +103,7 @@ private:
     NameRules rules;
     const QStringList &present;
     QStringList folded; ///< what keys are views of where names are told apart without case
-    NameTable takers; ///< the first change to each name, by the names that they take
+    ChangesByName takers; ///< the first change to each name, by the names that they take
     QList<qsizetype> holders; ///< for each change, which other one leaves its new name; -1 for none
     std::map<qsizetype, RefusedName> refused; ///< by the numbers of their changes
     QList<bool> ordered; ///< changes whose steps stand in the plan, or that are none
@@ -119,9 +144,9 @@ void Planner::TakeNewNames()
 }
 
 /// The changes by the names that they leave.
-NameTable Planner::Leavers()
+ChangesByName Planner::Leavers()
 {
-    NameTable leavers(plan.changes.size());
+    ChangesByName leavers(plan.changes.size());
     for (qsizetype index = 0; index < plan.changes.size(); ++index) {
         if (!ordered.at(index))
             leavers.PutOrFind(Key(Change(index).from), index);
@@ -131,7 +156,7 @@ NameTable Planner::Leavers()
 
 void Planner::FindHolders()
 {
-    std::optional<NameTable> leavers;
+    std::optional<ChangesByName> leavers;
     for (const QString &name : present) {
         const QStringView key = Key(name);
         const qsizetype taker = takers.Find(key);
