@@ -6,6 +6,7 @@
 #include "base/Numbers.h"
 #include "base/Version.h"
 #include "language/Session.h"
+#include "machine/CopiedAtOnce.h"
 #include "machine/Dialogs.h"
 #include "machine/Events.h"
 #include "machine/FileSystem.h"
@@ -16,6 +17,8 @@
 #include "tools/splitter/FloppyCopy.h"
 #include "tools/splitter/SplitRules.h"
 #include "tools/splitter/SplitterPage.h"
+
+#include <algorithm>
 
 namespace tressel {
 
@@ -146,7 +149,8 @@ bool FileSplit::WritePart()
     std::unique_ptr<OpenFile> file;
     try {
         file = OpenOrMake(run.context.machine.files, run.Whole(name), Links::Keep);
-        file->Write(QByteArray::fromRawData(room.constData(), got));
+        const qint64 taken = TakeChunk(*file);
+        file->Write(QByteArray::fromRawData(room.constData() + taken, got - taken));
     } catch (const Failure &failure) {
         if (file)
             leftOpen.push_back(std::move(file));
@@ -159,6 +163,21 @@ bool FileSplit::WritePart()
     unseen.Do([&] { file->Close(); });
     run.context.watch.Did(Outcome::Made, run.Whole(name));
     return true;
+}
+
+qint64 FileSplit::TakeChunk(OpenFile &file)
+{
+    qint64 taken = 0;
+    // What fails here is told by the write that follows.
+    Steps unseen;
+    unseen.Do([&] {
+        const qint64 end = source->Position();
+        source->Seek(end - got);
+        for (qint64 moved = -1; moved != 0 && taken < got; taken += moved)
+            moved = file.TakeFrom(*source, std::min(got - taken, takenAtOnce));
+        source->Seek(end);
+    });
+    return taken;
 }
 
 void FileSplit::WriteBatchFile()

@@ -28,6 +28,9 @@ private:
     bool WriteParts();
     void ReadChunk();
     bool WritePart();
+    /// Has the system bring the chunk that was just read, which it still has at hand, into the part: cheaper
+    /// than from the room. How much of it; the rest is to be written.
+    qint64 TakeChunk(OpenFile &file);
     void WriteBatchFile();
     bool EndAsUnread();
     bool EndAsUnwritten(const Failure &failure);

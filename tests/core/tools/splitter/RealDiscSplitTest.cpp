@@ -82,6 +82,26 @@ TEST_F(RealDiscSplit, AnEmptyFileGivesTheBatchFileAlone)
     EXPECT_EQ(Names(), (QStringList{u"e"_s, u"e.bat"_s}));
 }
 
+TEST_F(RealDiscSplit, APartHoldsWhatWasReadThoughTheFileIsCutBeforeItIsWritten)
+{
+    const QByteArray contents = QByteArray("0123456789").repeated(300);
+    Put(u"s"_s, contents);
+    Choose(u"s"_s);
+    bool isCut = false;
+    files.before = [&](const DiscStep &step) {
+        if (step.operation != Operation::WriteBytes || isCut)
+            return;
+        isCut = true;
+        EXPECT_EQ(step.path, Path(u"s.1"_s));
+        EXPECT_EQ(truncate(folder.Native("s").constData(), 100), 0);
+    };
+    tool.Split();
+    EXPECT_TRUE(isCut);
+    EXPECT_EQ(tool.Status(), u"Finished"_s);
+    EXPECT_EQ(Names(), (QStringList{u"s"_s, u"s.1"_s, u"s.bat"_s}));
+    EXPECT_EQ(Read(u"s.1"_s), contents.first(1024));
+}
+
 TEST_F(RealDiscSplit, PartNamesThatDoNotFitLeaveNothing)
 {
     const QString name(254, u'n');
