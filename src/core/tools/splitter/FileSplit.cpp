@@ -167,16 +167,13 @@ bool FileSplit::WritePart()
 
 qint64 FileSplit::TakeChunk(OpenFile &file)
 {
+    const qint64 end = source->Position();
+    source->Seek(end - got);
     qint64 taken = 0;
-    // What fails here is told by the write that follows.
-    Steps unseen;
-    unseen.Do([&] {
-        const qint64 end = source->Position();
-        source->Seek(end - got);
-        for (qint64 moved = -1; moved != 0 && taken < got; taken += moved)
-            moved = file.TakeFrom(*source, std::min(got - taken, takenAtOnce));
-        source->Seek(end);
-    });
+    for (qint64 moved = -1; moved != 0 && taken < got; taken += moved)
+        moved = file.TakeFrom(*source, std::min(got - taken, takenAtOnce));
+    // Fails as a write does: the next chunk would be read from the wrong place.
+    source->Seek(end);
     return taken;
 }
 
